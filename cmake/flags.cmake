@@ -1,0 +1,22 @@
+# How every target of the project is compiled.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
+
+# -Og keeps a debug build fast enough for thousands of played matches. NDEBUG is never defined:
+# invariants hold in every build, also in the one that people play.
+set(CMAKE_CXX_FLAGS_DEBUG "-Og -g")
+set(CMAKE_CXX_FLAGS_RELEASE "-O2")
+# The sanitizers and the fuzzers run on this one.
+set(CMAKE_CXX_FLAGS_RELWITHDEBINFO "-O1 -g1")
+
+add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror=unused-result)
+
+find_program(ZOVIN_CCACHE ccache)
+if(ZOVIN_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_CXX_COMPILER_LAUNCHER "${ZOVIN_CCACHE}")
+endif()

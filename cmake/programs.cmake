@@ -1,0 +1,42 @@
+# zovin, the program, and the tools over the same libraries.
+
+if(TARGET zovin_qt AND EXISTS "${CMAKE_SOURCE_DIR}/platform/qt/app_main.cpp")
+  add_executable(zovin platform/qt/app_main.cpp)
+  set_target_properties(zovin PROPERTIES AUTOMOC ON)
+  target_link_libraries(zovin PRIVATE zovin_qt)
+  if(TARGET zovin_sound)
+    add_dependencies(zovin zovin_sound)
+  endif()
+endif()
+
+# A tool is main.cpp, with its *_view.cpp when it shows something through Qt, over a library of the
+# rest of its folder, so that tests and fuzzers reach that rest without the program.
+function(zovin_tool name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "PROGRAM_LIBRARIES;LIBRARIES")
+  zovin_sources(parts PATTERNS tools/${name}/*.cpp EXCLUDE "/main\\.cpp$|_view\\.cpp$")
+  zovin_sources(views PATTERNS tools/${name}/*_view.cpp)
+  set(own_library)
+  if(parts)
+    set(own_library zovin_${name})
+    add_library(${own_library} STATIC ${parts})
+    target_link_libraries(${own_library} PUBLIC zovin_logic ${arg_LIBRARIES})
+  endif()
+  foreach(library IN LISTS arg_PROGRAM_LIBRARIES)
+    if(NOT TARGET ${library})
+      return()
+    endif()
+  endforeach()
+  if(NOT EXISTS "${CMAKE_SOURCE_DIR}/tools/${name}/main.cpp")
+    return()
+  endif()
+  add_executable(${name} tools/${name}/main.cpp ${views})
+  target_link_libraries(${name} PRIVATE ${own_library} zovin_logic
+    ${arg_LIBRARIES} ${arg_PROGRAM_LIBRARIES})
+endfunction()
+
+zovin_sources(tool_mains PATTERNS tools/sonda/*.cpp tools/simula/*.cpp)
+if(TARGET zovin_logic AND tool_mains)
+  find_package(CLI11 REQUIRED)
+  zovin_tool(sonda PROGRAM_LIBRARIES zovin_qt LIBRARIES CLI11::CLI11)
+  zovin_tool(simula LIBRARIES CLI11::CLI11)
+endif()

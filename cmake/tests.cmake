@@ -1,0 +1,112 @@
+# Every test is found by its place and name. Labels: unit, slow, property, gui, scenario, golden,
+# e2e, structure.
+
+include(GoogleTest)
+
+set(test_scratch "${CMAKE_BINARY_DIR}/scratch")
+file(MAKE_DIRECTORY "${test_scratch}")
+
+# One GoogleTest program over all files of a kind, each of its cases a test of its own.
+function(zovin_gtest name label)
+  cmake_parse_arguments(PARSE_ARGV 2 arg "" "EXCLUDE;TIMEOUT" "PATTERNS;LIBRARIES")
+  zovin_sources(sources PATTERNS ${arg_PATTERNS} EXCLUDE "${arg_EXCLUDE}")
+  if(NOT sources OR NOT TARGET zovin_logic)
+    return()
+  endif()
+  add_executable(${name} ${sources})
+  set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
+  target_link_libraries(${name} PRIVATE ${test_libraries} ${arg_LIBRARIES}
+    GTest::gtest GTest::gmock GTest::gtest_main)
+  gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
+    TEST_PREFIX "${label}." WORKING_DIRECTORY "${test_scratch}"
+    PROPERTIES LABELS ${label} TIMEOUT ${arg_TIMEOUT}
+               ENVIRONMENT "ZOVIN_SOURCE=${CMAKE_SOURCE_DIR};ZOVIN_BIN=${CMAKE_BINARY_DIR}/bin")
+endfunction()
+
+if(TARGET zovin_logic)
+  find_package(GTest REQUIRED)
+  set(test_libraries zovin_logic)
+  foreach(library zovin_sonda zovin_simula)
+    if(TARGET ${library})
+      list(APPEND test_libraries ${library})
+    endif()
+  endforeach()
+
+  # Makers of cards, seats and tables that several kinds of test share.
+  zovin_sources(support_sources PATTERNS tests/support/*.cpp)
+  if(support_sources)
+    add_library(test_support STATIC ${support_sources})
+    target_link_libraries(test_support PUBLIC ${test_libraries} GTest::gtest GTest::gmock)
+    list(PREPEND test_libraries test_support)
+  endif()
+
+  zovin_gtest(unit_tests unit PATTERNS tests/unit/**/*_test.cpp EXCLUDE "_slow_test\\.cpp$"
+    TIMEOUT 60)
+  zovin_gtest(slow_tests slow PATTERNS tests/unit/**/*_slow_test.cpp TIMEOUT 3600)
+
+  zovin_sources(property_sources PATTERNS tests/property/**/*_test.cpp)
+  if(property_sources)
+    find_package(rapidcheck REQUIRED)
+    zovin_gtest(property_tests property PATTERNS tests/property/**/*_test.cpp TIMEOUT 1800
+      LIBRARIES rapidcheck rapidcheck_gtest)
+  endif()
+
+  add_test(NAME structure.no_qt_in_logic
+    COMMAND "${CMAKE_COMMAND}"
+      "-DCXX=${CMAKE_CXX_COMPILER}"
+      "-DINCLUDES=$<JOIN:$<TARGET_PROPERTY:zovin_logic,INCLUDE_DIRECTORIES>,|>"
+      "-DSCRATCH=${test_scratch}"
+      -P "${CMAKE_SOURCE_DIR}/cmake/no_qt_in_logic.cmake")
+  set_tests_properties(structure.no_qt_in_logic PROPERTIES LABELS structure)
+endif()
+
+# Real widgets, real events, no screen: one Qt Test program a file.
+zovin_sources(gui_sources PATTERNS tests/gui/*_test.cpp)
+if(gui_sources AND TARGET zovin_qt)
+  find_package(Qt6 REQUIRED COMPONENTS Test)
+  foreach(source IN LISTS gui_sources)
+    cmake_path(GET source STEM name)
+    add_executable(gui_${name} "${source}")
+    set_target_properties(gui_${name} PROPERTIES
+      AUTOMOC ON RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
+    target_link_libraries(gui_${name} PRIVATE zovin_qt ${test_libraries} Qt6::Test)
+    add_test(NAME gui.${name} COMMAND gui_${name} WORKING_DIRECTORY "${test_scratch}")
+    set_tests_properties(gui.${name} PROPERTIES LABELS gui TIMEOUT 240
+      ENVIRONMENT "QT_QPA_PLATFORM=offscreen;ZOVIN_SOURCE=${CMAKE_SOURCE_DIR};ZOVIN_BIN=${CMAKE_BINARY_DIR}/bin")
+  endforeach()
+endif()
+
+# Text in, text out, through the line console.
+function(zovin_console_tests label timeout)
+  file(GLOB_RECURSE scripts CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/${ARGV2}/*.esc")
+  foreach(script IN LISTS scripts)
+    cmake_path(RELATIVE_PATH script BASE_DIRECTORY "${CMAKE_SOURCE_DIR}/${ARGV2}"
+      OUTPUT_VARIABLE name)
+    string(REGEX REPLACE "\\.esc$" "" name "${name}")
+    add_test(NAME ${label}.${name}
+      COMMAND "${CMAKE_SOURCE_DIR}/tests/scenarios/run.sh" compare $<TARGET_FILE:sonda> "${script}")
+    set_tests_properties(${label}.${name} PROPERTIES LABELS ${label} TIMEOUT ${timeout}
+      WORKING_DIRECTORY "${test_scratch}" ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+  endforeach()
+endfunction()
+
+if(TARGET sonda)
+  zovin_console_tests(scenario 60 tests/scenarios)
+  zovin_console_tests(golden 300 tests/golden)
+endif()
+include("${CMAKE_SOURCE_DIR}/tests/golden/golden.cmake" OPTIONAL)
+
+# The real program in a real window on a screen of its own. Serial: a click belongs to the window
+# that has the focus, and two cores cannot keep two tables in time.
+if(TARGET zovin)
+  file(GLOB e2e_scripts CONFIGURE_DEPENDS
+    "${CMAKE_SOURCE_DIR}/tests/e2e/*.sh" "${CMAKE_SOURCE_DIR}/tests/e2e/*.py")
+  foreach(script IN LISTS e2e_scripts)
+    cmake_path(GET script STEM name)
+    add_test(NAME e2e.${name}
+      COMMAND "${CMAKE_SOURCE_DIR}/cmake/under_xvfb.sh" "${script}")
+    set_tests_properties(e2e.${name} PROPERTIES LABELS e2e RUN_SERIAL TRUE TIMEOUT 300
+      WORKING_DIRECTORY "${test_scratch}"
+      ENVIRONMENT "ZOVIN_SOURCE=${CMAKE_SOURCE_DIR};ZOVIN_BIN=${CMAKE_BINARY_DIR}/bin")
+  endforeach()
+endif()
