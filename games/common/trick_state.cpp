@@ -1,0 +1,3 @@
+#include "games/common/trick_state.h"
+
+EstadoBazas bazas;

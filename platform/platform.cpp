@@ -1,0 +1,53 @@
+#include "platform/platform.h"
+
+#include <array>
+
+namespace {
+
+Plataforma* en_uso = nullptr;
+
+constexpr std::array kNombres{
+    "mesa",
+    "Pic_Botonera",
+    "Pic_Boton",
+    "Pic_BotContinuar",
+    "Pic_SelOpciones",
+    "Pic_Sugerencia",
+    "Pic_MasAyuda",
+    "Bot_CerrarSuge",
+    "Pic_Tantos",
+    "Pic_Mover",
+    "Pic_BotSuperior",
+    "Pic_BotLateral",
+    "Pic_BotDobSeg",
+    "Pic_Apostadora",
+    "Pic_APBotPasar",
+    "Pic_APBotIgualar",
+    "Pic_APBotApostar",
+    "Pic_APBotAnular",
+};
+static_assert(kNombres.size() == static_cast<std::size_t>(Control::Ultimo) + 1);
+
+} // namespace
+
+Plataforma& plataforma() {
+    if (en_uso == nullptr)
+        throw std::logic_error("no hay plataforma en uso");
+    return *en_uso;
+}
+
+void UsaPlataforma(Plataforma& cual) {
+    en_uso = &cual;
+}
+
+const char* NombreDe(Control control) {
+    return kNombres[static_cast<std::size_t>(control)];
+}
+
+std::optional<Control> ControlDe(std::string_view nombre) {
+    for (std::size_t i = 0; i < kNombres.size(); ++i) {
+        if (nombre == kNombres[i])
+            return static_cast<Control>(i);
+    }
+    return std::nullopt;
+}

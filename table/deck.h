@@ -1,0 +1,27 @@
+#pragma once
+// The deck: built for the game and its rules, shuffled, dealt, sorted for show.
+
+#include "core/tabla.h"
+
+// Sets the deck fields for JuegoActivo and the rules: TipoBaraja, ValoresPorPalo, CartasNormales, ...,
+// ValorEnBaraja, ValorCarta, OrdenCarta, the names of the ranks; loads the deck image from CarpetaTrabajo
+// last. An unknown game is an error of the caller (std::logic_error).
+void ConstruirBaraja();
+
+// Fills Baraja with the whole deck at random places: CartasEnMazo, PosicionMazo 1, NumDescartes 0.
+void Barajar();
+
+// The deal of a hand, by SistemaReparto. False when the match was left meanwhile.
+[[nodiscard]] bool Repartir();
+
+// n more cards for SerieActual of the seat, covered or not. Writes Mano, NumCartas, CartasEnMazo, PosicionMazo.
+void RobarCartas(Integer asiento, Integer n, Integer tapada);
+
+// The cards of SerieActual in the order that the game shows them.
+void OrdenarMano(Integer asiento);
+
+// Closes the gaps of the seat's Mano in SerieActual, order kept, and recounts NumCartas... of that serie.
+void CompactarMano(Integer asiento);
+
+// A face-up or covered card for place lugar of a serie, all fields written.
+void PonCarta(Integer asiento, Integer serie, int lugar, Integer palo, Integer valor, Integer cara);

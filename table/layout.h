@@ -1,0 +1,37 @@
+#pragma once
+// The places of the table, in pixels: zones, centre places, the corner of a card in a hand.
+
+#include "core/tabla.h"
+#include "platform/canvas.h"
+
+inline constexpr int kAnchoBotonera = 90;
+
+// Reads the window's size from the platform; writes AnchoPantalla, AltoPantalla (800 by 600 at least),
+// AnchoMesa, AltoMesa, CentroX, CentroY, the zones Mesa* of the four seats and PosFicha*. Places only.
+void CalculaLugares();
+
+// The corner where place lugar of a hand of cartas cards stands: writes CartaX, CartaY. Reads the raise of
+// that place from Mano and SerieActual. cartas below 1 counts as 1.
+void ColocarCarta(int asiento, int lugar, int cartas);
+
+// The strip of the seat's hand of cartas cards, along its edge and wholly inside the zone.
+Rectangulo FranjaMano(int asiento, int cartas);
+
+// The zone of a seat, and the zone with the 20 pixels into which raised cards stand.
+Rectangulo ZonaDe(int asiento);
+Rectangulo ZonaConRealce(int asiento);
+
+// Where the seat's played card lands in the centre.
+struct Punto {
+    int x = 0, y = 0;
+};
+Punto LugarCentro(int asiento);
+
+// Seats 1 and 3 sit at the sides: their cards lie, their words stand in columns.
+bool AsientoLateral(int asiento);
+
+// The orientation that a seat's cards are drawn with: OrientacionAsiento mod 4 + 1.
+Integer OrientacionDe(int asiento);
+
+// The corner of the pile for the active game: writes MazoX, MazoY.
+void ColocarMazo();

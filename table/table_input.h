@@ -1,0 +1,29 @@
+#pragma once
+// The mouse and the keyboard on `mesa`. Handlers run inside a pass of events; they set flags and choices and
+// never go on with the game themselves.
+
+#include "platform/platform.h"
+
+// What lies under a point: AsientoBajoCursor and CartaBajoCursor (0 none).
+void DetectaJdorYCar(int x, int y);
+// ZonaBajoCursor: the seat zone that holds the point, 0 none; the later seat wins.
+void DetectaZonaCartas(int x, int y);
+// FilaReparto and ColumnaReparto of the manual spread, 0 outside it and in the gaps.
+void HallaFilyCol(int x, int y);
+// True when place CartaBajoCursor of JugadorActual may be played now.
+bool CartaLegal();
+
+void Form_MouseMove(int x, int y);
+void Form_MouseDown(int boton, int x, int y);
+void Form_MouseUp(int x, int y);
+void Form_Click(int x, int y);
+// Esc, q and Q minimise, control-C does nothing; true for any other key, which acts as Pic_BotContinuar and,
+// with no match on, as Pic_Boton(1).
+bool TeclaActiva(int tecla);
+
+void MuestraOpciones();
+void Opciones_MouseMove(int y);
+void Opciones_MouseUp();
+
+// The shape for the pointer's last place reckoned anew: a turn begins, a flag has changed.
+void RefrescaPuntero();
