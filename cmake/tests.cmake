@@ -6,6 +6,14 @@ include(GoogleTest)
 set(test_scratch "${CMAKE_BINARY_DIR}/scratch")
 file(MAKE_DIRECTORY "${test_scratch}")
 
+# Where a test finds the checkout and the programs, and which leaks of the system's own libraries
+# the sanitizer lets pass.
+set(test_environment
+  "ZOVIN_SOURCE=${CMAKE_SOURCE_DIR}"
+  "ZOVIN_BIN=${CMAKE_BINARY_DIR}/bin"
+  "LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/cmake/known_leaks.txt:print_suppressions=0")
+set(test_environment_offscreen ${test_environment} "QT_QPA_PLATFORM=offscreen")
+
 # One GoogleTest program over all files of a kind, each of its cases a test of its own.
 function(zovin_gtest name label)
   cmake_parse_arguments(PARSE_ARGV 2 arg "" "EXCLUDE;TIMEOUT" "PATTERNS;LIBRARIES")
@@ -20,7 +28,7 @@ function(zovin_gtest name label)
   gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
     TEST_PREFIX "${label}." WORKING_DIRECTORY "${test_scratch}"
     PROPERTIES LABELS ${label} TIMEOUT ${arg_TIMEOUT}
-               ENVIRONMENT "ZOVIN_SOURCE=${CMAKE_SOURCE_DIR};ZOVIN_BIN=${CMAKE_BINARY_DIR}/bin")
+               ENVIRONMENT "${test_environment}")
 endfunction()
 
 if(TARGET zovin_logic)
@@ -72,7 +80,7 @@ if(gui_sources AND TARGET zovin_qt)
     target_link_libraries(gui_${name} PRIVATE zovin_qt ${test_libraries} Qt6::Test)
     add_test(NAME gui.${name} COMMAND gui_${name} WORKING_DIRECTORY "${test_scratch}")
     set_tests_properties(gui.${name} PROPERTIES LABELS gui TIMEOUT 240
-      ENVIRONMENT "QT_QPA_PLATFORM=offscreen;ZOVIN_SOURCE=${CMAKE_SOURCE_DIR};ZOVIN_BIN=${CMAKE_BINARY_DIR}/bin")
+      ENVIRONMENT "${test_environment_offscreen}")
   endforeach()
 endif()
 
@@ -86,7 +94,7 @@ function(zovin_console_tests label timeout)
     add_test(NAME ${label}.${name}
       COMMAND "${CMAKE_SOURCE_DIR}/tests/scenarios/run.sh" compare $<TARGET_FILE:sonda> "${script}")
     set_tests_properties(${label}.${name} PROPERTIES LABELS ${label} TIMEOUT ${timeout}
-      WORKING_DIRECTORY "${test_scratch}" ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+      WORKING_DIRECTORY "${test_scratch}" ENVIRONMENT "${test_environment_offscreen}")
   endforeach()
 endfunction()
 
@@ -107,6 +115,6 @@ if(TARGET zovin)
       COMMAND "${CMAKE_SOURCE_DIR}/cmake/under_xvfb.sh" "${script}")
     set_tests_properties(e2e.${name} PROPERTIES LABELS e2e RUN_SERIAL TRUE TIMEOUT 300
       WORKING_DIRECTORY "${test_scratch}"
-      ENVIRONMENT "ZOVIN_SOURCE=${CMAKE_SOURCE_DIR};ZOVIN_BIN=${CMAKE_BINARY_DIR}/bin")
+      ENVIRONMENT "${test_environment}")
   endforeach()
 endif()

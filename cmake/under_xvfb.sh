@@ -21,7 +21,8 @@ for _ in $(seq 100); do
 done
 [ -s "$scratch/display" ] || { cat "$scratch/xvfb.log" >&2; exit 1; }
 
-export DISPLAY=":$(tr -d '\n' <"$scratch/display")"
+DISPLAY=":$(tr -d '\n' <"$scratch/display")"
+export DISPLAY
 export HOME="$scratch/home" XDG_RUNTIME_DIR="$scratch/run" QT_QPA_PLATFORM=xcb
 unset WAYLAND_DISPLAY XDG_CONFIG_HOME XDG_DATA_HOME XDG_CACHE_HOME XDG_STATE_HOME
 mkdir -p "$HOME" && mkdir -m 700 "$XDG_RUNTIME_DIR"
