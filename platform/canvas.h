@@ -58,7 +58,8 @@ public:
     // One line of text; y is the top of its line box, x the left, middle or right of the text.
     virtual void Texto(int x, int y, std::string_view texto, const Fuente& fuente, Color color,
                        Alineacion alineacion) = 0;
-    // The whole card, or only its upper alto pixels (a mini card of the manual spread); corners stay clear.
+    // A card at its upper left corner; its round corners stay clear. MiniCarta draws it made smaller, ancho
+    // by alto pixels (the manual spread, a card in the player's hand).
     virtual void Carta(int x, int y, const ImagenCarta& carta) = 0;
     virtual void MiniCarta(int x, int y, int ancho, int alto, const ImagenCarta& carta) = 0;
     virtual void Lamina(int x, int y, const lamina::Recorte& recorte) = 0;

@@ -51,3 +51,21 @@ std::optional<Control> ControlDe(std::string_view nombre) {
     }
     return std::nullopt;
 }
+
+Control PadreDe(Control control) {
+    switch (control) {
+    case Control::Pic_Boton:
+    case Control::Pic_BotContinuar:
+        return Control::Pic_Botonera;
+    case Control::Pic_MasAyuda:
+    case Control::Bot_CerrarSuge:
+        return Control::Pic_Sugerencia;
+    case Control::Pic_APBotPasar:
+    case Control::Pic_APBotIgualar:
+    case Control::Pic_APBotApostar:
+    case Control::Pic_APBotAnular:
+        return Control::Pic_Apostadora;
+    default:
+        return Control::Mesa;
+    }
+}

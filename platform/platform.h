@@ -40,6 +40,10 @@ enum class Control {
 const char* NombreDe(Control control);
 std::optional<Control> ControlDe(std::string_view nombre);
 
+// What a control stands on: the main buttons and Pic_BotContinuar on Pic_Botonera, the buttons of a panel on
+// their panel, all others on the felt; Mesa answers itself. Places are counted from its upper left corner.
+Control PadreDe(Control control);
+
 // Pointer shapes. 0..8 are also the values of CursorTabla.
 enum class Puntero : Integer {
     Flecha = 0,
@@ -120,7 +124,15 @@ public:
     virtual int AnchoVentana() const = 0; // the table's window, button column included
     virtual int AltoVentana() const = 0;
 
-    // Controls. A control's canvas has its own origin; Control::Mesa is the felt, in table pixels.
+    // The start: the splash `careta`, centred on the screen, which a click takes away; then `mesa` over it.
+    // Without a screen there is neither.
+    virtual void MuestraCareta() {}
+    virtual void MuestraMesa() {}
+
+    // Controls. A control's canvas has its own origin; Control::Mesa is the felt, in table pixels. Coloca
+    // counts from the control that it stands on (PadreDe) and keeps the picture while the size stays; a new
+    // size clears it. A control is hidden until Muestra, except Pic_Botonera, and a control on a hidden one
+    // is not seen. Bare felt on a control's canvas lets the table show through.
     virtual Lienzo& LienzoDe(Control control, int indice) = 0;
     virtual void Coloca(Control control, int indice, const Rectangulo& donde) = 0;
     virtual void Muestra(Control control, int indice, bool visible) = 0;
