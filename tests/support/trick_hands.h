@@ -1,0 +1,29 @@
+#pragma once
+// Makers of hands and tricks for the tests of Tute, Brisca and Cinquillo.
+
+#include <vector>
+
+#include "core/game_state.h"
+#include "games/common/trick_state.h"
+
+namespace prueba {
+
+struct Carta {
+    Integer palo = 0, valor = 0;
+    Carta(Integer p, Integer v) : palo(p), valor(v) {}
+    friend bool operator==(const Carta&, const Carta&) = default;
+};
+
+inline constexpr Integer kAs = 1, kTres = 3, kSota = 10, kCaballo = 11, kRey = 12;
+
+// A clean table for a game of 2 to 4 seats (three seats leave seat 4 out, two seats play 2 and 4): deck
+// fields and values of the game, direct sense, all seats automatic, level 50, character 2, no trump.
+void MesaDeBazas(Integer juego, Integer jugadores);
+
+// The seat's whole hand, from place 1.
+void PonMano(Integer asiento, const std::vector<Carta>& cartas);
+
+// The seat's card on the table; the first one laid gives PaloSalida and JugadorSalida.
+void EnMesa(Integer asiento, Carta carta);
+
+} // namespace prueba
