@@ -98,9 +98,18 @@ function(zovin_console_tests label timeout)
   endforeach()
 endfunction()
 
+# golden_write plays every golden match and writes what it answers over what stood there.
+add_custom_target(golden_write)
 if(TARGET sonda)
   zovin_console_tests(scenario 60 tests/scenarios)
   zovin_console_tests(golden 300 tests/golden)
+  file(GLOB_RECURSE golden_scripts "${CMAKE_SOURCE_DIR}/tests/golden/*.esc")
+  foreach(script IN LISTS golden_scripts)
+    add_custom_command(TARGET golden_write POST_BUILD VERBATIM
+      COMMAND "${CMAKE_COMMAND}" -E env QT_QPA_PLATFORM=offscreen
+        "${CMAKE_SOURCE_DIR}/tests/scenarios/run.sh" write $<TARGET_FILE:sonda> "${script}")
+  endforeach()
+  add_dependencies(golden_write sonda)
 endif()
 include("${CMAKE_SOURCE_DIR}/tests/golden/golden.cmake" OPTIONAL)
 
