@@ -5,12 +5,14 @@
 #include <memory>
 #include <tuple>
 
+#include "betting/bet_fields.h"
 #include "core/state_fields.h"
+#include "games/common/series_fields.h"
 #include "games/common/trick_fields.h"
 
 // The blocks, in the order in which they are walked. A field's name is its own in all of them.
 inline auto LosBloques() {
-    return std::tie(estado, bazas);
+    return std::tie(estado, apuestas, series, bazas);
 }
 
 // visita("Nombre", campo) for each field of every block.

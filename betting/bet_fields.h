@@ -1,0 +1,10 @@
+#pragma once
+// The list of fields of the block that the games with money share.
+
+#include "betting/bet_state.h"
+#include "core/state_fields.h"
+
+template <MismoQue<EstadoApuestas> E, class V>
+void RecorreCampos(E& bloque, V&& visita) {
+    CAMPO(DesgloseFichas);
+}

@@ -1,0 +1,3 @@
+#include "betting/bet_state.h"
+
+EstadoApuestas apuestas;

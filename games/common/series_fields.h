@@ -1,0 +1,11 @@
+#pragma once
+// The list of fields of the block that the games with a bank share.
+
+#include "core/state_fields.h"
+#include "games/common/series_state.h"
+
+template <MismoQue<EstadoSeries> E, class V>
+void RecorreCampos(E& bloque, V&& visita) {
+    CAMPO(ManoBlanda);
+    CAMPO(ManoDura);
+}
