@@ -1,0 +1,136 @@
+#include "tools/sonda/procedures.h"
+
+#include <array>
+#include <unordered_map>
+
+#include "betting/chips.h"
+#include "core/game_state.h"
+#include "core/match_driver.h"
+#include "core/settings.h"
+#include "games/common/hand_queries.h"
+#include "games/common/series.h"
+#include "table/deck.h"
+#include "table/layout.h"
+#include "table/messages.h"
+#include "table/table_input.h"
+#include "table/table_ops.h"
+
+namespace {
+
+// The mouse handlers have the state of the shift keys among their arguments; the game never reads it.
+void RatonMueve(int, int, int x, int y) {
+    Form_MouseMove(x, y);
+}
+
+void RatonPulsa(int boton, int, int x, int y) {
+    Form_MouseDown(boton, x, y);
+}
+
+void RatonSuelta(int, int, int x, int y) {
+    Form_MouseUp(x, y);
+}
+
+void Tecla(int tecla) {
+    DespachaEvento({.tipo = TipoEvento::Tecla, .tecla = tecla});
+}
+
+// A pointer by the name of its cursor.
+void CambiaCursorPorNombre(Control control, const std::string& nombre) {
+    constexpr std::array kNombres{"",        "ManoIndice",  "ManoVerde", "ManoRoja", "Ordenar",
+                                  "Cambiar", "ManoCerrada", "Voltear",   "Abrirse"};
+    for (std::size_t i = 1; i < kNombres.size(); ++i) {
+        if (nombre == kNombres[i])
+            return CambiarCursor(control, 0, static_cast<Puntero>(i));
+    }
+    throw ErrorConsola("el cursor " + nombre + " no existe");
+}
+
+const std::unordered_map<std::string, Llamada>& LaTabla() {
+    static const std::unordered_map<std::string, Llamada> kTabla{
+        // State and match.
+        {"SiguienteAsiento", Llama(&SiguienteAsiento)},
+        {"AsientoAnterior", Llama(&AsientoAnterior)},
+        {"ActivarAsientos", Llama(&ActivarAsientos)},
+        {"IniciarSesion", Llama(&IniciarSesion)},
+        {"NuevaPartida", Llama(&NuevaPartida)},
+        {"SorteoInicial", LlamaPasos(&SorteoInicial)},
+        {"IniciarTablas", Llama(&IniciarTablas)},
+        {"ConfirmarNueva", Llama(&ConfirmarNueva)},
+        {"ConfirmarSalida", Llama(&ConfirmarSalida)},
+        {"RestaurarApuestas", Llama(&RestaurarApuestas)},
+        {"RestauraMano", Llama(&RestaurarApuestas)},
+        {"GuardarYSalir", Llama(&GuardarYSalir)},
+
+        // Settings files.
+        {"LeerIniGeneral", Llama(&LeerIniGeneral)},
+        {"LeerIniJuego", Llama(&LeerIniJuego)},
+        {"GrabarIniGeneral", LlamaPasos(&GrabarIniGeneral)},
+        {"GrabarIniJuego", LlamaPasos(&GrabarIniJuego)},
+
+        // The deck.
+        {"ConstruirBaraja", Llama(&ConstruirBaraja)},
+        {"Barajar", Llama(&Barajar)},
+        {"Repartir", LlamaPasos(&Repartir)},
+        {"RobarCartas", Llama(&RobarCartas)},
+        {"OrdenarMano", Llama(&OrdenarMano)},
+        {"CompactarMano", Llama(&CompactarMano)},
+        {"ColocarMazo", Llama(&ColocarMazo)},
+
+        // Table operations.
+        {"CalcularMesa", Llama(&CalcularMesa)},
+        {"PrepararImagenes", Llama(&PrepararImagenes)},
+        {"DibujarMazo", Llama(&DibujarMazo)},
+        {"DibujarCarta", Llama(&DibujarCarta)},
+        {"ColocarCarta", Llama(&ColocarCarta)},
+        {"MoverCarta", Llama(&MoverCarta)},
+        {"RedibujarAsiento", Llama(&RedibujarAsiento)},
+        {"ResaltarAsiento", Llama(&ResaltarAsiento)},
+        {"MostrarRotulo", Llama(&MostrarRotulo)},
+        {"MostrarNombres", Llama(&MostrarNombres)},
+        {"DibujarCaja", Llama(&DibujarCaja)},
+        {"PedirContinuar", Llama(&PedirContinuar)},
+        {"OcultarContinuar", Llama(&OcultarContinuar)},
+        {"CambiarCursor", Llama(&CambiaCursorPorNombre)},
+
+        // Input.
+        {"DetectaJdorYCar", Llama(&DetectaJdorYCar)},
+        {"DetectaZonaCartas", Llama(&DetectaZonaCartas)},
+        {"HallaFilyCol", Llama(&HallaFilyCol)},
+        {"CartaLegal", Llama(&CartaLegal)},
+        {"MuestraOpciones", Llama(&MuestraOpciones)},
+        {"Form_MouseMove", Llama(&RatonMueve)},
+        {"Form_MouseDown", Llama(&RatonPulsa)},
+        {"Form_MouseUp", Llama(&RatonSuelta)},
+        {"Form_Click", Llama(&Form_Click)},
+        {"Form_KeyPress", Llama(&Tecla)},
+
+        // Messages, tips and pacing.
+        {"Mensaje", Llama(&Mensaje)},
+        {"MostrarSugerencia", Llama(&MostrarSugerencia)},
+        {"Pausa", Llama(&Pausa)},
+        {"Sonido", Llama(&Sonido)},
+
+        // Chips and series. Outside the games with series a seat has only the first.
+        {"RestoDe", Llama(&RestoDe)},
+        {"ApuestaTotal", Llama(&ApuestaTotal, {1.0})},
+        {"Desglosa", Llama(&Desglosa)},
+        {"AsignarResto", Llama(&AsignarResto)},
+        {"PuntosSerie", Llama(&PuntosSerie)},
+
+        // Hands of the games of laying cards.
+        {"ExaminaMano", Llama(&ExaminaMano)},
+        {"CuentaPalo", Llama(&CuentaPalo)},
+        {"BuscaCarta", Llama(&BuscaCarta)},
+        {"PotenciaCarta", Llama(&PotenciaCarta)},
+    };
+    return kTabla;
+}
+
+} // namespace
+
+const Llamada& Procedimiento(const std::string& nombre) {
+    const auto sitio = LaTabla().find(nombre);
+    if (sitio == LaTabla().end())
+        throw ErrorConsola("el procedimiento " + nombre + " no existe");
+    return sitio->second;
+}
