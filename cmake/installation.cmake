@@ -11,10 +11,8 @@ install(TARGETS zovin RUNTIME DESTINATION ${program_folder})
 if(TARGET zovin_sound)
   install(TARGETS zovin_sound LIBRARY DESTINATION ${program_folder}/plugins)
 endif()
-install(CODE "
-  set(root \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}\")
-  file(MAKE_DIRECTORY \"\${root}/bin\")
-  file(CREATE_LINK ../${program_folder}/zovin \"\${root}/bin/zovin\" SYMBOLIC)")
+install(PROGRAMS packaging/zovin.sh DESTINATION bin RENAME zovin)
+install(DIRECTORY assets/help/ DESTINATION ${program_folder}/ayuda)
 
 install(FILES packaging/local.zovin.Zovin.desktop DESTINATION share/applications)
 install(FILES packaging/local.zovin.Zovin.metainfo.xml DESTINATION share/metainfo)

@@ -60,4 +60,7 @@ if(sound_plugin_sources)
     AUTOMOC ON PREFIX "" LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin/plugins")
   target_include_directories(zovin_sound PRIVATE "${CMAKE_SOURCE_DIR}")
   target_link_libraries(zovin_sound PRIVATE Qt6::Core Qt6::Multimedia)
+  file(GLOB sounds CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/assets/sounds/*.wav")
+  qt_add_resources(zovin_sound sonidos
+    PREFIX /sonidos BASE "${CMAKE_SOURCE_DIR}/assets/sounds" FILES ${sounds})
 endif()
