@@ -1,0 +1,252 @@
+// Paints the drawings of assets/ as the pictures that the program reads: the two deck images beside
+// the program, everything else as PNG for its resources, and contact sheets for those who draw.
+// It needs no screen: run it with QT_QPA_PLATFORM=offscreen.
+
+#include <array>
+#include <cstdio>
+#include <exception>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <CLI/CLI.hpp>
+#include <QDir>
+#include <QGuiApplication>
+#include <QImage>
+#include <QPainter>
+#include <QSvgRenderer>
+
+#include "platform/canvas.h"
+#include "table/sheet_layout.h"
+
+namespace {
+
+struct Baraja {
+    const char* carpeta; // below assets/cards
+    std::array<const char*, 4> palos;
+    int columnas;
+    const char* imagen;
+};
+
+constexpr Baraja kFrancesa{
+    "french", {"diamantes", "corazones", "picas", "treboles"}, 13, "Baraja01.bmp"};
+constexpr Baraja kEspanola{"spanish", {"oros", "copas", "espadas", "bastos"}, 12, "Baraja02.bmp"};
+
+constexpr std::array kCartasSueltas{"comodin1", "comodin2", "dorso"};
+constexpr std::array kLadosIcono{16, 22, 24, 32, 48, 64, 128, 256, 512};
+
+// The corner of a deck cell that the card's round corner leaves free: the colour of its edge, so that
+// a pixel of it shown by mistake does not stand out.
+constexpr QRgb kFondoBaraja = 0xFF8D8068;
+constexpr QRgb kFieltro = 0xFF008000;
+
+struct Carpetas {
+    QString dibujos;
+    QString salida;
+};
+
+[[noreturn]] void Falla(const QString& archivo, const char* queja) {
+    throw std::runtime_error(archivo.toStdString() + ": " + queja);
+}
+
+/// Paints a drawing into a box given in pixels of the picture. The drawing's own size must have the
+/// proportions of `medida`, in pixels of the table; anything else is a mistake of the drawing.
+void Pinta(QPainter& pintor, const QString& archivo, const QRect& donde, const QSize& medida) {
+    QSvgRenderer dibujo(archivo);
+    if (!dibujo.isValid())
+        Falla(archivo, "no drawing");
+    if (dibujo.defaultSize() != medida)
+        Falla(archivo, "not of the size that the sheet gives it");
+    dibujo.render(&pintor, donde);
+}
+
+QImage Lienzo(int ancho, int alto, QRgb fondo) {
+    QImage imagen(ancho, alto, QImage::Format_ARGB32_Premultiplied);
+    imagen.fill(QColor::fromRgba(fondo));
+    return imagen;
+}
+
+void Guarda(const QImage& imagen, const QString& archivo) {
+    if (!imagen.save(archivo))
+        Falla(archivo, "cannot be written");
+}
+
+QString NombreCarta(const Carpetas& carpetas, const Baraja& baraja, int fila, int columna) {
+    return QStringLiteral("%1/cards/%2/%3-%4.svg")
+        .arg(carpetas.dibujos, QLatin1String(baraja.carpeta),
+             QLatin1String(baraja.palos.at(static_cast<std::size_t>(fila))))
+        .arg(columna + 1, 2, 10, QLatin1Char('0'));
+}
+
+QString NombreLamina(const Carpetas& carpetas, std::string_view pieza) {
+    return carpetas.dibujos + QStringLiteral("/sheet/") +
+           QString::fromUtf8(pieza.data(), static_cast<qsizetype>(pieza.size())) +
+           QStringLiteral(".svg");
+}
+
+/// All the cards of a deck in rows by palo, `escala` times as large and `hueco` pixels apart.
+QImage PintaBaraja(const Carpetas& carpetas, const Baraja& baraja, int escala, int hueco,
+                   QRgb fondo) {
+    const int ancho = kAnchoCarta * escala, alto = kAltoCarta * escala;
+    QImage imagen =
+        Lienzo(baraja.columnas * (ancho + hueco) + hueco, 4 * (alto + hueco) + hueco, fondo);
+    QPainter pintor(&imagen);
+    for (int fila = 0; fila < 4; ++fila) {
+        for (int columna = 0; columna < baraja.columnas; ++columna) {
+            const QRect celda(hueco + columna * (ancho + hueco), hueco + fila * (alto + hueco),
+                              ancho, alto);
+            Pinta(pintor, NombreCarta(carpetas, baraja, fila, columna), celda,
+                  {kAnchoCarta, kAltoCarta});
+        }
+    }
+    return imagen;
+}
+
+void HazBarajas(const Carpetas& carpetas) {
+    for (const Baraja& baraja : {kFrancesa, kEspanola}) {
+        const QImage imagen = PintaBaraja(carpetas, baraja, lamina::kEscala, 0, kFondoBaraja);
+        Guarda(imagen.convertToFormat(QImage::Format_RGB888), // 24 bits a pixel, no alpha
+               carpetas.salida + QLatin1Char('/') + QLatin1String(baraja.imagen));
+    }
+}
+
+QImage PintaLaminas(const Carpetas& carpetas, int escala) {
+    QImage imagen = Lienzo(lamina::kAncho * escala, lamina::kAlto * escala, 0);
+    QPainter pintor(&imagen);
+    for (const lamina::Pieza& pieza : lamina::kPiezas) {
+        const auto& [x, y, ancho, alto] = pieza.sitio;
+        const QRect donde(x * escala, y * escala, ancho * escala, alto * escala);
+        Pinta(pintor, NombreLamina(carpetas, pieza.archivo), donde, {ancho, alto});
+    }
+    return imagen;
+}
+
+/// One drawing alone, on nothing.
+QImage PintaSuelta(const QString& archivo, const QSize& medida, const QSize& pixeles) {
+    QImage imagen = Lienzo(pixeles.width(), pixeles.height(), 0);
+    QPainter pintor(&imagen);
+    Pinta(pintor, archivo, imagen.rect(), medida);
+    return imagen;
+}
+
+void HazCartasSueltas(const Carpetas& carpetas) {
+    const QSize medida(kAnchoCarta, kAltoCarta);
+    for (const char* nombre : kCartasSueltas) {
+        const QString carta = QLatin1String(nombre);
+        Guarda(PintaSuelta(carpetas.dibujos + "/cards/" + carta + ".svg", medida,
+                           medida * lamina::kEscala),
+               carpetas.salida + '/' + carta + ".png");
+    }
+}
+
+void HazPunteros(const Carpetas& carpetas) {
+    constexpr std::array sufijos{"", "@2x", "@3x"};
+    const QSize medida(lamina::kLadoPuntero, lamina::kLadoPuntero);
+    for (const lamina::Puntero& puntero : lamina::kPunteros) {
+        const QString nombre = QString::fromStdString(std::string(puntero.archivo));
+        for (std::size_t escala = 1; escala <= sufijos.size(); ++escala) {
+            const QImage imagen = PintaSuelta(carpetas.dibujos + "/cursors/" + nombre + ".svg",
+                                              medida, medida * static_cast<int>(escala));
+            Guarda(imagen,
+                   carpetas.salida + '/' + nombre + QLatin1String(sufijos.at(escala - 1)) + ".png");
+        }
+    }
+}
+
+void HazIconos(const Carpetas& carpetas) {
+    for (const int lado : kLadosIcono) {
+        const QImage imagen =
+            PintaSuelta(carpetas.dibujos + "/icon/zovin.svg", {128, 128}, {lado, lado});
+        Guarda(imagen, carpetas.salida + QStringLiteral("/zovin-%1.png").arg(lado));
+    }
+}
+
+void HazRecursos(const Carpetas& carpetas) {
+    Guarda(PintaLaminas(carpetas, lamina::kEscala), carpetas.salida + "/laminas.png");
+    HazCartasSueltas(carpetas);
+    HazPunteros(carpetas);
+    HazIconos(carpetas);
+}
+
+/// The sheet on felt, with a row of the loose cards, the icon and the pointers under it.
+QImage PintaMuestra(const Carpetas& carpetas) {
+    constexpr int escala = 2, hueco = 10;
+    const QImage laminas = PintaLaminas(carpetas, escala);
+    const int alto = laminas.height() + kAltoCarta * escala + 3 * hueco;
+    QImage muestra = Lienzo(laminas.width() + 2 * hueco, alto, kFieltro);
+    QPainter pintor(&muestra);
+    pintor.drawImage(hueco, hueco, laminas);
+    int x = hueco;
+    const int y = laminas.height() + 2 * hueco;
+    const auto pon = [&](const QString& archivo, const QSize& medida, int abajo) {
+        Pinta(pintor, carpetas.dibujos + archivo, {QPoint(x, y + abajo), medida * escala}, medida);
+    };
+    for (const char* nombre : kCartasSueltas) {
+        pon(QStringLiteral("/cards/%1.svg").arg(QLatin1String(nombre)), {kAnchoCarta, kAltoCarta},
+            0);
+        x += kAnchoCarta * escala + hueco;
+    }
+    int fila = 0;
+    for (const lamina::Puntero& puntero : lamina::kPunteros) {
+        pon(QStringLiteral("/cursors/%1.svg")
+                .arg(QString::fromStdString(std::string(puntero.archivo))),
+            {lamina::kLadoPuntero, lamina::kLadoPuntero}, (fila % 4) * 70);
+        x += ++fila % 4 == 0 ? 70 : 0;
+    }
+    pon(QStringLiteral("/icon/zovin.svg"), {128, 128}, 0);
+    return muestra;
+}
+
+void HazMuestras(const Carpetas& carpetas) {
+    const auto guarda = [&](const QImage& imagen, const char* nombre) {
+        Guarda(imagen.convertToFormat(QImage::Format_RGB888),
+               carpetas.salida + QLatin1Char('/') + QLatin1String(nombre));
+    };
+    guarda(PintaBaraja(carpetas, kEspanola, 1, 6, kFieltro), "cards-spanish.png");
+    guarda(PintaBaraja(carpetas, kFrancesa, 1, 6, kFieltro), "cards-french.png");
+    guarda(PintaMuestra(carpetas), "sheet.png");
+}
+
+struct Encargo {
+    std::string nombre;
+    void (*haz)(const Carpetas&);
+};
+
+const std::array kEncargos{Encargo{"decks", HazBarajas}, Encargo{"resources", HazRecursos},
+                           Encargo{"contact", HazMuestras}};
+
+int Trabaja(int argc, char** argv) {
+    CLI::App opciones{"Paints the drawings of the suite."};
+    opciones.require_subcommand(1);
+    std::string dibujos, salida;
+    for (const Encargo& encargo : kEncargos) {
+        CLI::App* orden = opciones.add_subcommand(encargo.nombre);
+        orden->add_option("drawings", dibujos, "the folder of the SVG files")
+            ->required()
+            ->check(CLI::ExistingDirectory);
+        orden->add_option("output", salida, "the folder to write to")->required();
+    }
+    CLI11_PARSE(opciones, argc, argv);
+
+    const Carpetas carpetas{QString::fromStdString(dibujos), QString::fromStdString(salida)};
+    if (!QDir().mkpath(carpetas.salida))
+        Falla(carpetas.salida, "cannot be made");
+    for (const Encargo& encargo : kEncargos) {
+        if (opciones.got_subcommand(encargo.nombre))
+            encargo.haz(carpetas);
+    }
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    try {
+        const QGuiApplication aplicacion(argc, argv);
+        return Trabaja(argc, argv);
+    } catch (const std::exception& fallo) {
+        std::fprintf(stderr, "render_assets: %s\n", fallo.what());
+        return 1;
+    }
+}
