@@ -26,6 +26,9 @@ void CierraSugerencia();
 // Repaints the panel from TipActual where it stands, or hides it. Draws only.
 void PintaSugerencia();
 
+// Hides the panel.
+void OcultaSugerencia();
+
 // Loads the 51 tips into Sugerencias, text and topic split.
 void CargaSugerencias();
 

@@ -1,0 +1,12 @@
+#pragma once
+// The tips of the suggestion panel.
+
+#include <vector>
+
+struct Consejo {
+    int indice;        // 0..50; the indices that are not listed are empty
+    int tema;          // help topic
+    const char* texto; // 145 characters
+};
+
+const std::vector<Consejo>& Consejos();

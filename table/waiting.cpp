@@ -1,0 +1,64 @@
+#include "table/waiting.h"
+
+#include "core/game_state.h"
+#include "core/session_state.h"
+#include "table/table_ops.h"
+
+namespace {
+
+Despacho el_despacho = nullptr;
+
+// What happens even when the match has been left: the table must keep its size, the desktop its word.
+bool SiempreVale(const Evento& evento) {
+    return evento.tipo == TipoEvento::Tamano || evento.tipo == TipoEvento::Termina;
+}
+
+void Atiende(const Evento& evento) {
+    if (sesion.peticion == Peticion::Ninguna || SiempreVale(evento)) {
+        el_despacho(evento);
+    }
+}
+
+// A wish to close the window that came where the exit was disabled.
+void AtiendeCierrePendiente() {
+    if (!sesion.cierre_pendiente || !BotonHabilitado(7)) {
+        return;
+    }
+    sesion.cierre_pendiente = false;
+    Atiende({.tipo = TipoEvento::CierraVentana});
+}
+
+} // namespace
+
+void RegistraDespacho(Despacho despacho) {
+    el_despacho = despacho;
+}
+
+void PaseDeEventos(Pase pase) {
+    AtiendeCierrePendiente();
+    plataforma().Bombea();
+    while (const auto evento = plataforma().SiguienteEvento(pase)) {
+        Atiende(*evento);
+    }
+}
+
+bool EsperaHasta(bool (*lista)()) {
+    while (!lista()) {
+        AtiendeCierrePendiente();
+        if (!PartidaSigue()) {
+            return false;
+        }
+        if (!plataforma().EsperaEvento()) {
+            sesion.sin_eventos = true;
+            estado.PartidaEnCurso = false;
+            return false;
+        }
+        PaseDeEventos(Pase::DeEspera);
+    }
+    return PartidaSigue();
+}
+
+bool EsperaContinuar() {
+    PedirContinuar(1);
+    return EsperaHasta([] { return !estado.EsperandoJugada; });
+}
