@@ -25,6 +25,8 @@ struct FilaJuego {
     bool con_dinero = false;       // the seats get RestoInicial in chips
     bool sortea_inicio = true;     // a match begins with the draw for the first player
     bool sorteo_da_banca = false;  // ... and it decides JugadorBanca instead of JugadorMano
+    // The words of its message. Empty: who begins.
+    TextosSorteo (*textos_sorteo)() = nullptr;
     bool mazo_seguido = false;     // the deck runs on from hand to hand, and is not shown as a pile
     bool tapa_al_repartir = false; // dealt cards are covered
     bool menu_ordenar = true;      // a right click offers to put the cards in order

@@ -50,9 +50,8 @@ void ColocaSugerencia() {
     Plataforma& p = plataforma();
     const int y = estado.AltoMesa - kAltoSugerencia - 2;
     p.Coloca(Control::Pic_Sugerencia, 0, {0, y, kAnchoSugerencia, kAltoSugerencia});
-    p.Coloca(Control::Pic_MasAyuda, 0,
-             {kMasAyuda.x, y + kMasAyuda.y, kMasAyuda.ancho, kMasAyuda.alto});
-    p.Coloca(Control::Bot_CerrarSuge, 0, {kCerrar.x, y + kCerrar.y, kCerrar.ancho, kCerrar.alto});
+    p.Coloca(Control::Pic_MasAyuda, 0, kMasAyuda);
+    p.Coloca(Control::Bot_CerrarSuge, 0, kCerrar);
 }
 
 void PintaPanel() {

@@ -15,15 +15,11 @@ bool CartaLegal();
 
 void Form_MouseMove(int x, int y);
 void Form_MouseDown(int boton, int x, int y);
-void Form_MouseUp(int x, int y);
+void Form_MouseUp();
 void Form_Click(int x, int y);
 // Esc, q and Q minimise, control-C does nothing; true for any other key, which acts as Pic_BotContinuar and,
 // with no match on, as Pic_Boton(1).
 bool TeclaActiva(int tecla);
-
-void MuestraOpciones();
-void Opciones_MouseMove(int y);
-void Opciones_MouseUp();
 
 // The shape for the pointer's last place reckoned anew: a turn begins, a flag has changed.
 void RefrescaPuntero();

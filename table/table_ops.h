@@ -33,6 +33,8 @@ void CambiarCursor(Control control, int indice, Puntero puntero);
 // A control hidden, all Pic_Tantos hidden, the felt bare.
 void Oculta(Control control, int indice = 0);
 void OcultaTantos();
+// Pic_BotContinuar, the board, the side buttons, the pop-up and the panel hidden.
+void OcultaControlesMesa();
 void LimpiarMesa();
 
 // Everything on the felt painted anew from the state.

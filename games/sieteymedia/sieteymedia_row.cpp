@@ -1,0 +1,71 @@
+#include "games/sieteymedia/sieteymedia_row.h"
+
+#include "core/game_state.h"
+#include "core/numeric.h"
+#include "core/text.h"
+#include "games/game_table.h"
+#include "table/deck_setup.h"
+#include "table/layout.h"
+
+namespace {
+
+
+void PreparaBaraja() {
+    PonMedidas({.tipo = kBarajaEspanola,
+                .valores_por_palo = 10,
+                .reparto = 1,
+                .paso = 1,
+                .max_mano = 14});
+    PonReglasDeBanca();
+    for (int valor = 1; valor <= 7; ++valor) {
+        estado.ValorCarta(valor) = valor;
+        if (valor <= 3) {
+            estado.ValorCarta(valor + 9) = Currency::DeDiezmilesimas(Currency::kUnidad / 2);
+        }
+    }
+}
+
+// The pile stands by the bank.
+void ColocaMazo() {
+    constexpr int kBajoLaBanca = 11, kAlLado = 18, kAlLadoDerecho = 127;
+    switch (estado.JugadorBanca) {
+    case 1:
+        estado.MazoX = EnteroDe(estado.MesaDerecha(1) + kAlLado);
+        break;
+    case 2:
+        estado.MazoY = EnteroDe(estado.MesaAbajo(2) + kBajoLaBanca);
+        break;
+    case 3:
+        estado.MazoX = EnteroDe(estado.MesaIzquierda(3) - kAlLadoDerecho);
+        break;
+    case 4:
+        estado.MazoY = EnteroDe(estado.MesaArriba(4) - kAltoCarta - kAlLado);
+        break;
+    default:
+        break;
+    }
+}
+
+TextosSorteo Textos() {
+    return {"Se  ha  sorteado  el  jugador  que  comienza  siendo  banca.",
+            "El primer jugador banca es "};
+}
+
+std::string ClaveOrden(Integer palo, Integer valor) {
+    return Formato(valor, "00") + Formato(palo, "0");
+}
+
+} // namespace
+
+const FilaJuego& FilaSieteYMedia() {
+    static const FilaJuego kFila{.id = kSieteYMedia,
+                                 .nombre = "Siete y media",
+                                 .prepara_baraja = PreparaBaraja,
+                                 .con_dinero = true,
+                                 .sorteo_da_banca = true,
+                                 .textos_sorteo = Textos,
+                                 .tapa_al_repartir = true,
+                                 .coloca_mazo = ColocaMazo,
+                                 .clave_orden = ClaveOrden};
+    return kFila;
+}

@@ -1,0 +1,7 @@
+#pragma once
+// The game's row in the table of games.
+
+struct FilaJuego;
+
+const FilaJuego& FilaTute();
+const FilaJuego& FilaBrisca();

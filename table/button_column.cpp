@@ -1,0 +1,152 @@
+#include "table/button_column.h"
+
+#include <array>
+#include <string>
+
+#include "core/game_state.h"
+#include "core/session_state.h"
+#include "games/game_table.h"
+#include "table/layout.h"
+#include "table/sheet_layout.h"
+#include "table/table_ops.h"
+#include "table/trace.h"
+
+namespace {
+
+constexpr int kLadoBoton = 50;
+constexpr int kAnchoContinuar = 86, kAltoContinuar = 36;
+constexpr int kMargenAbajo = 16;
+constexpr Fuente kLetraContinuar{.alto = 12, .negrita = true};
+
+struct BotonPrincipal {
+    int x, y;
+    const char* nombre;
+};
+
+constexpr std::array<BotonPrincipal, 9> kBotones{{
+    {0, 0, ""},
+    {20, 5, "Nueva partida"},
+    {24, 125, "Personalizar"},
+    {20, 65, "Normas"},
+    {20, 245, "Tutor de juego"},
+    {20, 305, "Marcador"},
+    {20, 365, "Ayuda"},
+    {20, 425, "Salir"},
+    {20, 185, "Estadísticas"},
+}};
+
+// The button's form, where it opens one that may not be there.
+bool TieneLoSuyo(int boton) {
+    switch (boton) {
+    case 2:
+        return plataforma().TieneForma(Forma::Personal);
+    case 3:
+        return plataforma().TieneForma(Forma::Normas);
+    case 5:
+        return plataforma().TieneForma(Forma::Marcador);
+    case 8:
+        return plataforma().TieneForma(Forma::Estadis);
+    default:
+        return true;
+    }
+}
+
+void PintaBoton(int boton) {
+    const auto& fila = BotonHabilitado(boton) ? lamina::kBotonPrincipal : lamina::kBotonApagado;
+    Lienzo& lienzo = plataforma().LienzoDe(Control::Pic_Boton, boton);
+    lienzo.Fieltro({0, 0, kLadoBoton, kLadoBoton});
+    lienzo.Lamina(0, 0, fila[static_cast<std::size_t>(boton - 1)]);
+}
+
+void PintaContinuar(int kind) {
+    std::string primera = "Continuar";
+    std::string segunda;
+    if (estado.ManoEnCurso) {
+        primera = estado.NombreJugador(estado.JugadorActual);
+        segunda = "automático";
+        const FilaJuego& juego = JuegoEnMesa();
+        if (juego.rotulo_continuar != nullptr) {
+            juego.rotulo_continuar(primera, segunda);
+        }
+    }
+    Lienzo& boton = plataforma().LienzoDe(Control::Pic_BotContinuar, 0);
+    boton.Fieltro({0, 0, kAnchoContinuar, kAltoContinuar});
+    boton.Lamina(0, 0, kind == 2 ? lamina::kContinuarPulsado : lamina::kContinuar);
+    const int hundido = kind == 2 ? 1 : 0;
+    const auto renglon = [&](int y, const std::string& texto) {
+        boton.Texto(kAnchoContinuar / 2 + hundido, y + hundido, texto, kLetraContinuar,
+                    color::kAmarillo, Alineacion::Centro);
+    };
+    if (segunda.empty()) {
+        renglon(10, primera);
+    } else {
+        renglon(3, primera);
+        renglon(18, segunda);
+    }
+    plataforma().Nombra(Control::Pic_BotContinuar, 0,
+                        segunda.empty() ? primera : primera + " " + segunda);
+}
+
+} // namespace
+
+void ColocaColumna() {
+    Plataforma& p = plataforma();
+    p.Coloca(Control::Pic_Botonera, 0,
+             {estado.AnchoPantalla - kAnchoBotonera, 0, kAnchoBotonera, estado.AltoPantalla});
+    for (int boton = 1; boton <= 8; ++boton) {
+        const BotonPrincipal& este = kBotones[static_cast<std::size_t>(boton)];
+        p.Coloca(Control::Pic_Boton, boton, {este.x, este.y, kLadoBoton, kLadoBoton});
+        p.Nombra(Control::Pic_Boton, boton, este.nombre);
+        p.Muestra(Control::Pic_Boton, boton, true);
+    }
+    p.Coloca(Control::Pic_BotContinuar, 0,
+             {(kAnchoBotonera - kAnchoContinuar) / 2,
+              estado.AltoPantalla - kAltoContinuar - kMargenAbajo, kAnchoContinuar,
+              kAltoContinuar});
+}
+
+void PintaColumna() {
+    if (!plataforma().HayPantalla()) {
+        return;
+    }
+    Lienzo& columna = plataforma().LienzoDe(Control::Pic_Botonera, 0);
+    columna.Fieltro({0, 0, kAnchoBotonera, estado.AltoPantalla});
+    columna.Linea(0, 0, 0, estado.AltoPantalla, color::kBordePanel, 1);
+    columna.Linea(1, 0, 1, estado.AltoPantalla, color::kBordePanelClaro, 1);
+    for (int boton = 1; boton <= 8; ++boton) {
+        PintaBoton(boton);
+    }
+    if (plataforma().EstaVisible(Control::Pic_BotContinuar, 0)) {
+        PintaContinuar(1);
+    }
+}
+
+void HabilitaBoton(int indice, bool habilitado) {
+    const bool puede = habilitado && TieneLoSuyo(indice);
+    plataforma().PonPuntero(Control::Pic_Boton, indice,
+                            puede ? Puntero::ManoIndice : Puntero::Prohibido);
+    if (plataforma().HayPantalla()) {
+        PintaBoton(indice);
+    }
+}
+
+bool BotonHabilitado(int indice) {
+    return plataforma().PunteroDe(Control::Pic_Boton, indice) != Puntero::Prohibido;
+}
+
+void PedirContinuar(int kind) {
+    Traza("PedirContinuar", kind);
+    plataforma().PonPuntero(Control::Pic_BotContinuar, 0, Puntero::ManoIndice);
+    plataforma().Muestra(Control::Pic_BotContinuar, 0, true);
+    if (plataforma().HayPantalla()) {
+        PintaContinuar(kind);
+        plataforma().Repinta();
+    }
+    estado.EsperandoJugada = true;
+}
+
+void OcultarContinuar() {
+    Traza("OcultarContinuar");
+    Oculta(Control::Pic_BotContinuar);
+    estado.EsperandoJugada = false;
+}

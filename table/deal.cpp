@@ -1,0 +1,138 @@
+// Dealing: the automatic deal, and further cards during a hand.
+
+#include "core/game_state.h"
+#include "core/numeric.h"
+#include "core/session_state.h"
+#include "games/game_table.h"
+#include "table/deck.h"
+#include "table/layout.h"
+#include "table/manual_deal.h"
+#include "table/messages.h"
+#include "table/table_ops.h"
+#include "table/table_view.h"
+#include "table/waiting.h"
+
+namespace {
+
+constexpr Integer kTapadaSi = 1;
+
+bool Recibe(Integer asiento) {
+    const FilaJuego& juego = JuegoEnMesa();
+    return juego.recibe != nullptr ? juego.recibe(asiento)
+                                   : estado.EstadoJugador(asiento) == kActivado;
+}
+
+struct CartaMazo {
+    Integer palo, valor;
+};
+
+// The deck's next card; the pile loses it.
+CartaMazo SacaDelMazo() {
+    const CartaMazo carta{estado.Baraja(estado.PosicionMazo, 1),
+                          estado.Baraja(estado.PosicionMazo, 2)};
+    --estado.CartasEnMazo;
+    ++estado.PosicionMazo;
+    DibujarMazo(estado.MazoX, estado.MazoY, estado.CartasEnMazo);
+    return carta;
+}
+
+// From the pile to place lugar of a hand laid out for cartas cards.
+void VuelaDelMazo(Integer asiento, int lugar, int cartas) {
+    const Integer serie = estado.SerieActual;
+    const Integer cara = estado.Mano(asiento, serie, lugar, kCara);
+    const Integer orientacion = OrientacionDe(asiento);
+    ColocarCarta(asiento, lugar, cartas);
+    MoverCarta(estado.Mano(asiento, serie, lugar, kPalo), estado.Mano(asiento, serie, lugar, kValor),
+               estado.MazoX, estado.MazoY, 1, kDorso, estado.CartaX, estado.CartaY, orientacion,
+               cara, estado.Mano(asiento, serie, lugar, kTapada));
+}
+
+void RepartaUna(Integer asiento, int lugar) {
+    const FilaJuego& juego = JuegoEnMesa();
+    if (juego.mazo_seguido && estado.CartasEnMazo == 0) {
+        Barajar();
+    }
+    const CartaMazo carta = SacaDelMazo();
+    PonCarta(asiento, 1, lugar, carta.palo, carta.valor, estado.CartasJugador(asiento));
+    if (juego.tapa_al_repartir) {
+        estado.Mano(asiento, 1, lugar, kTapada) = kTapadaSi;
+    }
+    ++estado.NumCartas(asiento, 1);
+    VuelaDelMazo(asiento, lugar, estado.CartasReparto);
+}
+
+[[nodiscard]] bool ReparteMonton(Integer asiento, int pasada) {
+    for (int i = 0; i < estado.PasoReparto; ++i) {
+        RepartaUna(asiento, pasada + i);
+        PaseDeEventos(Pase::DePaso);
+        if (!PartidaSigue()) {
+            return false;
+        }
+        Pausa(40);
+    }
+    return true;
+}
+
+[[nodiscard]] bool RepartePasada(int pasada) {
+    const FilaJuego& juego = JuegoEnMesa();
+    Integer asiento = estado.JugadorMano;
+    do {
+        if (juego.corta_pasada != nullptr && juego.corta_pasada(pasada, asiento)) {
+            return true;
+        }
+        if (Recibe(asiento) && !ReparteMonton(asiento, pasada)) {
+            return false;
+        }
+        SiguienteAsiento(asiento);
+    } while (asiento != estado.JugadorMano);
+    return true;
+}
+
+[[nodiscard]] bool ReparteSolo() {
+    if (!JuegoEnMesa().mazo_seguido || estado.CartasEnMazo == 0) {
+        Barajar();
+    }
+    for (int pasada = 1; pasada <= estado.CartasReparto; pasada += estado.PasoReparto) {
+        if (!RepartePasada(pasada)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+int PrimerHueco(Integer asiento) {
+    int lugar = 1;
+    while (estado.Mano(asiento, estado.SerieActual, lugar, kPalo) != kSinCarta) {
+        ++lugar;
+    }
+    return lugar;
+}
+
+} // namespace
+
+bool Repartir() {
+    return estado.SistemaReparto == 2 ? RepartirAMano() : ReparteSolo();
+}
+
+void RobarCartas(Integer asiento, Integer n, Integer tapada) {
+    const FilaJuego& juego = JuegoEnMesa();
+    if (n > estado.CartasEnMazo) {
+        if (juego.rellena_mazo != nullptr) {
+            juego.rellena_mazo(asiento, n);
+        }
+        DibujarMazo(estado.MazoX, estado.MazoY, estado.CartasEnMazo);
+    }
+    const Integer serie = estado.SerieActual;
+    const int primero = PrimerHueco(asiento);
+    for (int i = 0; i < n; ++i) {
+        const int lugar = primero + i;
+        const CartaMazo carta = SacaDelMazo();
+        const bool a_la_vista = juego.tapa_al_repartir && tapada == 0;
+        PonCarta(asiento, serie, lugar, carta.palo, carta.valor, a_la_vista ? kDescubierta : kDorso);
+        estado.Mano(asiento, serie, lugar, kTapada) = tapada;
+        ++estado.NumCartas(asiento, serie);
+        VuelaDelMazo(asiento, lugar, estado.NumCartas(asiento, serie));
+        RedibujarAsiento(asiento);
+        Pausa(60);
+    }
+}

@@ -1,0 +1,132 @@
+#include "table/deck.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+#include <vector>
+
+#include "core/game_state.h"
+#include "core/numeric.h"
+#include "core/random.h"
+#include "games/game_table.h"
+#include "table/layout.h"
+#include "table/messages.h"
+#include "table/table_ops.h"
+#include "table/trace.h"
+
+namespace {
+
+constexpr int kSonidoBaraja = 20;
+constexpr Integer kValorComodin = 90; // 91 and 92 are the jokers
+
+// A free place of 1..total. A taken place draws again: the order of the cards is a rejection fill.
+int LugarLibre(int total) {
+    int lugar = AzarEntre(total);
+    while (estado.Baraja(lugar, 1) != kSinCarta) {
+        lugar = AzarEntre(total);
+    }
+    return lugar;
+}
+
+void MeteEnBaraja(Integer palo, Integer valor) {
+    const int lugar = LugarLibre(estado.TotalBaraja);
+    estado.Baraja(lugar, 1) = palo;
+    estado.Baraja(lugar, 2) = valor;
+}
+
+void MeteValor(Integer palo, Integer valor) {
+    for (int mazo = 0; mazo < estado.MazosBaraja; ++mazo) {
+        MeteEnBaraja(palo, valor);
+    }
+}
+
+struct CartaConClave {
+    std::string clave;
+    std::array<Integer, 6> campos;
+};
+
+} // namespace
+
+void ConstruirBaraja() {
+    const FilaJuego& juego = JuegoEnMesa();
+    juego.prepara_baraja();
+    plataforma().CargaBaraja(estado.CarpetaTrabajo + (estado.TipoBaraja == kBarajaEspanola
+                                                          ? "/Baraja02.bmp"
+                                                          : "/Baraja01.bmp"),
+                             estado.ColumnasBaraja);
+}
+
+void Barajar() {
+    Sonido(1, kSonidoBaraja);
+    Pausa(400);
+    estado.CartasEnMazo = estado.TotalBaraja;
+    estado.NumDescartes = 0;
+    estado.PosicionMazo = 1;
+    if (!JuegoEnMesa().mazo_seguido) {
+        DibujarMazo(estado.MazoX, estado.MazoY, estado.TotalBaraja);
+    }
+    estado.Baraja.Borra();
+    SiembraDelReloj(plataforma().Reloj());
+    for (Integer palo = kOros; palo <= kBastos; ++palo) {
+        for (Integer valor = 1; valor <= estado.ColumnasBaraja; ++valor) {
+            if (estado.ValorEnBaraja(valor)) {
+                MeteValor(palo, valor);
+            }
+        }
+    }
+    for (int comodin = 1; comodin <= estado.ComodinesBaraja; ++comodin) {
+        MeteEnBaraja(kComodin, EnteroDe(kValorComodin + comodin));
+    }
+}
+
+void PonCarta(Integer asiento, Integer serie, int lugar, Integer palo, Integer valor, Integer cara) {
+    estado.Mano(asiento, serie, lugar, kPalo) = palo;
+    estado.Mano(asiento, serie, lugar, kValor) = valor;
+    estado.Mano(asiento, serie, lugar, kCara) = cara;
+    estado.Mano(asiento, serie, lugar, kAltura) = kEnLinea;
+    estado.Mano(asiento, serie, lugar, kTapada) = 0;
+}
+
+void CompactarMano(Integer asiento) {
+    const Integer serie = estado.SerieActual;
+    int libre = 1;
+    for (int lugar = 1; lugar <= estado.Mano.kTopes[2]; ++lugar) {
+        if (estado.Mano(asiento, serie, lugar, kPalo) == kSinCarta) {
+            continue;
+        }
+        for (int campo = 0; campo <= 5 && libre != lugar; ++campo) {
+            estado.Mano(asiento, serie, libre, campo) = estado.Mano(asiento, serie, lugar, campo);
+            estado.Mano(asiento, serie, lugar, campo) = 0;
+        }
+        ++libre;
+    }
+}
+
+void OrdenarMano(Integer asiento) {
+    const FilaJuego& juego = JuegoEnMesa();
+    if (juego.ordena_mano != nullptr) {
+        juego.ordena_mano(asiento);
+        return;
+    }
+    if (juego.clave_orden == nullptr) {
+        return;
+    }
+    const Integer serie = estado.SerieActual;
+    std::vector<CartaConClave> cartas;
+    for (int lugar = 1; lugar <= estado.NumCartas(asiento, serie); ++lugar) {
+        CartaConClave carta;
+        for (int campo = 0; campo <= 5; ++campo) {
+            carta.campos[static_cast<std::size_t>(campo)] = estado.Mano(asiento, serie, lugar, campo);
+        }
+        carta.clave = juego.clave_orden(carta.campos[kPalo], carta.campos[kValor]);
+        cartas.push_back(carta);
+    }
+    std::ranges::stable_sort(cartas, {}, &CartaConClave::clave);
+    for (std::size_t i = 0; i < cartas.size(); ++i) {
+        for (int campo = 0; campo <= 5; ++campo) {
+            estado.Mano(asiento, serie, static_cast<int>(i) + 1, campo) =
+                cartas[i].campos[static_cast<std::size_t>(campo)];
+        }
+    }
+    RedibujarAsiento(asiento);
+}

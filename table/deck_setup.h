@@ -1,0 +1,28 @@
+#pragma once
+// What the games' deck set-ups share. Each writes the deck fields of the state and nothing else.
+
+#include "core/tabla.h"
+
+// The sizes of a deck and its deal, as the rules of each game give them.
+struct MedidasBaraja {
+    Integer tipo;             // kBarajaEspanola or kBarajaFrancesa
+    Integer valores_por_palo;
+    Integer comodines = 0;
+    Integer mazos = 1;
+    Integer reparto;          // cards dealt to a seat
+    Integer paso;             // cards at a time
+    Integer max_mano;
+};
+
+// TipoBaraja, ValoresPorPalo, CartasNormales, ComodinesBaraja, TotalBaraja, MazosBaraja, CartasReparto,
+// PasoReparto, MaxCartasMano, ColumnasBaraja, CartasImagen, AltoMiniCarta, the names of the ranks and, by
+// type, ValorEnBaraja with every rank of that image (a Spanish deck without 8, 9 and 13). Clears ValorCarta,
+// OrdenCarta and JuegoConBanca.
+void PonMedidas(const MedidasBaraja& medidas);
+
+// ValorCarta and OrdenCarta of the games of laying cards: As 11, 3 gives 10, Rey 4, Caballo 3, Sota 2; order
+// As, 3, Rey, Caballo, Sota, 7, 6, 5, 4, 2.
+void PonValoresDeBazas();
+
+// JuegoConBanca, CartasBaraja 1, LeyApertura 14.
+void PonReglasDeBanca();

@@ -1,0 +1,171 @@
+#include "table/layout.h"
+
+#include <algorithm>
+
+#include "core/game_state.h"
+#include "core/numeric.h"
+#include "games/game_table.h"
+#include "platform/platform.h"
+
+namespace {
+
+constexpr int kAnchoMinimo = 800, kAltoMinimo = 600;
+constexpr int kLargoZona = 250;
+constexpr int kFondoZona = 160;
+constexpr int kBanda = 18;   // between the table's edge and a card in line: the seat's name stands there
+constexpr int kRealce = 20;  // how far a raised card stands into the table
+constexpr int kPasoFicha = 38;
+constexpr int kAreasFichas = 15;
+
+Integer Mitad(int total) { return Redondea(total / 2.0); }
+
+void CalculaZonas() {
+    const auto ancho = estado.AnchoMesa;
+    const auto alto = estado.AltoPantalla;
+    const Integer lado = Mitad(alto - kLargoZona);
+    const Integer frente = Mitad(ancho - kLargoZona);
+    const auto pon = [](int asiento, int izquierda, int arriba, int derecha, int abajo) {
+        estado.MesaIzquierda(asiento) = EnteroDe(izquierda);
+        estado.MesaArriba(asiento) = EnteroDe(arriba);
+        estado.MesaDerecha(asiento) = EnteroDe(derecha);
+        estado.MesaAbajo(asiento) = EnteroDe(abajo);
+    };
+    pon(1, 0, lado, kFondoZona, lado + kLargoZona);
+    pon(2, frente, 0, frente + kLargoZona, kFondoZona);
+    pon(3, ancho - kFondoZona - 1, lado, ancho, lado + kLargoZona);
+    pon(4, frente, alto - kFondoZona - 2, frente + kLargoZona, alto - 1);
+}
+
+// The corner of the first stack of an area: areas 0..3 stand beside the zones of seats 1..4, 4..7 in front
+// of them, 8..11 next to those, 12 to 14 in the middle.
+Punto EsquinaFichas(int area) {
+    constexpr int kSeparacion = 8;
+    const int asiento = area % 4 + 1;
+    const int corrido = area < 4 ? 0 : 2 * kPasoFicha + kSeparacion;
+    if (area >= 12) {
+        return {estado.CentroX - kPasoFicha + (area - 13) * 3 * kPasoFicha,
+                estado.CentroY - kPasoFicha};
+    }
+    const int lejos = area < 8 ? 0 : 3 * kPasoFicha;
+    switch (asiento) {
+    case 1:
+        return {corrido, estado.MesaAbajo(1) + kSeparacion + lejos};
+    case 2:
+        return {estado.MesaIzquierda(2) - 2 * kPasoFicha - kSeparacion - lejos, corrido};
+    case 3:
+        return {estado.AnchoMesa - 2 * kPasoFicha - corrido,
+                estado.MesaArriba(3) - 3 * kPasoFicha - kSeparacion - lejos};
+    default:
+        return {estado.MesaDerecha(4) + kSeparacion + lejos,
+                estado.AltoPantalla - 3 * kPasoFicha - corrido};
+    }
+}
+
+void CalculaFichas() {
+    for (int area = 0; area < kAreasFichas; ++area) {
+        const Punto esquina = EsquinaFichas(area);
+        for (int ficha = 1; ficha <= 6; ++ficha) {
+            estado.PosFichaX(area, ficha) = EnteroDe(esquina.x + (ficha - 1) / 3 * kPasoFicha);
+            estado.PosFichaY(area, ficha) = EnteroDe(esquina.y + (ficha - 1) % 3 * kPasoFicha);
+        }
+    }
+}
+
+int PasoDe(int cartas) {
+    constexpr int kReparto = kLargoZona - kAnchoCarta; // what the overlaps share out
+    return cartas < 2 ? kAnchoCarta : std::min(kReparto / (cartas - 1), kAnchoCarta);
+}
+
+int LargoFranja(int cartas) { return PasoDe(cartas) * (cartas - 1) + kAnchoCarta; }
+
+// Along the edge, from the left or from the top, to the place's corner.
+Integer ALoLargo(int principio, int lugar, int cartas) {
+    return Redondea(principio + (kLargoZona - LargoFranja(cartas)) / 2.0 +
+                    PasoDe(cartas) * (lugar - 1));
+}
+
+} // namespace
+
+void CalculaLugares() {
+    estado.AnchoPantalla = EnteroDe(std::max(plataforma().AnchoVentana(), kAnchoMinimo));
+    estado.AltoPantalla = EnteroDe(std::max(plataforma().AltoVentana(), kAltoMinimo));
+    estado.AnchoMesa = EnteroDe(estado.AnchoPantalla - kAnchoBotonera);
+    estado.AltoMesa = estado.AltoPantalla;
+    estado.CentroX = Mitad(estado.AnchoMesa);
+    estado.CentroY = Mitad(estado.AltoPantalla);
+    CalculaZonas();
+    CalculaFichas();
+}
+
+bool AsientoLateral(int asiento) { return asiento == 1 || asiento == 3; }
+
+Integer OrientacionDe(int asiento) {
+    return EnteroDe(estado.OrientacionAsiento(asiento) % 4 + 1);
+}
+
+void ColocarCarta(int asiento, int lugar, int cartas) {
+    const int n = std::max(cartas, 1);
+    const bool levantada = estado.Mano(asiento, estado.SerieActual, lugar, kAltura) == kLevantada;
+    const int adentro = kBanda + (levantada ? kRealce : 0);
+    if (AsientoLateral(asiento)) {
+        estado.CartaX = EnteroDe(asiento == 1 ? adentro : estado.AnchoMesa - adentro - kAltoCarta);
+        estado.CartaY = ALoLargo(estado.MesaArriba(asiento), lugar, n);
+    } else {
+        estado.CartaX = ALoLargo(estado.MesaIzquierda(asiento), lugar, n);
+        estado.CartaY = EnteroDe(asiento == 2 ? adentro : estado.AltoMesa - adentro - kAltoCarta);
+    }
+}
+
+Rectangulo FranjaMano(int asiento, int cartas) {
+    const int n = std::max(cartas, 1);
+    const Rectangulo zona = ZonaDe(asiento);
+    if (AsientoLateral(asiento)) {
+        return {zona.x, ALoLargo(estado.MesaArriba(asiento), 1, n), zona.ancho, LargoFranja(n)};
+    }
+    return {ALoLargo(estado.MesaIzquierda(asiento), 1, n), zona.y, LargoFranja(n), zona.alto};
+}
+
+Rectangulo ZonaDe(int asiento) {
+    return {estado.MesaIzquierda(asiento), estado.MesaArriba(asiento),
+            estado.MesaDerecha(asiento) - estado.MesaIzquierda(asiento) + 1,
+            estado.MesaAbajo(asiento) - estado.MesaArriba(asiento) + 1};
+}
+
+Rectangulo ZonaConRealce(int asiento) {
+    Rectangulo zona = ZonaDe(asiento);
+    if (AsientoLateral(asiento)) {
+        zona.ancho += kRealce;
+        zona.x -= asiento == 3 ? kRealce : 0;
+    } else {
+        zona.alto += kRealce;
+        zona.y -= asiento == 4 ? kRealce : 0;
+    }
+    return zona;
+}
+
+Punto LugarCentro(int asiento) {
+    constexpr int kSolape = 5; // how far a card reaches over the middle
+    const double x = estado.CentroX;
+    const double y = estado.CentroY;
+    switch (asiento) {
+    case 1:
+        return {Redondea(x - kAnchoCarta + kSolape), Redondea(y - kAltoCarta / 2.0)};
+    case 2:
+        return {Redondea(x - kAnchoCarta / 2.0), Redondea(y - kAltoCarta + kSolape)};
+    case 3:
+        return {Redondea(x - kSolape), Redondea(y - kAltoCarta / 2.0)};
+    case 4:
+        return {Redondea(x - kAnchoCarta / 2.0), Redondea(y - kSolape)};
+    default:
+        LanzaIndiceFuera(1, asiento, 4);
+    }
+}
+
+void ColocarMazo() {
+    const FilaJuego* fila = FilaDe(estado.JuegoActivo);
+    estado.MazoX = Redondea(estado.AnchoMesa / 2.0 - kAnchoCarta / 2.0);
+    estado.MazoY = Redondea(estado.AltoMesa / 2.0 - kAltoCarta / 2.0);
+    if (fila != nullptr && fila->coloca_mazo != nullptr) {
+        fila->coloca_mazo();
+    }
+}

@@ -1,0 +1,112 @@
+#include "table/options_menu.h"
+
+#include <algorithm>
+
+#include "core/game_state.h"
+#include "core/numeric.h"
+#include "games/game_table.h"
+#include "table/deck.h"
+#include "table/table_ops.h"
+
+namespace {
+
+constexpr int kAltoEntrada = 18, kMargen = 4;
+constexpr int kAncho = 226;
+constexpr int kEntradaManual = 4, kEntradaSola = 5;
+
+// The number of the n-th entry on show, 0 for none.
+int EntradaEn(int n) {
+    for (int entrada = 1; entrada <= 10; ++entrada) {
+        if (estado.Opciones(entrada) && --n == 0) {
+            return entrada;
+        }
+    }
+    return 0;
+}
+
+void PintaEntrada(Lienzo& lienzo, int n) {
+    const int entrada = EntradaEn(n);
+    const int y = kMargen / 2 + (n - 1) * kAltoEntrada;
+    const bool resaltada = n == estado.OpcionResaltada;
+    if (resaltada) {
+        lienzo.Caja({2, y, kAncho - 4, kAltoEntrada}, color::kAzulOscuro);
+    }
+    const Color tinta = resaltada ? color::kBlanco : color::kNegro;
+    if (entrada == kEntradaManual && estado.ModoOrdenar) {
+        lienzo.Texto(8, y + 2, "X", {.alto = 12, .negrita = true}, tinta, Alineacion::Izquierda);
+    }
+    lienzo.Texto(24, y + 2, estado.TextoOrdenar(entrada), {.alto = 12}, tinta,
+                 Alineacion::Izquierda);
+}
+
+void PintaOpciones() {
+    if (!plataforma().HayPantalla()) {
+        return;
+    }
+    Lienzo& lienzo = plataforma().LienzoDe(Control::Pic_SelOpciones, 0);
+    const Rectangulo todo{0, 0, kAncho, estado.NumOpciones * kAltoEntrada + kMargen};
+    lienzo.Caja(todo, color::kMarfil);
+    lienzo.Borde(todo, color::kBordePanel, 1);
+    for (int n = 1; n <= estado.NumOpciones; ++n) {
+        PintaEntrada(lienzo, n);
+    }
+}
+
+void ResaltaOpcion(int n) {
+    if (n == estado.OpcionResaltada) {
+        return;
+    }
+    estado.OpcionResaltada = EnteroDe(n);
+    PintaOpciones();
+}
+
+} // namespace
+
+void PonOpciones(bool ordenar) {
+    estado.Opciones.Borra();
+    estado.Opciones(kEntradaManual) = ordenar;
+    estado.Opciones(kEntradaSola) = ordenar;
+    estado.NumOpciones = EnteroDe(std::count(estado.Opciones.begin(), estado.Opciones.end(), true));
+}
+
+void MuestraOpciones() {
+    if (estado.NumOpciones == 0) {
+        return;
+    }
+    const int alto = estado.NumOpciones * kAltoEntrada + kMargen;
+    estado.OpcionResaltada = 0;
+    plataforma().Coloca(Control::Pic_SelOpciones, 0,
+                        {std::clamp<int>(estado.RatonX, 0, estado.AnchoMesa - kAncho),
+                         std::clamp<int>(estado.RatonY, 0, estado.AltoMesa - alto), kAncho, alto});
+    plataforma().Muestra(Control::Pic_SelOpciones, 0, true);
+    PintaOpciones();
+}
+
+void ApagaOpcion() {
+    if (plataforma().EstaVisible(Control::Pic_SelOpciones, 0)) {
+        ResaltaOpcion(0);
+    }
+}
+
+void Opciones_MouseMove(int y) {
+    const int n = (y + 16) / kAltoEntrada;
+    ResaltaOpcion(std::clamp<int>(n, 0, estado.NumOpciones));
+}
+
+void Opciones_MouseUp() {
+    if (estado.OpcionResaltada == 0) {
+        return;
+    }
+    Oculta(Control::Pic_SelOpciones);
+    estado.OpcionElegida = EnteroDe(EntradaEn(estado.OpcionResaltada));
+    if (estado.OpcionElegida == kEntradaManual) {
+        estado.ModoOrdenar = !estado.ModoOrdenar;
+        return;
+    }
+    const Integer asiento = estado.ZonaBajoCursor;
+    OrdenarMano(asiento);
+    const FilaJuego& juego = JuegoEnMesa();
+    if (asiento == estado.JugadorActual && juego.tras_reordenar != nullptr) {
+        juego.tras_reordenar();
+    }
+}

@@ -1,0 +1,12 @@
+#pragma once
+// The pop-up Pic_SelOpciones: entries 4 and 5 of TextoOrdenar, to put a hand in order.
+
+// Which entries are on show: Opciones(4), Opciones(5); all others off. Writes NumOpciones.
+void PonOpciones(bool ordenar);
+// Draws and shows the pop-up at the last press, moved back to stay on the table; nothing without entries.
+void MuestraOpciones();
+// The highlight goes out when the pointer leaves the pop-up.
+void ApagaOpcion();
+// The pointer moved to, or the button was released over, row y of the pop-up.
+void Opciones_MouseMove(int y);
+void Opciones_MouseUp();

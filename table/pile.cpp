@@ -1,0 +1,34 @@
+// The pile of cards.
+
+#include "core/game_state.h"
+#include "games/game_table.h"
+#include "table/layout.h"
+#include "table/table_ops.h"
+#include "table/table_view.h"
+#include "table/trace.h"
+
+namespace {
+
+constexpr int kMargenMazo = 18, kAnchoCajaMazo = 133, kAltoCajaMazo = 155;
+constexpr int kCartasPorDorso = 4; // one back is drawn for so many cards of a single deck
+constexpr int kBajadaMazo = 13;
+
+} // namespace
+
+void DibujarMazo(int x, int y, int n) {
+    Traza("DibujarMazo", x, y, n);
+    vista.cartas_mazo = n;
+    if (!plataforma().HayPantalla()) {
+        return;
+    }
+    Lienzo& mesa = plataforma().LienzoDe(Control::Mesa, 0);
+    mesa.Fieltro({x - kMargenMazo, y, kAnchoCajaMazo, kAltoCajaMazo});
+    const FilaJuego& juego = JuegoEnMesa();
+    if (juego.pinta_bajo_mazo != nullptr) {
+        juego.pinta_bajo_mazo(x, y);
+    }
+    const int porDorso = kCartasPorDorso * std::max<int>(estado.MazosBaraja, 1);
+    for (int k = 0; k * porDorso < n; ++k) {
+        mesa.Carta(x + k, y + kBajadaMazo - k, {.cara = kDorso, .orientacion = 1});
+    }
+}

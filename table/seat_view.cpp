@@ -1,0 +1,201 @@
+// A seat on the felt: its cards, its name, its caption, the winner's mark.
+
+#include <algorithm>
+
+#include "core/game_state.h"
+#include "core/numeric.h"
+#include "core/text.h"
+#include "games/game_table.h"
+#include "table/layout.h"
+#include "table/messages.h"
+#include "table/sheet_layout.h"
+#include "table/table_ops.h"
+#include "table/table_view.h"
+#include "table/trace.h"
+
+namespace {
+
+constexpr int kLargoRotulo = 250;
+constexpr int kPasoLetraAlLado = 11, kPasoLetraAbajo = 15;
+constexpr Fuente kLetraNombre{.alto = 14, .negrita = true};
+constexpr int kAltoRenglon = 18;
+constexpr int kSonidoParpadeo = 12;
+
+Lienzo& Mesa() { return plataforma().LienzoDe(Control::Mesa, 0); }
+
+Rectangulo BandaDelNombre(int asiento) {
+    const Rectangulo zona = ZonaDe(asiento);
+    switch (asiento) {
+    case 1:
+        return {0, zona.y, kAltoRenglon, zona.alto};
+    case 2:
+        return {zona.x, 0, zona.ancho, kAltoRenglon};
+    case 3:
+        return {estado.AnchoMesa - kAltoRenglon, zona.y, kAltoRenglon, zona.alto};
+    default:
+        return {zona.x, estado.AltoMesa - kAltoRenglon, zona.ancho, kAltoRenglon};
+    }
+}
+
+// Captions stand on the inner side of the zone, on the strip into which raised cards reach.
+Rectangulo BandaDelRotulo(int asiento) {
+    const Rectangulo zona = ZonaDe(asiento);
+    const Rectangulo todo = ZonaConRealce(asiento);
+    switch (asiento) {
+    case 1:
+        return {zona.x + zona.ancho, zona.y, kAltoRenglon, zona.alto};
+    case 2:
+        return {zona.x, zona.y + zona.alto, zona.ancho, kAltoRenglon};
+    case 3:
+        return {todo.x, zona.y, kAltoRenglon, zona.alto};
+    default:
+        return {zona.x, todo.y, zona.ancho, kAltoRenglon};
+    }
+}
+
+// One letter after the other along the band, paso pixels apart, centred on it.
+void LetraALetra(int asiento, const Rectangulo& banda, const std::string& texto, int paso,
+                 Color color) {
+    const int letras = Longitud(texto);
+    const bool columna = AsientoLateral(asiento);
+    const int largo = (letras - 1) * paso;
+    const int centro = columna ? banda.y + banda.alto / 2 : banda.x + banda.ancho / 2;
+    for (int i = 0; i < letras; ++i) {
+        const int punto = centro - largo / 2 + i * paso;
+        const int x = columna ? banda.x + banda.ancho / 2 : punto;
+        const int y = columna ? punto - kLetraNombre.alto / 2 - 1 : banda.y + 1;
+        Mesa().Texto(x, y, Medio(texto, i + 1, 1), kLetraNombre, color, Alineacion::Centro);
+    }
+}
+
+void PintaNombre(int asiento) {
+    if (!vista.nombres || estado.EstadoJugador(asiento) != kActivado) {
+        return;
+    }
+    const Rectangulo banda = BandaDelNombre(asiento);
+    Mesa().Fieltro(banda);
+    LetraALetra(asiento, banda, estado.NombreJugador(asiento),
+                AsientoLateral(asiento) ? kPasoLetraAbajo : kPasoLetraAlLado, color::kBlanco);
+}
+
+void PintaRotulo(int asiento, bool visible) {
+    const Integer serie = estado.SerieActual;
+    const Rectangulo banda = BandaDelRotulo(asiento);
+    Mesa().Fieltro(banda);
+    if (visible) {
+        Mesa().Caja(banda, color::kPlaca);
+        const int letras = std::max(Longitud(estado.RotuloSerie(asiento, serie)), 1);
+        LetraALetra(asiento, banda, estado.RotuloSerie(asiento, serie),
+                    std::min(kLargoRotulo / letras, kPasoLetraAbajo),
+                    estado.ColorRotulo(asiento, serie));
+    }
+    plataforma().Repinta();
+}
+
+void ParpadeaRotulo(int asiento, Integer serie) {
+    const bool verde = estado.ColorRotulo(asiento, serie) == color::kVerde;
+    for (int vez = 0; vez < estado.ParpadeoRotulo(asiento, serie); ++vez) {
+        PintaRotulo(asiento, true);
+        Pausa(250);
+        if (verde) {
+            Sonido(1, kSonidoParpadeo);
+        }
+        Pausa(500);
+        PintaRotulo(asiento, false);
+    }
+    estado.ParpadeoRotulo(asiento, serie) = 0;
+    estado.RotuloSerie(asiento, serie).clear();
+}
+
+void PintaCartas(int asiento) {
+    const Integer serie = estado.SerieActual;
+    const Integer cartas = estado.NumCartas(asiento, serie);
+    for (int lugar = 1; lugar <= cartas; ++lugar) {
+        const bool en_el_aire = estado.ArrastraCarta && vista.asiento_arrastrado == asiento &&
+                                estado.CartaMovida == lugar;
+        const auto campo = [&](int cual) { return estado.Mano(asiento, serie, lugar, cual); };
+        if (en_el_aire || campo(kPalo) == kSinCarta) {
+            continue;
+        }
+        ColocarCarta(asiento, lugar, cartas);
+        Mesa().Carta(estado.CartaX, estado.CartaY,
+                     {.palo = campo(kPalo),
+                      .valor = campo(kValor),
+                      .cara = campo(kCara),
+                      .orientacion = OrientacionDe(asiento)});
+    }
+}
+
+} // namespace
+
+void RedibujarAsiento(int asiento) {
+    Traza("RedibujarAsiento", asiento);
+    const Integer serie = estado.SerieActual;
+    const bool parpadea = estado.ParpadeoRotulo(asiento, serie) > 0;
+    if (plataforma().HayPantalla()) {
+        Mesa().Fieltro(ZonaConRealce(asiento));
+        PintaNombre(asiento);
+        PintaCartas(asiento);
+    }
+    if (parpadea) {
+        ParpadeaRotulo(asiento, serie);
+    } else if (!estado.RotuloSerie(asiento, serie).empty()) {
+        MostrarRotulo(asiento);
+    }
+    const FilaJuego& juego = JuegoEnMesa();
+    if (juego.botones_asiento != nullptr) {
+        juego.botones_asiento(asiento);
+    }
+    if (plataforma().HayPantalla()) {
+        plataforma().Repinta();
+    }
+}
+
+void ResaltarAsiento() {
+    Traza("ResaltarAsiento");
+    for (int vez = 0; vez < 2; ++vez) {
+        if (plataforma().HayPantalla()) {
+            Mesa().Fieltro(ZonaConRealce(estado.JugadorActual));
+            plataforma().Repinta();
+        }
+        Pausa(140);
+        RedibujarAsiento(estado.JugadorActual);
+        Pausa(340);
+    }
+}
+
+void MostrarRotulo(int asiento) {
+    Traza("MostrarRotulo", asiento);
+    if (plataforma().HayPantalla()) {
+        PintaRotulo(asiento, true);
+    }
+}
+
+void MostrarNombres() {
+    Traza("MostrarNombres");
+    vista.nombres = true;
+    if (!plataforma().HayPantalla()) {
+        return;
+    }
+    for (int asiento = 1; asiento <= 4; ++asiento) {
+        PintaNombre(asiento);
+    }
+    plataforma().Repinta();
+}
+
+void MarcaGanador(int asiento, bool visible) {
+    Traza("MarcaGanador", asiento, visible ? 1 : 0);
+    if (!plataforma().HayPantalla()) {
+        return;
+    }
+    const Rectangulo zona = ZonaDe(asiento);
+    const lamina::Recorte& marca = lamina::kMarcaGanador;
+    const int x = zona.x + (zona.ancho - marca.ancho) / 2;
+    const int y = zona.y + (zona.alto - marca.alto) / 2;
+    if (visible) {
+        Mesa().Lamina(x, y, marca);
+        plataforma().Repinta();
+    } else {
+        RedibujarAsiento(asiento);
+    }
+}

@@ -1,0 +1,141 @@
+#include "table/table_ops.h"
+
+#include <string>
+
+#include "core/game_state.h"
+#include "core/numeric.h"
+#include "games/game_table.h"
+#include "table/button_column.h"
+#include "table/layout.h"
+#include "table/manual_deal.h"
+#include "table/messages.h"
+#include "table/table_view.h"
+#include "table/trace.h"
+
+VistaMesa vista;
+
+namespace {
+
+constexpr Control kDeLaMesa[] = {Control::Pic_Apostadora, Control::Pic_BotDobSeg,
+                                 Control::Pic_SelOpciones, Control::Pic_Mover};
+
+Lienzo& Mesa() { return plataforma().LienzoDe(Control::Mesa, 0); }
+
+void RedibujaSorteo() {
+    for (int asiento = 1; asiento <= 4; ++asiento) {
+        if (vista.sorteada(asiento).palo == kSinCarta) {
+            continue;
+        }
+        ColocarCarta(asiento, 1, 1);
+        Mesa().Carta(estado.CartaX, estado.CartaY, vista.sorteada(asiento));
+    }
+}
+
+void RedibujaMazo() {
+    if (vista.cartas_mazo == 0) {
+        return;
+    }
+    if (vista.mazo_centrado) {
+        DibujarMazo(Redondea(estado.AnchoMesa / 2.0 - kAnchoCarta / 2.0),
+                    Redondea(estado.AltoMesa / 2.0 - kAltoCarta / 2.0), vista.cartas_mazo);
+    } else {
+        DibujarMazo(estado.MazoX, estado.MazoY, vista.cartas_mazo);
+    }
+}
+
+} // namespace
+
+void CalcularMesa() {
+    Traza("CalcularMesa");
+    CalculaLugares();
+    ColocaColumna();
+    for (int boton = 1; boton <= 8; ++boton) {
+        HabilitaBoton(boton, boton != 3 && boton != 4 && boton != 8);
+    }
+}
+
+void CambiaTamano() {
+    CalculaLugares();
+    ColocarMazo();
+    ColocaColumna();
+    RedibujarMesa();
+}
+
+void PrepararImagenes() { Traza("PrepararImagenes"); }
+
+void DibujarCarta(Control control, int x, int y, int orientacion, int palo, int valor, int cara,
+                  int realce) {
+    Traza("DibujarCarta", NombreDe(control), x, y, orientacion, palo, valor, cara, realce);
+    if (plataforma().HayPantalla()) {
+        plataforma()
+            .LienzoDe(control, 0)
+            .Carta(x, y,
+                   {.palo = EnteroDe(palo),
+                    .valor = EnteroDe(valor),
+                    .cara = EnteroDe(cara),
+                    .orientacion = EnteroDe(orientacion)});
+    }
+}
+
+void DibujarCaja(int x, int y, int ancho, int alto) {
+    Traza("DibujarCaja", x, y, ancho, alto);
+    if (plataforma().HayPantalla()) {
+        Mesa().Fieltro({x, y, ancho, alto});
+    }
+}
+
+void CambiarCursor(Control control, int indice, Puntero puntero) {
+    plataforma().PonPuntero(control, indice, puntero);
+}
+
+void Oculta(Control control, int indice) { plataforma().Muestra(control, indice, false); }
+
+void OcultaTantos() {
+    for (int asiento = 1; asiento <= 4; ++asiento) {
+        Oculta(Control::Pic_Tantos, asiento);
+    }
+}
+
+void OcultaControlesMesa() {
+    OcultarContinuar();
+    for (Control control : kDeLaMesa) {
+        Oculta(control);
+    }
+    for (int indice = 1; indice <= 2; ++indice) {
+        Oculta(Control::Pic_BotSuperior, indice);
+        Oculta(Control::Pic_BotLateral, indice);
+    }
+    OcultaSugerencia();
+}
+
+void LimpiarMesa() {
+    vista = {};
+    if (plataforma().HayPantalla()) {
+        Mesa().Fieltro({0, 0, estado.AnchoMesa, estado.AltoMesa});
+        plataforma().Repinta();
+    }
+}
+
+void RedibujarMesa() {
+    if (!plataforma().HayPantalla()) {
+        return;
+    }
+    Mesa().Fieltro({0, 0, estado.AnchoMesa, estado.AltoMesa});
+    RedibujaMazo();
+    RedibujaSorteo();
+    const FilaJuego* juego = FilaDe(estado.JuegoActivo);
+    if (juego != nullptr && juego->pinta_centro != nullptr) {
+        juego->pinta_centro();
+    }
+    for (int asiento = 1; asiento <= 4 && estado.PartidaEnCurso; ++asiento) {
+        if (vista.sorteada(asiento).palo == kSinCarta) {
+            RedibujarAsiento(asiento);
+        }
+    }
+    if (estado.RepartoEnCurso) {
+        PintaReparto();
+    }
+    PintaColumna();
+    PintaSugerencia();
+    plataforma().Repinta();
+}

@@ -1,0 +1,15 @@
+#pragma once
+// What stands on the felt beyond the hands, so that everything can be painted anew at a new size. It is a
+// memory of drawing only: no rule reads it.
+
+#include "platform/canvas.h"
+
+struct VistaMesa {
+    int cartas_mazo = 0;         // cards of the pile on show, 0 no pile
+    bool mazo_centrado = false;  // in the middle for the draw, not at the game's place
+    bool nombres = false;        // the names of the seats are on show
+    int asiento_arrastrado = 0;  // the hand from which CartaMovida was taken
+    Tabla<ImagenCarta, 4> sorteada; // the draw's last card of each seat, palo 0 for none
+};
+
+extern VistaMesa vista;
