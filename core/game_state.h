@@ -23,6 +23,7 @@ inline constexpr Integer kActivado = 1, kDesactivado = 2;
 inline constexpr Integer kOcultas = 1, kVisibles = 2;
 inline constexpr Integer kAutomatico = 1, kManual = 2;
 inline constexpr Integer kConservador = 1, kMedio = 2, kAgresivo = 3;
+inline constexpr Integer kRepartoAutomatico = 1, kRepartoManual = 2;
 inline constexpr Integer kDirecto = 1, kInverso = 2;
 inline constexpr Integer kIndividual = 1, kDosParejas = 2;
 inline constexpr Integer kBarajaEspanola = 1, kBarajaFrancesa = 2;

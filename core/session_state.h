@@ -11,6 +11,7 @@ struct Sesion {
     bool sin_eventos = false;      // a script came to its end inside a wait
     bool cierre_pendiente = false; // the window was closed where the exit button is disabled
     int estado_salida = 0;         // the program's exit status
+    bool fallo_contado = false;    // a failed write has been told in this run
     // The result of game JuegosJugados stands in the records: from then until the next hand start. What is
     // saved counts that game as finished.
     bool mano_apuntada = false;

@@ -22,9 +22,9 @@ struct FilaJuego {
     // Deck fields for the rules in force (not the image).
     void (*prepara_baraja)() = nullptr;
 
-    bool con_dinero = false;       // the seats get RestoInicial in chips
-    bool sortea_inicio = true;     // a match begins with the draw for the first player
-    bool sorteo_da_banca = false;  // ... and it decides JugadorBanca instead of JugadorMano
+    bool con_dinero = false;      // the seats get RestoInicial in chips
+    bool sortea_inicio = true;    // a match begins with the draw for the first player
+    bool sorteo_da_banca = false; // ... and it decides JugadorBanca instead of JugadorMano
     // The words of its message. Empty: who begins.
     TextosSorteo (*textos_sorteo)() = nullptr;
     bool mazo_seguido = false;     // the deck runs on from hand to hand, and is not shown as a pile

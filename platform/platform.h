@@ -123,6 +123,9 @@ public:
     virtual bool HayPantalla() const = 0;
     virtual int AnchoVentana() const = 0; // the table's window, button column included
     virtual int AltoVentana() const = 0;
+    // The desktop's screen.
+    virtual int AnchoEscritorio() const { return AnchoVentana(); }
+    virtual int AltoEscritorio() const { return AltoVentana(); }
 
     // The start: the splash `careta`, centred on the screen, which a click takes away; then `mesa` over it.
     // Without a screen there is neither.

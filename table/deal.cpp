@@ -42,9 +42,10 @@ void VuelaDelMazo(Integer asiento, int lugar, int cartas) {
     const Integer cara = estado.Mano(asiento, serie, lugar, kCara);
     const Integer orientacion = OrientacionDe(asiento);
     ColocarCarta(asiento, lugar, cartas);
-    MoverCarta(estado.Mano(asiento, serie, lugar, kPalo), estado.Mano(asiento, serie, lugar, kValor),
-               estado.MazoX, estado.MazoY, 1, kDorso, estado.CartaX, estado.CartaY, orientacion,
-               cara, estado.Mano(asiento, serie, lugar, kTapada));
+    MoverCarta(estado.Mano(asiento, serie, lugar, kPalo),
+               estado.Mano(asiento, serie, lugar, kValor), estado.MazoX, estado.MazoY, 1, kDorso,
+               estado.CartaX, estado.CartaY, orientacion, cara,
+               estado.Mano(asiento, serie, lugar, kTapada));
 }
 
 void RepartaUna(Integer asiento, int lugar) {
@@ -111,7 +112,7 @@ int PrimerHueco(Integer asiento) {
 } // namespace
 
 bool Repartir() {
-    return estado.SistemaReparto == 2 ? RepartirAMano() : ReparteSolo();
+    return estado.SistemaReparto == kRepartoManual ? RepartirAMano() : ReparteSolo();
 }
 
 void RobarCartas(Integer asiento, Integer n, Integer tapada) {
@@ -128,7 +129,8 @@ void RobarCartas(Integer asiento, Integer n, Integer tapada) {
         const int lugar = primero + i;
         const CartaMazo carta = SacaDelMazo();
         const bool a_la_vista = juego.tapa_al_repartir && tapada == 0;
-        PonCarta(asiento, serie, lugar, carta.palo, carta.valor, a_la_vista ? kDescubierta : kDorso);
+        PonCarta(asiento, serie, lugar, carta.palo, carta.valor,
+                 a_la_vista ? kDescubierta : kDorso);
         estado.Mano(asiento, serie, lugar, kTapada) = tapada;
         ++estado.NumCartas(asiento, serie);
         VuelaDelMazo(asiento, lugar, estado.NumCartas(asiento, serie));

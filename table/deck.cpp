@@ -79,7 +79,8 @@ void Barajar() {
     }
 }
 
-void PonCarta(Integer asiento, Integer serie, int lugar, Integer palo, Integer valor, Integer cara) {
+void PonCarta(Integer asiento, Integer serie, int lugar, Integer palo, Integer valor,
+              Integer cara) {
     estado.Mano(asiento, serie, lugar, kPalo) = palo;
     estado.Mano(asiento, serie, lugar, kValor) = valor;
     estado.Mano(asiento, serie, lugar, kCara) = cara;
@@ -116,7 +117,8 @@ void OrdenarMano(Integer asiento) {
     for (int lugar = 1; lugar <= estado.NumCartas(asiento, serie); ++lugar) {
         CartaConClave carta;
         for (int campo = 0; campo <= 5; ++campo) {
-            carta.campos[static_cast<std::size_t>(campo)] = estado.Mano(asiento, serie, lugar, campo);
+            carta.campos[static_cast<std::size_t>(campo)] =
+                estado.Mano(asiento, serie, lugar, campo);
         }
         carta.clave = juego.clave_orden(carta.campos[kPalo], carta.campos[kValor]);
         cartas.push_back(carta);

@@ -10,12 +10,12 @@ namespace {
 constexpr int kColumnasEspanola = 12, kColumnasFrancesa = 13;
 constexpr Integer kLeyNoSeAplica = 14;
 
-constexpr std::array<const char*, 12> kPluralEspanol{"Ases",   "Doses",  "Treses", "Cuatros",
-                                                     "Cincos", "Seises", "Sietes", "Ochos",
+constexpr std::array<const char*, 12> kPluralEspanol{"Ases",   "Doses",  "Treses",   "Cuatros",
+                                                     "Cincos", "Seises", "Sietes",   "Ochos",
                                                      "Nueves", "Sotas",  "Caballos", "Reyes"};
-constexpr std::array<const char*, 12> kNombreEspanol{"As",   "Dos",  "Tres",  "Cuatro", "Cinco",
-                                                     "Seis", "Siete", "Ocho", "Nueve",  "Sota",
-                                                     "Caballo", "Rey"};
+constexpr std::array<const char*, 12> kNombreEspanol{"As",    "Dos",  "Tres",    "Cuatro",
+                                                     "Cinco", "Seis", "Siete",   "Ocho",
+                                                     "Nueve", "Sota", "Caballo", "Rey"};
 constexpr std::array<const char*, 14> kPluralFrances{
     "Ases",  "Doses",  "Treses", "Cuatros", "Cincos", "Seises", "Sietes",
     "Ochos", "Nueves", "Dieces", "Jotas",   "Damas",  "Reyes",  "Ases"};

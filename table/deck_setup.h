@@ -5,12 +5,12 @@
 
 // The sizes of a deck and its deal, as the rules of each game give them.
 struct MedidasBaraja {
-    Integer tipo;             // kBarajaEspanola or kBarajaFrancesa
+    Integer tipo; // kBarajaEspanola or kBarajaFrancesa
     Integer valores_por_palo;
     Integer comodines = 0;
     Integer mazos = 1;
-    Integer reparto;          // cards dealt to a seat
-    Integer paso;             // cards at a time
+    Integer reparto; // cards dealt to a seat
+    Integer paso;    // cards at a time
     Integer max_mano;
 };
 

@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr int kPasoVuelo = 26;     // pixels a frame along the longer way
+constexpr int kPasoVuelo = 26; // pixels a frame along the longer way
 constexpr int kPausaCuadro = 12;
 constexpr int kSonidoDespega = 24, kSonidoPosa = 25;
 

@@ -12,12 +12,15 @@ namespace {
 constexpr int kAnchoMinimo = 800, kAltoMinimo = 600;
 constexpr int kLargoZona = 250;
 constexpr int kFondoZona = 160;
-constexpr int kBanda = 18;   // between the table's edge and a card in line: the seat's name stands there
-constexpr int kRealce = 20;  // how far a raised card stands into the table
+constexpr int kBanda =
+    18; // between the table's edge and a card in line: the seat's name stands there
+constexpr int kRealce = 20; // how far a raised card stands into the table
 constexpr int kPasoFicha = 38;
 constexpr int kAreasFichas = 15;
 
-Integer Mitad(int total) { return Redondea(total / 2.0); }
+Integer Mitad(int total) {
+    return Redondea(total / 2.0);
+}
 
 void CalculaZonas() {
     const auto ancho = estado.AnchoMesa;
@@ -76,7 +79,9 @@ int PasoDe(int cartas) {
     return cartas < 2 ? kAnchoCarta : std::min(kReparto / (cartas - 1), kAnchoCarta);
 }
 
-int LargoFranja(int cartas) { return PasoDe(cartas) * (cartas - 1) + kAnchoCarta; }
+int LargoFranja(int cartas) {
+    return PasoDe(cartas) * (cartas - 1) + kAnchoCarta;
+}
 
 // Along the edge, from the left or from the top, to the place's corner.
 Integer ALoLargo(int principio, int lugar, int cartas) {
@@ -97,7 +102,9 @@ void CalculaLugares() {
     CalculaFichas();
 }
 
-bool AsientoLateral(int asiento) { return asiento == 1 || asiento == 3; }
+bool AsientoLateral(int asiento) {
+    return asiento == 1 || asiento == 3;
+}
 
 Integer OrientacionDe(int asiento) {
     return EnteroDe(estado.OrientacionAsiento(asiento) % 4 + 1);

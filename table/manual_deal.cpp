@@ -19,9 +19,13 @@ constexpr Integer kValorComodin = 90;
 
 int total_al_empezar = 0;
 
-Lienzo& Mesa() { return plataforma().LienzoDe(Control::Mesa, 0); }
+Lienzo& Mesa() {
+    return plataforma().LienzoDe(Control::Mesa, 0);
+}
 
-int PasoFila() { return estado.AltoMiniCarta + kMasFila; }
+int PasoFila() {
+    return estado.AltoMiniCarta + kMasFila;
+}
 
 // A place of the spread as a card: the fifth row holds the jokers.
 Integer ValorDe(int fila, int columna) {
@@ -108,7 +112,7 @@ int Repartidas() {
 
 // The deal was broken off by a change of the rules.
 bool RepartoRoto() {
-    return estado.SistemaReparto == 1 || estado.TotalBaraja != total_al_empezar;
+    return estado.SistemaReparto == kRepartoAutomatico || estado.TotalBaraja != total_al_empezar;
 }
 
 void DescubreManos() {

@@ -21,7 +21,9 @@ constexpr Fuente kLetraNombre{.alto = 14, .negrita = true};
 constexpr int kAltoRenglon = 18;
 constexpr int kSonidoParpadeo = 12;
 
-Lienzo& Mesa() { return plataforma().LienzoDe(Control::Mesa, 0); }
+Lienzo& Mesa() {
+    return plataforma().LienzoDe(Control::Mesa, 0);
+}
 
 Rectangulo BandaDelNombre(int asiento) {
     const Rectangulo zona = ZonaDe(asiento);

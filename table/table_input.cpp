@@ -18,9 +18,12 @@ namespace {
 constexpr int kSonidoDespega = 24, kSonidoPosa = 25;
 constexpr int kBotonIzquierdo = 1, kBotonDerecho = 2;
 constexpr int kPasoColumna = 29, kHueco = 3, kMasFila = 2;
-constexpr int kMargenCambio = 18; // the pile's box reaches so much further left while a change is on offer
+constexpr int kMargenCambio =
+    18; // the pile's box reaches so much further left while a change is on offer
 
-bool Dentro(int v, int desde, int hasta) { return v >= desde && v <= hasta; }
+bool Dentro(int v, int desde, int hasta) {
+    return v >= desde && v <= hasta;
+}
 
 bool EnLaFranja(int asiento, int x, int y, int cartas) {
     const Rectangulo franja = FranjaMano(asiento, cartas);
@@ -54,7 +57,9 @@ bool ManoJugable() {
            !estado.RepartoEnCurso;
 }
 
-Integer Codigo(Puntero puntero) { return static_cast<Integer>(puntero); }
+Integer Codigo(Puntero puntero) {
+    return static_cast<Integer>(puntero);
+}
 
 Integer PunteroEnCarta() {
     const FilaJuego& juego = JuegoEnMesa();
@@ -91,8 +96,8 @@ Integer PunteroDeOrdenar(int x, int y) {
         return Codigo(Puntero::ManoCerrada);
     }
     DetectaJdorYCar(x, y);
-    const bool movible = estado.CartaBajoCursor != 0 &&
-                         estado.CartasJugador(estado.AsientoBajoCursor) == kVisibles;
+    const bool movible =
+        estado.CartaBajoCursor != 0 && estado.CartasJugador(estado.AsientoBajoCursor) == kVisibles;
     return movible ? Codigo(Puntero::Ordenar) : Integer{0};
 }
 
@@ -237,8 +242,7 @@ void DetectaJdorYCar(int x, int y) {
 void HallaFilyCol(int x, int y) {
     estado.FilaReparto =
         FilaDePaso(y - estado.ReparteY, estado.AltoMiniCarta + kMasFila, estado.FilasReparto);
-    estado.ColumnaReparto =
-        FilaDePaso(x - estado.ReparteX, kPasoColumna, estado.CartasImagen / 4);
+    estado.ColumnaReparto = FilaDePaso(x - estado.ReparteX, kPasoColumna, estado.CartasImagen / 4);
 }
 
 bool CartaLegal() {
@@ -246,7 +250,9 @@ bool CartaLegal() {
     return juego.carta_legal == nullptr || juego.carta_legal(estado.CartaBajoCursor);
 }
 
-void RefrescaPuntero() { CalculaPuntero(estado.RatonX, estado.RatonY); }
+void RefrescaPuntero() {
+    CalculaPuntero(estado.RatonX, estado.RatonY);
+}
 
 void Form_MouseMove(int x, int y) {
     ApagaOpcion();

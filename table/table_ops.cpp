@@ -19,7 +19,9 @@ namespace {
 constexpr Control kDeLaMesa[] = {Control::Pic_Apostadora, Control::Pic_BotDobSeg,
                                  Control::Pic_SelOpciones, Control::Pic_Mover};
 
-Lienzo& Mesa() { return plataforma().LienzoDe(Control::Mesa, 0); }
+Lienzo& Mesa() {
+    return plataforma().LienzoDe(Control::Mesa, 0);
+}
 
 void RedibujaSorteo() {
     for (int asiento = 1; asiento <= 4; ++asiento) {
@@ -61,7 +63,9 @@ void CambiaTamano() {
     RedibujarMesa();
 }
 
-void PrepararImagenes() { Traza("PrepararImagenes"); }
+void PrepararImagenes() {
+    Traza("PrepararImagenes");
+}
 
 void DibujarCarta(Control control, int x, int y, int orientacion, int palo, int valor, int cara,
                   int realce) {
@@ -88,7 +92,9 @@ void CambiarCursor(Control control, int indice, Puntero puntero) {
     plataforma().PonPuntero(control, indice, puntero);
 }
 
-void Oculta(Control control, int indice) { plataforma().Muestra(control, indice, false); }
+void Oculta(Control control, int indice) {
+    plataforma().Muestra(control, indice, false);
+}
 
 void OcultaTantos() {
     for (int asiento = 1; asiento <= 4; ++asiento) {

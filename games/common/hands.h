@@ -1,35 +1,38 @@
 #pragma once
-// What the games that count by hands won share: the start of a hand, the winner's mark, the end of a match.
+// What the games that count by hands won share: the start of a hand, the winner's mark, the end of a hand and
+// of a match, the tutor's advice. Seats 1..4; in pairs a winner is a team, 1 (seats 1 and 3) or 2 (2 and 4).
 
 #include <string>
 
 #include "core/tabla.h"
 
-// The start of a hand of Tute, Brisca and Cinquillo: counts the game, moves JugadorMano from the second game
-// on, clears the hand, deals (again, when a manual deal was broken off), sets ManoEnCurso. descubre, if any,
-// runs after the deal and before ManoEnCurso: the turned card. False when the match was left.
-[[nodiscard]] bool IniciarJuego(bool (*descubre)() = nullptr);
+// The start of a hand of Tute, Brisca and Cinquillo: counts the game, moves JugadorMano on from the second game
+// of the match, clears the hand and deals; a manual deal that was broken off is dealt again. Leaves the main
+// buttons 2, 3, 7 and 8 enabled and ManoEnCurso set. al_descubrir, if given, runs between the deal and
+// ManoEnCurso: it turns the trump card. False when the match was left.
+[[nodiscard]] bool IniciarJuego(void (*al_descubrir)() = nullptr);
 
-// The trick games' turn: the active seat or seats that hold nothing are skipped by the callers.
+// JugadorActual one seat before JugadorMano: the first step of the turns lands on it.
+void PonAntesDelMano();
 
-// Sound 14 and the mark of the winner, four times. In pairs GanadorMano is a team: both its seats.
+// Sound 14 and four flashes of the mark on GanadorMano's seat, or on both seats of the team.
 void ParpadeaGanador();
 
-// The text of a hand's or a match's winner, as it is told at the end of both.
-std::string TextoGanaMano();
+// "Ha ganado la mano Ana", or in the second person for seat 4: que is "la mano" or "la partida".
+std::string TextoGana(Integer ganador, const std::string& que);
 
-// The end of a hand, told with the dialog and the wait on "Continuar". False when the match was left.
+// The end of a hand, told: a pause, the dialog "Final de la mano" and the wait on "Continuar" (a pause of 500
+// instead when no seat is manual and no pause between moves is wanted). False when the match was left.
 [[nodiscard]] bool CuentaFinalMano(const std::string& texto);
 
-// Adds the hand to JuegosGanados and the record to what is kept. True when LimitePartida is reached: then
-// GanadorPartida is set.
-[[nodiscard]] bool ApuntaMano();
+// The hand counts: one more in JuegosGanados(GanadorMano), the game is in the records, the files are written.
+void ApuntaMano();
 
-// The end of a match: who has won it, the question of the history, the table at rest.
+// A seat (or team) has LimitePartida hands: GanadorPartida takes it.
+[[nodiscard]] bool HayGanadorPartida();
+
+// The end of a match: the winner is told, the history asked for, the table put to rest. Clears PartidaEnCurso.
 void FinalPartida();
 
-// True when a seat that takes a saved match up has already won it: GanadorPartida is set.
-[[nodiscard]] bool PartidaYaGanada();
-
-// Steps JugadorActual to one seat before JugadorMano, so that the first step lands on it.
-void PonAntesDelMano();
+// The tutor's advice: runs elige for JugadorActual and raises CartaElegida twice without playing it.
+void AconsejaCarta(void (*elige)());

@@ -9,13 +9,9 @@
 
 namespace {
 
-
 void PreparaBaraja() {
-    PonMedidas({.tipo = kBarajaEspanola,
-                .valores_por_palo = 10,
-                .reparto = 1,
-                .paso = 1,
-                .max_mano = 14});
+    PonMedidas(
+        {.tipo = kBarajaEspanola, .valores_por_palo = 10, .reparto = 1, .paso = 1, .max_mano = 14});
     PonReglasDeBanca();
     for (int valor = 1; valor <= 7; ++valor) {
         estado.ValorCarta(valor) = valor;

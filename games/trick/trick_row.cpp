@@ -9,7 +9,9 @@
 namespace {
 
 // Three at the table play without the four Doses.
-bool SonTres() { return estado.NumJugadores == 3; }
+bool SonTres() {
+    return estado.NumJugadores == 3;
+}
 
 void PonBaraja(Integer reparto, Integer paso) {
     PonMedidas({.tipo = kBarajaEspanola,
@@ -32,7 +34,9 @@ void PreparaTute() {
     }
 }
 
-void PreparaBrisca() { PonBaraja(3, 1); }
+void PreparaBrisca() {
+    PonBaraja(3, 1);
+}
 
 // Suit by suit, the strongest card first.
 std::string ClaveOrden(Integer palo, Integer valor) {
@@ -42,10 +46,8 @@ std::string ClaveOrden(Integer palo, Integer valor) {
 } // namespace
 
 const FilaJuego& FilaTute() {
-    static const FilaJuego kFila{.id = kTute,
-                                 .nombre = "Tute",
-                                 .prepara_baraja = PreparaTute,
-                                 .clave_orden = ClaveOrden};
+    static const FilaJuego kFila{
+        .id = kTute, .nombre = "Tute", .prepara_baraja = PreparaTute, .clave_orden = ClaveOrden};
     return kFila;
 }
 

@@ -1,0 +1,6 @@
+#pragma once
+// The draw for the first player.
+
+// Cards are dealt face up, one by one, until an As falls: its seat becomes JugadorMano, or JugadorBanca where the
+// game says so. Writes Baraja, JugadorActual. False when the match was left.
+[[nodiscard]] bool SorteoInicial();

@@ -1,0 +1,265 @@
+#include "core/main_buttons.h"
+
+#include "core/game_state.h"
+#include "core/saving.h"
+#include "core/session_state.h"
+#include "games/game_table.h"
+#include "table/deck.h"
+#include "table/hand_order.h"
+#include "table/manual_deal.h"
+#include "table/messages.h"
+#include "table/options_menu.h"
+#include "table/table_input.h"
+#include "table/table_ops.h"
+
+namespace {
+
+constexpr int kSonidoBoton = 9;
+constexpr int kBotonTutor = 4;
+
+void BotonNueva() {
+    if (ConfirmarNueva()) {
+        sesion.peticion = Peticion::NuevaPartida;
+    }
+}
+
+void BotonPersonal() {
+    estado.VentanaModal = true;
+    estado.JugadoresCambiados = false;
+    plataforma().Abre(Forma::Personal);
+    estado.VentanaModal = false;
+    if (estado.JugadoresCambiados) {
+        ConstruirBaraja();
+        sesion.peticion = Peticion::NuevaPartida;
+        return;
+    }
+    GuardarPartida();
+}
+
+void BotonNormas() {
+    estado.JuegoPrevio = estado.JuegoActivo;
+    estado.VentanaModal = true;
+    plataforma().Abre(Forma::Normas);
+    estado.VentanaModal = false;
+    if (estado.JuegoActivo != estado.JuegoPrevio) {
+        sesion.peticion = Peticion::NuevaSesion;
+        return;
+    }
+    GuardarPartida();
+}
+
+void BotonTutor() {
+    const FilaJuego& juego = JuegoEnMesa();
+    estado.TutorPulsado = true;
+    Pausa(60);
+    if (juego.tutor != nullptr) {
+        juego.tutor();
+    }
+    estado.TutorPulsado = false;
+    estado.JugadaHecha = false;
+}
+
+void BotonInforme() {
+    plataforma().Abre(Forma::Marcador);
+}
+
+void BotonAyuda() {
+    plataforma().Ayuda(0);
+}
+
+void BotonSalir() {
+    if (ConfirmarSalida()) {
+        GuardarYSalir();
+    }
+}
+
+void BotonEstadistica() {
+    if (estado.JuegosJugados > 0) {
+        plataforma().Abre(Forma::Estadis);
+    }
+}
+
+using Accion = void (*)();
+constexpr Accion kAcciones[] = {nullptr,     BotonNueva, BotonPersonal,
+                                BotonNormas, BotonTutor, BotonInforme,
+                                BotonAyuda,  BotonSalir, BotonEstadistica};
+
+// What hangs on the pointer goes back to its place before anything else happens.
+void SueltaLoColgado() {
+    if (estado.ArrastraReparto) {
+        DevuelveAlReparto();
+    }
+    AbandonaArrastre();
+}
+
+void ClicEnControl(const Evento& evento) {
+    if (!plataforma().EstaVisible(evento.control, evento.indice)) {
+        return;
+    }
+    switch (evento.control) {
+    case Control::Pic_Boton:
+        PulsaBoton(evento.indice);
+        break;
+    case Control::Pic_BotContinuar:
+        PulsaContinuar();
+        break;
+    case Control::Pic_MasAyuda:
+        plataforma().Ayuda(estado.TemaActual);
+        break;
+    case Control::Bot_CerrarSuge:
+        CierraSugerencia();
+        break;
+    default:
+        break;
+    }
+}
+
+void RatonEnMesa(const Evento& evento) {
+    switch (evento.tipo) {
+    case TipoEvento::RatonMueve:
+        Form_MouseMove(evento.x, evento.y);
+        break;
+    case TipoEvento::RatonPulsa:
+        Form_MouseDown(evento.boton, evento.x, evento.y);
+        break;
+    case TipoEvento::RatonSuelta:
+        Form_MouseUp();
+        break;
+    default:
+        Form_Click(evento.x, evento.y);
+        break;
+    }
+}
+
+void RatonEnControl(const Evento& evento) {
+    if (evento.control == Control::Pic_SelOpciones) {
+        if (evento.tipo == TipoEvento::RatonMueve) {
+            Opciones_MouseMove(evento.y);
+        } else if (evento.tipo == TipoEvento::RatonSuelta) {
+            Opciones_MouseUp();
+        }
+    } else if (evento.control == Control::Pic_Botonera && evento.tipo == TipoEvento::RatonMueve) {
+        estado.CursorTabla = 0;
+        CambiarCursor(Control::Mesa, 0, Puntero::Flecha);
+    }
+}
+
+void Tecla(int tecla) {
+    if (!TeclaActiva(tecla)) {
+        return;
+    }
+    if (estado.PartidaEnCurso) {
+        PulsaContinuar();
+    } else {
+        PulsaBoton(1);
+    }
+}
+
+void CierraVentana() {
+    if (BotonHabilitado(7)) {
+        PulsaBoton(7);
+    } else {
+        sesion.cierre_pendiente = true;
+    }
+}
+
+} // namespace
+
+void DespachaEvento(const Evento& evento) {
+    switch (evento.tipo) {
+    case TipoEvento::RatonMueve:
+    case TipoEvento::RatonPulsa:
+    case TipoEvento::RatonSuelta:
+    case TipoEvento::RatonClic:
+        if (evento.control == Control::Mesa) {
+            RatonEnMesa(evento);
+        } else {
+            RatonEnControl(evento);
+        }
+        break;
+    case TipoEvento::Clic:
+        ClicEnControl(evento);
+        break;
+    case TipoEvento::Tecla:
+        Tecla(evento.tecla);
+        break;
+    case TipoEvento::Tamano:
+        CambiaTamano();
+        break;
+    case TipoEvento::CierraVentana:
+        CierraVentana();
+        break;
+    case TipoEvento::Termina:
+        GuardarYSalir();
+        break;
+    }
+}
+
+void PulsaBoton(int indice) {
+    if (indice < 1 || indice > 8 || !BotonHabilitado(indice)) {
+        return;
+    }
+    SueltaLoColgado();
+    Oculta(Control::Pic_SelOpciones);
+    estado.ModoOrdenar = false;
+    CambiarCursor(Control::Mesa, 0, Puntero::RelojArena);
+    if (indice != kBotonTutor) {
+        Sonido(0, kSonidoBoton);
+    }
+    kAcciones[indice]();
+    estado.CursorTabla = 0;
+    CambiarCursor(Control::Mesa, 0, Puntero::Flecha);
+}
+
+void PulsaContinuar() {
+    Oculta(Control::Pic_SelOpciones);
+    if (!estado.EsperandoJugada) {
+        return;
+    }
+    SueltaLoColgado();
+    Sonido(0, kSonidoBoton);
+    PedirContinuar(2);
+    Pausa(420);
+    estado.EsperandoJugada = false;
+    if (!estado.PausaEntreJugadas) {
+        Oculta(Control::Pic_BotContinuar);
+    }
+}
+
+bool ConfirmarNueva() {
+    if (!estado.PartidaEnCurso) {
+        return true;
+    }
+    Mensaje("Abandonar la partida en curso",
+            "¿Desea  abandonar  la  partida  que  está  jugando  para comenzar una nueva partida?",
+            2, 2);
+    return estado.RespuestaMensaje;
+}
+
+bool ConfirmarSalida() {
+    if (!estado.PartidaEnCurso) {
+        return true;
+    }
+    Mensaje(
+        "Posponer la partida en curso",
+        "¿Desea  abandonar  el  programa  para  continuar  en  otro momento la partida que está "
+        "jugando?",
+        2, 2);
+    return estado.RespuestaMensaje;
+}
+
+void GuardarYSalir() {
+    if (estado.RepartoEnCurso) {
+        estado.RepartoEnCurso = false;
+        estado.ManoEnCurso = false;
+    }
+    const FilaJuego* juego = FilaDe(estado.JuegoActivo);
+    if (juego != nullptr && juego->restaura != nullptr && !sesion.mano_apuntada) {
+        juego->restaura();
+    }
+    sesion.fallo_contado = false;
+    if (!GuardarPartida()) {
+        sesion.estado_salida = 1;
+    }
+    sesion.peticion = Peticion::Salir;
+}

@@ -1,0 +1,186 @@
+#include "core/match_driver.h"
+
+#include "betting/chips.h"
+#include "core/game_state.h"
+#include "core/initial_draw.h"
+#include "core/main_buttons.h"
+#include "core/random.h"
+#include "core/saving.h"
+#include "core/settings.h"
+#include "core/word_tables.h"
+#include "games/common/trick_state.h"
+#include "games/game_table.h"
+#include "platform/platform.h"
+#include "table/deck.h"
+#include "table/layout.h"
+#include "table/messages.h"
+#include "table/table_ops.h"
+#include "table/waiting.h"
+
+namespace {
+
+// A game that cannot be played yet gives way to one that can.
+void TomaJuegoJugable() {
+    const FilaJuego* fila = FilaDe(estado.JuegoActivo);
+    if (fila == nullptr || fila->driver == nullptr) {
+        estado.JuegoActivo = kCinquillo;
+    }
+}
+
+void LimpiaTodo() {
+    OcultaTantos();
+    LimpiarMesa();
+    OcultaControlesMesa();
+}
+
+void BajaBanderas() {
+    estado.ManoEnCurso = false;
+    estado.ModoOrdenar = false;
+    estado.ModoApuesta = false;
+    estado.RepartoEnCurso = false;
+    estado.ArrastraReparto = false;
+    estado.ArrastraCarta = false;
+    estado.EligeCarta = false;
+}
+
+void OfreceDescripcion() {
+    Mensaje(
+        "Descripción general",
+        "Si   desea   consultar   una   descripción   general   de   este programa  para  conocer  "
+        "rápidamente  su  funcionamiento, pulse el botón de Ayuda.",
+        3, 3);
+    if (estado.AyudaPulsada) {
+        plataforma().Ayuda(0);
+    }
+    estado.PrimeraVez = false;
+}
+
+void AnunciaContinuacion() {
+    Mensaje("Continuar la partida anterior",
+            "Continua  el  desarrollo  de  la  partida  que  no  finalizó en la sesión anterior.",
+            2, 1);
+    HabilitaBoton(1, true);
+}
+
+void BorraManos() {
+    for (Integer asiento = 1; asiento <= 4; ++asiento) {
+        VaciaMano(asiento);
+    }
+    estado.PaloTriunfo = 0;
+    estado.ValorTriunfo = 0;
+}
+
+void BorraResultados() {
+    estado.JuegosJugados = 0;
+    estado.Juegos.Borra();
+    estado.JuegosGanados.Borra();
+    estado.GanadorPartida = 0;
+    bazas.TuteCantado = false;
+    sesion.mano_apuntada = true;
+}
+
+void DaRestos() {
+    for (int asiento = 0; asiento <= 4; ++asiento) {
+        const bool juega = asiento != 0 && estado.EstadoJugador(asiento) == kActivado;
+        AsignarResto(asiento, juega ? estado.RestoInicial : Integer{0});
+    }
+}
+
+void ReanudaPartida() {
+    const FilaJuego& juego = JuegoEnMesa();
+    sesion.mano_apuntada = true;
+    RedibujarMesa();
+    if (juego.mazo_seguido) {
+        Barajar();
+    }
+    juego.driver();
+}
+
+} // namespace
+
+void IniciarTablas() {
+    estado.PasoSentido = static_cast<Integer>(estado.SentidoJuego == kInverso ? -1 : 1);
+    PonTablasDePalabras();
+    estado.JuegoConBanca = false;
+    estado.EsperandoJugada = false;
+    estado.TutorPulsado = false;
+    estado.VentanaModal = false;
+    Oculta(Control::Pic_BotDobSeg);
+    CargaSugerencias();
+    ConstruirBaraja();
+    PrepararImagenes();
+}
+
+void IniciarSesion() {
+    TomaJuegoJugable();
+    ColocarMazo();
+    LeerIniJuego();
+    IniciarTablas();
+    estado.CursorTabla = 0;
+    CambiarCursor(Control::Mesa, 0, Puntero::Flecha);
+    LimpiaTodo();
+    BajaBanderas();
+    BorraManos();
+    SiembraDelReloj(plataforma().Reloj());
+    if (estado.PartidaEnCurso) {
+        AnunciaContinuacion();
+    }
+    if (estado.PrimeraVez) {
+        OfreceDescripcion();
+    }
+    if (estado.PartidaEnCurso) {
+        ReanudaPartida();
+    } else {
+        HabilitaBoton(3, true);
+    }
+}
+
+void NuevaPartida() {
+    TomaJuegoJugable();
+    const FilaJuego& juego = JuegoEnMesa();
+    estado.PartidaEnCurso = true;
+    LimpiaTodo();
+    BajaBanderas();
+    BorraManos();
+    BorraResultados();
+    if (juego.nueva_partida != nullptr) {
+        juego.nueva_partida();
+    }
+    SiembraDelReloj(plataforma().Reloj());
+    if (juego.con_dinero) {
+        DaRestos();
+    }
+    // From here on the abandoned match is gone from the disk too.
+    GuardarPartida();
+    if (juego.sortea_inicio && !SorteoInicial()) {
+        return;
+    }
+    HabilitaBoton(1, true);
+    GuardarPartida();
+    juego.driver();
+}
+
+bool AtiendePeticiones() {
+    while (sesion.peticion != Peticion::Ninguna) {
+        const Peticion pedida = sesion.peticion;
+        if (pedida == Peticion::Salir) {
+            return false;
+        }
+        sesion.peticion = Peticion::Ninguna;
+        if (pedida == Peticion::NuevaPartida) {
+            NuevaPartida();
+        } else {
+            IniciarSesion();
+        }
+    }
+    return true;
+}
+
+void BucleSesion() {
+    while (AtiendePeticiones()) {
+        if (!plataforma().EsperaEvento()) {
+            return;
+        }
+        PaseDeEventos(Pase::DeEspera);
+    }
+}

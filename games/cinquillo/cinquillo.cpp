@@ -1,0 +1,292 @@
+#include "games/cinquillo/cinquillo.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <string>
+#include <vector>
+
+#include "core/game_state.h"
+#include "core/numeric.h"
+#include "core/random.h"
+#include "core/session_state.h"
+#include "core/text.h"
+#include "games/cinquillo/cinquillo_choice.h"
+#include "games/cinquillo/cinquillo_row.h"
+#include "games/cinquillo/cinquillo_table.h"
+#include "games/common/hands.h"
+#include "games/common/trick_state.h"
+#include "games/game_table.h"
+#include "table/deck.h"
+#include "table/deck_setup.h"
+#include "table/messages.h"
+#include "table/table_input.h"
+#include "table/table_ops.h"
+#include "table/waiting.h"
+
+namespace {
+
+constexpr int kTipTutor = 50, kTipReglas = 15;
+constexpr int kFilaPalo = 5, kFilaValor = 10; // rows of RegistroBazas before seat 1
+constexpr int kBotonTutor = 4;
+
+using Negativos = std::array<Integer, 5>;
+
+bool EsManual(Integer asiento) {
+    return estado.ControlJugador(asiento) == kManual;
+}
+
+// The tip of a turn's beginning goes by the number of the turn before.
+void SugiereAlEmpezar() {
+    if (estado.AzarTurno < 0.25F) {
+        MostrarSugerencia(kTipTutor);
+    } else if (estado.AzarTurno < 0.8F) {
+        MostrarSugerencia(kTipReglas);
+    }
+}
+
+void PreparaEleccion(Integer asiento) {
+    estado.ModoOrdenar = false;
+    estado.JugadaHecha = false;
+    estado.EligeCarta = EsManual(asiento);
+    HabilitaBoton(kBotonTutor, EsManual(asiento));
+    if (!EsManual(asiento)) {
+        Pausa(300);
+    }
+    EligeCartaCinquillo();
+    if (EsManual(asiento)) {
+        RefrescaPuntero();
+        if (estado.AzarTurno < 0.4F) {
+            MostrarSugerencia(kTipTutor);
+        }
+    }
+}
+
+// The seat's choice stands in CartaElegida; false when the match was left.
+[[nodiscard]] bool EsperaEleccion(Integer asiento) {
+    if (!EsManual(asiento) && !estado.PausaEntreJugadas) {
+        return true;
+    }
+    if (!EsperaContinuar()) {
+        return false;
+    }
+    if (!estado.JugadaHecha) {
+        EligeCartaCinquillo();
+    }
+    return true;
+}
+
+void CierraEleccion() {
+    estado.EligeCarta = false;
+    estado.ModoOrdenar = false;
+    HabilitaBoton(kBotonTutor, false);
+    RefrescaPuntero();
+}
+
+// The chosen card goes from the hand to its place on the table.
+void ExtiendeCarta(Integer asiento) {
+    const Integer lugar = estado.CartaElegida;
+    const Integer cartas = estado.NumCartas(asiento, 1);
+    const Integer palo = estado.Mano(asiento, 1, lugar, kPalo);
+    const Integer valor = estado.Mano(asiento, 1, lugar, kValor);
+    estado.Mano(asiento, 1, lugar, kAltura) = kLevantada;
+    estado.Mano(asiento, 1, lugar, kCara) = kDescubierta;
+    RedibujarAsiento(asiento);
+    Pausa(500);
+    ColocarCarta(asiento, lugar, cartas);
+    const Punto desde{estado.CartaX, estado.CartaY};
+    --estado.NumCartas(asiento, 1);
+    bazas.RegistroBazas(asiento + kFilaPalo, estado.NumBaza) = palo;
+    bazas.RegistroBazas(asiento + kFilaValor, estado.NumBaza) = valor;
+    for (int campo = 0; campo <= 5; ++campo) {
+        estado.Mano(asiento, 1, lugar, campo) = 0;
+    }
+    CompactarMano(asiento);
+    RedibujarAsiento(asiento);
+    const Punto hasta = LugarTendido(palo, valor);
+    MoverCarta(palo, valor, desde.x, desde.y, OrientacionDe(asiento), kDescubierta, hasta.x,
+               hasta.y, 1, kDescubierta, 0);
+    bazas.CartaJugada(palo, valor) = asiento;
+    PintaTendido();
+    Pausa(500);
+}
+
+// One turn; a seat that cannot lay passes without a sign. False when the match was left.
+[[nodiscard]] bool TurnoDeAsiento() {
+    SiguienteAsiento(estado.JugadorActual);
+    const Integer asiento = estado.JugadorActual;
+    if (EsManual(asiento)) {
+        SugiereAlEmpezar();
+    }
+    PaseDeEventos(Pase::DePaso);
+    if (!PartidaSigue()) {
+        return false;
+    }
+    if (asiento == estado.JugadorMano) {
+        ++estado.NumBaza;
+    }
+    estado.AzarTurno = static_cast<float>(Azar());
+    EligeCartaCinquillo();
+    if (bazas.NumJugables == 0) {
+        return true;
+    }
+    ResaltarAsiento();
+    PreparaEleccion(asiento);
+    const bool elegida = EsperaEleccion(asiento);
+    CierraEleccion();
+    if (!elegida) {
+        return false;
+    }
+    ExtiendeCarta(asiento);
+    return true;
+}
+
+Integer PuntosDeCarta(Integer valor) {
+    return EnteroDe(6 - std::abs(RangoSeguido(valor) - 5));
+}
+
+Negativos CuentaNegativos() {
+    Negativos negativos{};
+    int total = 0;
+    for (int asiento = 1; asiento <= 4; ++asiento) {
+        Integer& suyos = negativos[static_cast<std::size_t>(asiento)];
+        for (int lugar = 1; lugar <= estado.NumCartas(asiento, 1); ++lugar) {
+            suyos = EnteroDe(suyos + PuntosDeCarta(estado.Mano(asiento, 1, lugar, kValor)));
+        }
+        total += suyos;
+    }
+    negativos[static_cast<std::size_t>(estado.GanadorMano)] = EnteroDe(total);
+    return negativos;
+}
+
+std::string TextoFinal(const Negativos& negativos) {
+    std::vector<int> perdedores;
+    for (int asiento = 1; asiento <= 4; ++asiento) {
+        if (asiento != estado.GanadorMano) {
+            perdedores.push_back(asiento);
+        }
+    }
+    const auto puntos = [&](int asiento) { return negativos[static_cast<std::size_t>(asiento)]; };
+    std::ranges::stable_sort(perdedores, {}, puntos);
+    std::string texto;
+    for (int asiento : perdedores) {
+        texto += estado.NombreJugador(asiento) + " : " + Formato(puntos(asiento), "##0") +
+                 (puntos(asiento) == 1 ? " punto negativo." : " puntos negativos.") +
+                 estado.SaltoLinea;
+    }
+    return texto + estado.SaltoLinea + TextoGana(estado.GanadorMano, "la mano");
+}
+
+std::string CartasQueQuedan(int asiento) {
+    std::string texto;
+    for (int lugar = 1; lugar <= estado.NumCartas(asiento, 1); ++lugar) {
+        const Integer valor = estado.Mano(asiento, 1, lugar, kValor);
+        texto += (valor == 1 ? "A" : Formato(valor, "#0")) + " ";
+    }
+    return texto;
+}
+
+void RegistraMano(const Negativos& negativos) {
+    RegistroJuego& registro = estado.Juegos(estado.JuegosJugados);
+    registro.Marcas(estado.GanadorMano, 1) = 1;
+    for (int asiento = 1; asiento <= 4; ++asiento) {
+        registro.Texto1(asiento) = Numero(negativos[static_cast<std::size_t>(asiento)]);
+        registro.Texto2(asiento) = CartasQueQuedan(asiento);
+    }
+}
+
+void DescubreManos() {
+    for (int asiento = 1; asiento <= 4; ++asiento) {
+        for (int lugar = 1; lugar <= estado.NumCartas(asiento, 1); ++lugar) {
+            estado.Mano(asiento, 1, lugar, kCara) = kDescubierta;
+        }
+        RedibujarAsiento(asiento);
+    }
+}
+
+void CierraBotones() {
+    for (int boton : {1, 3, 7, 8}) {
+        HabilitaBoton(boton, false);
+    }
+    if (estado.SistemaReparto == kRepartoAutomatico) {
+        HabilitaBoton(2, false);
+    }
+}
+
+[[nodiscard]] bool CierreDeMano() {
+    estado.GanadorMano = estado.JugadorActual;
+    CierraBotones();
+    estado.ManoEnCurso = false;
+    DescubreManos();
+    ParpadeaGanador();
+    const Negativos negativos = CuentaNegativos();
+    if (!CuentaFinalMano(TextoFinal(negativos))) {
+        return false;
+    }
+    RegistraMano(negativos);
+    ApuntaMano();
+    return true;
+}
+
+// One hand from the deal to its record; false when the match was left.
+[[nodiscard]] bool JuegaMano() {
+    if (!IniciarJuego()) {
+        return false;
+    }
+    HabilitaBoton(1, true);
+    estado.Juegos(estado.JuegosJugados).Inicio = estado.NombreJugador(estado.JugadorMano);
+    PonAntesDelMano();
+    do {
+        if (!TurnoDeAsiento()) {
+            return false;
+        }
+    } while (estado.NumCartas(estado.JugadorActual, 1) > 0);
+    return CierreDeMano();
+}
+
+void PreparaBaraja() {
+    PonMedidas({.tipo = kBarajaEspanola,
+                .valores_por_palo = 10,
+                .reparto = 10,
+                .paso = 5,
+                .max_mano = 10});
+    PonValoresDeBazas();
+}
+
+std::string ClaveOrden(Integer palo, Integer valor) {
+    return Formato(palo, "0") + Formato(valor, "00");
+}
+
+void RotuloContinuar(std::string& primera, std::string& segunda) {
+    if (!EsManual(estado.JugadorActual)) {
+        segunda = primera;
+        primera = "Juega";
+    }
+}
+
+} // namespace
+
+void ManoCinquillo() {
+    while (!HayGanadorPartida()) {
+        if (!JuegaMano()) {
+            return;
+        }
+    }
+    FinalPartida();
+}
+
+const FilaJuego& FilaCinquillo() {
+    static const FilaJuego kFila{
+        .id = kCinquillo,
+        .nombre = "Cinquillo",
+        .driver = ManoCinquillo,
+        .prepara_baraja = PreparaBaraja,
+        .pinta_centro = PintaTendido,
+        .clave_orden = ClaveOrden,
+        .carta_legal = LugarJugable,
+        .rotulo_continuar = RotuloContinuar,
+        .tras_reordenar = EligeCartaCinquillo,
+        .tutor = [] { AconsejaCarta(EligeCartaCinquillo); },
+    };
+    return kFila;
+}

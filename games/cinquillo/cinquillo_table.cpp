@@ -1,0 +1,58 @@
+// The table of the cards laid.
+
+#include "games/cinquillo/cinquillo_table.h"
+
+#include <algorithm>
+
+#include "core/game_state.h"
+#include "core/numeric.h"
+#include "games/cinquillo/cinquillo.h"
+#include "games/cinquillo/cinquillo_choice.h"
+#include "games/common/trick_state.h"
+#include "platform/platform.h"
+
+namespace {
+
+constexpr int kMargen = 4;         // felt left free before the seats' zones
+constexpr int kRealce = 20;        // raised cards of the side seats stand so far into the table
+constexpr int kAnchoColumna = 106; // at most
+constexpr int kRangos = 10;
+
+struct Rejilla {
+    int x, y, columna, fila;
+};
+
+Rejilla LaRejilla() {
+    const int izquierda = estado.MesaDerecha(1) + kRealce + kMargen;
+    const int derecha = estado.MesaIzquierda(3) - kRealce - kMargen;
+    const int arriba = estado.MesaAbajo(2) + kMargen;
+    const int abajo = estado.MesaArriba(4) - kMargen;
+    const int columna = std::min((derecha - izquierda - kAnchoCarta) / 3, kAnchoColumna);
+    const int fila = (abajo - arriba - kAltoCarta) / (kRangos - 1);
+    return {(izquierda + derecha - 3 * columna - kAnchoCarta) / 2, arriba, columna, fila};
+}
+
+} // namespace
+
+Punto LugarTendido(Integer palo, Integer valor) {
+    const Rejilla r = LaRejilla();
+    return {r.x + (palo - 1) * r.columna, r.y + (kRangos - RangoSeguido(valor)) * r.fila};
+}
+
+void PintaTendido() {
+    if (!plataforma().HayPantalla()) {
+        return;
+    }
+    Lienzo& mesa = plataforma().LienzoDe(Control::Mesa, 0);
+    for (Integer palo = kOros; palo <= kBastos; ++palo) {
+        for (Integer valor = 12; valor >= 1; --valor) {
+            if (bazas.CartaJugada(palo, valor) == 0) {
+                continue;
+            }
+            const Punto lugar = LugarTendido(palo, valor);
+            mesa.Carta(lugar.x, lugar.y,
+                       {.palo = palo, .valor = valor, .cara = kDescubierta, .orientacion = 1});
+        }
+    }
+    plataforma().Repinta();
+}

@@ -1,0 +1,216 @@
+#include "games/common/hands.h"
+
+#include "core/game_state.h"
+#include "core/numeric.h"
+#include "core/saving.h"
+#include "core/session_state.h"
+#include "games/common/trick_state.h"
+#include "table/deck.h"
+#include "table/manual_deal.h"
+#include "table/messages.h"
+#include "table/table_ops.h"
+#include "table/waiting.h"
+
+namespace {
+
+constexpr int kSonidoFinMano = 14, kSonidoConsejo = 26;
+constexpr int kJuegosGuardados = 999; // what the file can count; older records are let go
+
+bool PorParejas() {
+    return estado.ModalidadJuego == kDosParejas;
+}
+
+bool EnEquipo(int asiento, Integer ganador) {
+    return asiento == ganador || (PorParejas() && estado.ParejaAsiento(asiento) == ganador);
+}
+
+void SueltaJuegoMasAntiguo() {
+    for (int juego = 1; juego < estado.JuegosJugados; ++juego) {
+        estado.Juegos(juego) = std::move(estado.Juegos(juego + 1));
+    }
+    estado.Juegos(estado.JuegosJugados) = {};
+    --estado.JuegosJugados;
+}
+
+void CuentaJuego() {
+    if (estado.JuegosJugados > kJuegosGuardados) {
+        SueltaJuegoMasAntiguo();
+    }
+    ++estado.JuegosJugados;
+    sesion.mano_apuntada = false;
+    for (int paso = 0; estado.JuegosJugados > 1 && paso < 4; ++paso) {
+        SiguienteAsiento(estado.JugadorMano);
+        if (estado.EstadoJugador(estado.JugadorMano) == kActivado) {
+            return;
+        }
+    }
+}
+
+void BorraMano() {
+    for (Integer asiento = 1; asiento <= 4; ++asiento) {
+        VaciaMano(asiento);
+        estado.SeriesJugador(asiento) = 1;
+    }
+    estado.Baraja.Borra();
+    estado.RotuloSerie.Borra();
+    estado.ParpadeoRotulo.Borra();
+    estado.PaloTriunfo = 0;
+    estado.ValorTriunfo = 0;
+    estado.NumBaza = 0;
+    estado.SerieActual = 1;
+    estado.SerieEnJuego = 1;
+    estado.JugadoresEnMano = estado.NumJugadores;
+}
+
+void BorraBazas() {
+    bazas.CartaCambio = 0;
+    bazas.Arrastre = false;
+    bazas.TuteCantado = false;
+    bazas.CartaEnMesa.Borra();
+    bazas.TantosJugador.Borra();
+    bazas.PaloCantado.Borra();
+    bazas.CartaJugada.Borra();
+    bazas.FallaPalo.Borra();
+    bazas.RegistroBazas.Borra();
+    bazas.GanadorDeBaza.Borra();
+    bazas.TantosDeBaza.Borra();
+    bazas.CartasJugables.Borra();
+    bazas.NumJugables = 0;
+}
+
+void PonMesaDeMano() {
+    BorraMano();
+    BorraBazas();
+    LimpiarMesa();
+    MostrarNombres();
+    for (int asiento = 1; asiento <= 4; ++asiento) {
+        RedibujarAsiento(asiento);
+    }
+}
+
+[[nodiscard]] bool RepartirHastaCompletar() {
+    do {
+        PonMesaDeMano();
+        if (!Repartir()) {
+            return false;
+        }
+    } while (!RepartoCompleto());
+    return true;
+}
+
+bool AlguienManual() {
+    for (int asiento = 1; asiento <= 4; ++asiento) {
+        if (estado.EstadoJugador(asiento) == kActivado &&
+            estado.ControlJugador(asiento) == kManual) {
+            return true;
+        }
+    }
+    return false;
+}
+
+std::string Equipo(int uno) {
+    return estado.NombreJugador(uno) + " y " + estado.NombreJugador(uno + 2);
+}
+
+void PonAltura(Integer altura) {
+    estado.Mano(estado.JugadorActual, estado.SerieActual, estado.CartaElegida, kAltura) = altura;
+    RedibujarAsiento(estado.JugadorActual);
+}
+
+} // namespace
+
+bool IniciarJuego(void (*al_descubrir)()) {
+    CuentaJuego();
+    if (!RepartirHastaCompletar()) {
+        return false;
+    }
+    if (al_descubrir != nullptr) {
+        al_descubrir();
+    }
+    estado.ManoEnCurso = true;
+    for (int boton : {2, 3, 7, 8}) {
+        HabilitaBoton(boton, true);
+    }
+    return true;
+}
+
+void PonAntesDelMano() {
+    estado.JugadorActual = estado.JugadorMano;
+    AsientoAnterior(estado.JugadorActual);
+}
+
+void ParpadeaGanador() {
+    Sonido(1, kSonidoFinMano);
+    for (int vez = 0; vez < 4; ++vez) {
+        for (const bool visible : {true, false}) {
+            for (int asiento = 1; asiento <= 4; ++asiento) {
+                if (EnEquipo(asiento, estado.GanadorMano)) {
+                    MarcaGanador(asiento, visible);
+                }
+            }
+            Pausa(visible ? 490 : 200);
+        }
+    }
+}
+
+std::string TextoGana(Integer ganador, const std::string& que) {
+    if (PorParejas()) {
+        return ganador == 2 ? Equipo(2) + ", habéis ganado " + que + ". "
+                            : "Han ganado " + que + " " + Equipo(1);
+    }
+    const std::string& nombre = estado.NombreJugador(ganador);
+    return ganador == 4 ? nombre + ", has ganado " + que + ". " : "Ha ganado " + que + " " + nombre;
+}
+
+bool CuentaFinalMano(const std::string& texto) {
+    Pausa(750);
+    Mensaje("Final de la mano", texto, LineasDe(texto), 1);
+    if (estado.PausaEntreJugadas || AlguienManual()) {
+        return EsperaContinuar();
+    }
+    PaseDeEventos(Pase::DePaso);
+    Pausa(500);
+    return PartidaSigue();
+}
+
+void ApuntaMano() {
+    ++estado.JuegosGanados(estado.GanadorMano);
+    sesion.mano_apuntada = true;
+    GuardarPartida();
+}
+
+bool HayGanadorPartida() {
+    for (Integer ganador = 1; ganador <= 4; ++ganador) {
+        if (estado.JuegosGanados(ganador) >= estado.LimitePartida) {
+            estado.GanadorPartida = ganador;
+            return true;
+        }
+    }
+    return false;
+}
+
+void FinalPartida() {
+    Mensaje("Final de Partida", TextoGana(estado.GanadorPartida, "la partida"), 1, 1);
+    Mensaje("Histórico de partidas jugadas", "¿Se actualiza el Histórico de partidas?", 1, 2);
+    OcultaTantos();
+    OcultarContinuar();
+    estado.PartidaEnCurso = false;
+    GuardarPartida();
+    for (int boton : {7, 1, 3}) {
+        HabilitaBoton(boton, true);
+    }
+}
+
+void AconsejaCarta(void (*elige)()) {
+    elige();
+    if (estado.CartaElegida == 0) {
+        return;
+    }
+    for (int vez = 0; vez < 2; ++vez) {
+        PonAltura(kLevantada);
+        Pausa(180);
+        Sonido(1, kSonidoConsejo);
+        Pausa(420);
+        PonAltura(kEnLinea);
+    }
+}
