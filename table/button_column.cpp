@@ -52,10 +52,11 @@ bool TieneLoSuyo(int boton) {
 }
 
 void PintaBoton(int boton) {
-    const auto& fila = BotonHabilitado(boton) ? lamina::kBotonPrincipal : lamina::kBotonApagado;
+    const auto aspecto =
+        BotonHabilitado(boton) ? lamina::Aspecto::Arriba : lamina::Aspecto::Apagado;
     Lienzo& lienzo = plataforma().LienzoDe(Control::Pic_Boton, boton);
     lienzo.Fieltro({0, 0, kLadoBoton, kLadoBoton});
-    lienzo.Lamina(0, 0, fila[static_cast<std::size_t>(boton - 1)]);
+    lienzo.Lamina(0, 0, lamina::BotonPrincipal(boton, aspecto));
 }
 
 void PintaContinuar(int kind) {
@@ -71,7 +72,7 @@ void PintaContinuar(int kind) {
     }
     Lienzo& boton = plataforma().LienzoDe(Control::Pic_BotContinuar, 0);
     boton.Fieltro({0, 0, kAnchoContinuar, kAltoContinuar});
-    boton.Lamina(0, 0, kind == 2 ? lamina::kContinuarPulsado : lamina::kContinuar);
+    boton.Lamina(0, 0, kind == 2 ? lamina::kContinuarPulsado : lamina::kContinuarArriba);
     const int hundido = kind == 2 ? 1 : 0;
     const auto renglon = [&](int y, const std::string& texto) {
         boton.Texto(kAnchoContinuar / 2 + hundido, y + hundido, texto, kLetraContinuar,

@@ -6,6 +6,7 @@
 #include "core/numeric.h"
 #include "core/text.h"
 #include "platform/platform.h"
+#include "table/sheet_layout.h"
 #include "table/table_ops.h"
 #include "table/tips.h"
 #include "table/trace.h"
@@ -20,7 +21,7 @@ constexpr int kLetrasMensaje = 58; // characters of a line of the box
 constexpr int kAnchoSugerencia = 190;
 constexpr int kAltoSugerencia = 78;
 constexpr int kSonidoBoton = 9;
-constexpr Rectangulo kMasAyuda{4, 2, 70, 16};
+constexpr Rectangulo kMasAyuda{4, 1, 76, 20};
 constexpr Rectangulo kCerrar{kAnchoSugerencia - 19, 2, 16, 16};
 
 bool Pregunta(const std::string& titulo, const std::string& texto, int lineas, int modo,
@@ -69,13 +70,10 @@ void PintaPanel() {
 
 void PintaBotonesPanel() {
     Lienzo& mas = plataforma().LienzoDe(Control::Pic_MasAyuda, 0);
-    mas.Caja({0, 0, kMasAyuda.ancho, kMasAyuda.alto}, color::kBordePanel);
-    mas.Texto(kMasAyuda.ancho / 2, 1, "más ayuda", {.alto = 11, .negrita = true}, color::kBlanco,
+    mas.Lamina(0, 0, lamina::kMasAyudaArriba);
+    mas.Texto(kMasAyuda.ancho / 2, 3, "más ayuda", {.alto = 11, .negrita = true}, color::kBlanco,
               Alineacion::Centro);
-    Lienzo& cerrar = plataforma().LienzoDe(Control::Bot_CerrarSuge, 0);
-    cerrar.Caja({0, 0, kCerrar.ancho, kCerrar.alto}, color::kBordePanel);
-    cerrar.Linea(4, 4, kCerrar.ancho - 5, kCerrar.alto - 5, color::kBlanco, 2);
-    cerrar.Linea(kCerrar.ancho - 5, 4, 4, kCerrar.alto - 5, color::kBlanco, 2);
+    plataforma().LienzoDe(Control::Bot_CerrarSuge, 0).Lamina(0, 0, lamina::kCerrarArriba);
 }
 
 void MuestraPanel(bool visible) {

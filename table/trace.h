@@ -33,7 +33,7 @@ void Traza(std::string_view nombre, const A&... argumentos) {
     std::string linea(nombre);
     linea += '(';
     bool primero = true;
-    auto uno = [&](const auto& valor) {
+    [[maybe_unused]] auto uno = [&](const auto& valor) {
         if (!primero)
             linea += ", ";
         primero = false;
