@@ -6,19 +6,31 @@
 #include <string>
 
 #include "core/files.h"
+#include "core/tabla.h"
+
+// What a rule in points or games may be, and what it is at first.
+struct LimitesRegla {
+    Integer minimo, maximo, defecto;
+};
+inline constexpr LimitesRegla kLimitesRestoInicial{5, 995, 200}, kLimitesApuestaSalida{0, 999, 5},
+    kLimitesApuestaMaxima{5, 995, 25}, kLimitesLimitePartida{1, 999, 3};
 
 // Reads ZOV31.INI into JuegoActivo, SonidoActivo and VelocidadJuego and repairs them. A missing or unreadable
 // file gives one message, leaves the values as they stood (repaired) and is written anew with GrabarIniGeneral;
-// an unreadable one is kept beside it with the ending .MAL.
+// an unreadable one is kept beside it with the ending .MAL. Writes FicheroNuevo: the file was made anew. When
+// that cannot be written nothing is said here: the next save tells it.
 void LeerIniGeneral();
 
 // Reads the file of JuegoActivo: seats, rules, money and the match between hands (Juegos included), and
 // repairs what is outside its limits. A missing or unreadable file gives one message, all defaults and no
-// match, and is written anew. The bank's values of Black Jack are imposed in every case.
+// match, and is written anew as above. The bank's values of Black Jack are imposed in every case.
+// JuegosJugados comes as the number of games finished, ManoEnCurso false, and RestoPrevio and ApuestaPrevia
+// (the money when the hand began) as the money read.
 void LeerIniJuego();
 
-// Write the whole file as the state between hands stands: with a hand on, the hand does not count and the
-// money is as it was when the hand began. The answer is an error number, and the old file is then whole.
+// Write the whole file as the state between hands stands: with a hand on (JuegosJugados above 0 and its result
+// not yet in the records, sesion.mano_apuntada false), the hand does not count and the money is as it was when
+// it began. The answer is an error number, and the old file is then whole. They change nothing of the state.
 [[nodiscard]] ErrorArchivo GrabarIniGeneral();
 [[nodiscard]] ErrorArchivo GrabarIniJuego();
 
