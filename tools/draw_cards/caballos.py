@@ -12,7 +12,7 @@ MIDDLE = 151.5
 COATS = {  # body, far legs, mane, hoof
     "white": ("#f4efe4", "#cfc7b8", "#e2d3a8", "#5b5148"),
     "bay": ("#a4602c", "#77421c", "#2c2228", "#2c2228"),
-    "black": ("#4a4552", "#332f3b", "#1e1a24", "#15121a"),
+    "black": ("#5f5969", "#433e4c", "#2a2531", "#1b1820"),
     "grey": ("#b9c0c9", "#8d96a3", "#f3f1ec", "#4b4a50"),
 }
 
@@ -294,6 +294,9 @@ def rider_espadas(g):
         rearing(g, "black", RED)
         with g.group("rotate(20 244 300)"):
             cloth(g, BLUE, lambda x, y: mark(g, x, y, 6, WHITE))
+        slack = spline([(99, 178), (118, 208), (148, 218), (178, 205)])
+        g.path(slack, None, INK, 6)
+        g.path(slack, None, RED, 3)
         with g.group("rotate(8 244 300) translate(16,6)"):
             near_leg(g, STEEL, STEEL_DARK)
             shape = spline([(196, 142), (226, 152), (248, 186), (262, 226, 0), (248, 222), (240, 244, 0), (226, 228), (204, 226),
@@ -309,7 +312,6 @@ def rider_espadas(g):
                            (212, 146), (194, 136, 0)], closed=True), plate, INK, 3)
             g.path(spline([(176, 150), (172, 180), (178, 210)]), None, STEEL_DARK, 2.2)
             girdle(g, GOLD_DARK)
-            rein(g, RED, (150, 208))
             rein_arm(g, STEEL, GOLD)
             rod(g, [(206, 154), (232, 162), (242, 148), (238, 124)], [30, 30, 24, 17], STEEL)
             g.path(spline([(230, 140), (240, 142), (250, 138)]), None, GOLD, 3.4)

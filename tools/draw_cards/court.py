@@ -128,10 +128,10 @@ def halberd(g, x):
 def pennon(g, x, one, two):
     staff(g, x, 56)
     g.path(spline([(x, 28, 0), (x + 6, 48), (x, 62, 0), (x - 6, 48)], closed=True), STEEL_LIGHT, INK, 2.8)
-    flag = spline([(x - 2, 64, 0), (x - 20, 60), (x - 40, 68), (x - 52, 62, 0), (x - 44, 76, 0), (x - 54, 88, 0), (x - 34, 92),
-                   (x - 18, 86), (x - 2, 90, 0)], closed=True)
+    flag = spline([(x - 2, 64, 0), (x - 14, 60), (x - 26, 67), (x - 38, 62, 0), (x - 31, 76, 0), (x - 39, 88, 0), (x - 26, 91),
+                   (x - 14, 86), (x - 2, 90, 0)], closed=True)
     g.path(flag, one, INK, 2.8)
-    g.path(spline([(x - 4, 77), (x - 20, 73), (x - 38, 80)]), None, two, 5)
+    g.path(spline([(x - 4, 77), (x - 14, 73), (x - 27, 79)]), None, two, 5)
 
 
 def arrow_up(g, x):
@@ -258,15 +258,16 @@ def ear_rings(g, colour=GOLD_LIGHT):
 
 def beret(g, colour, dark, plume, plume_dark, side=1):
     with g.group("scale(-1,1)" if side < 0 else None):
-        feather(g, [(-16, -44), (-34, -58), (-50, -52), (-58, -36)], plume, plume_dark, 18)
+        feather(g, [(-16, -44), (-28, -57), (-40, -55), (-47, -42)], plume, plume_dark, 15)
         g.path(spline([(-38, -22), (-42, -42), (-14, -58), (24, -54), (44, -34), (38, -20), (0, -30)], closed=True), colour, INK, 3.2)
         g.path(spline([(-37, -22), (0, -32), (37, -20)]), None, INK, 9)
         g.path(spline([(-37, -22.5), (0, -32.5), (36, -20.5)]), None, GOLD, 4.4)
         g.circle(-18, -40, 6, GOLD_LIGHT, INK, 2.4)
 
 
-def flat_cap(g, colour, band, plume, plume_dark):
-    feather(g, [(20, -40), (40, -52), (54, -42), (58, -26)], plume, plume_dark, 16)
+def flat_cap(g, colour, band, plume=None, plume_dark=None):
+    if plume:
+        feather(g, [(20, -40), (36, -50), (48, -42), (52, -26)], plume, plume_dark, 15)
     g.path(spline([(-32, -26, 0), (-34, -52, 0), (0, -60), (34, -52, 0), (32, -26, 0), (0, -34)], closed=True), colour, INK, 3.2)
     g.path(spline([(-42, -24), (-30, -36, 0), (0, -42), (30, -36, 0), (42, -24), (0, -32)], closed=True), band, INK, 3)
     g.circle(20, -40, 5.4, GOLD_LIGHT, INK, 2.4)
@@ -321,15 +322,15 @@ def jack_picas(g):
     with g.at(CX + 2, 99, 1.05):
         hair_back(g, HAIR_BLACK, 40, 37)
     throat(g)
-    pennon(g, 232, RED, GOLD_LIGHT)
-    sleeve(g, [(204, 158), (212, 192), (230, 186), (232, 176)], [36, 36, 28, 20], BLUE, WHITE)
-    fist(g, 233, 160, 0, 0.92)
+    pennon(g, 236, RED, GOLD_LIGHT)
+    sleeve(g, [(204, 158), (212, 192), (232, 186), (235, 176)], [36, 36, 28, 20], BLUE, WHITE)
+    fist(g, 236, 160, 0, 0.92)
     round_collar(g, WHITE, None, 36, 16)
     with g.at(CX - 6, 99, 1.05):
         face(g, -1, brow=HAIR_BLACK, soft=False)
         fringe(g, HAIR_BLACK, -19, "#5a4650")
         moustache(g, HAIR_BLACK, -1)
-        flat_cap(g, "#2b2a3a", RED, RED, RED_DARK)
+        flat_cap(g, "#2b2a3a", RED)
 
 
 def jack_treboles(g):
@@ -355,8 +356,8 @@ def jack_treboles(g):
         rim = spline([(-30, 30, 0), (-33, 4), (-29, -22), (-12, -38), (8, -39), (26, -30), (32, -10), (32, 10), (28, 30, 0)])
         g.path(rim, None, INK, 9)
         g.path(rim, None, GOLD, 4.6)
-        feather(g, [(10, -46), (28, -64), (48, -58), (58, -40)], GREEN_LIGHT, GREEN_DARK, 16)
-        g.circle(8, -46, 5.4, GOLD_LIGHT, INK, 2.4)
+        feather(g, [(20, -42), (34, -52), (46, -44), (52, -28)], GREEN_LIGHT, GREEN_DARK, 14)
+        g.circle(18, -42, 5.4, GOLD_LIGHT, INK, 2.4)
 
 
 def queen(g, look, hair, hair_dark, crown_lining, jewel, veil=None):

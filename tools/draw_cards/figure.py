@@ -33,8 +33,10 @@ def limb(points, widths, cap=0.35, closed=True):
 
 
 def rod(g, points, widths, fill, w=3.0, cap=0.35):
+    """A limb whose ink lies wholly outside: the crease of a sharp bend leaves no mark on the cloth."""
     shape = limb(points, widths, cap)
-    g.path(shape, fill, INK, w)
+    g.path(shape, None, INK, 1.75 * w)
+    g.path(shape, fill)
     return shape
 
 

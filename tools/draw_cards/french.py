@@ -13,7 +13,7 @@ INDEX = {1: "A", 10: "i0", 11: "J", 12: "Q", 13: "K"}
 
 CX, CY = WIDTH / 2, HEIGHT / 2
 L, R = 93, 210
-TOP, BOTTOM = 76, HEIGHT - 76
+TOP, BOTTOM = 62, HEIGHT - 62  # the upper row shows over a card laid 16 pixels lower
 THIRD = (BOTTOM - TOP) / 3
 
 
@@ -30,7 +30,7 @@ def places(number):
 def pip_card(suit, number):
     g = paper()
     for x, y in places(number):
-        pips.french(g, suit, x, y, 0.86 if number < 9 else 0.8, flip=y > CY + 1)
+        pips.french(g, suit, x, y, 1.0 if number < 9 else 0.86, flip=y > CY + 1)
     french_index(g, suit, INDEX.get(number, str(number)))
     return g
 
@@ -54,10 +54,10 @@ def ace(suit):
     gold = g.linear("gold_down", [(0, "#fdeca8"), (0.5, GOLD), (1, "#b9791a")])
     for k in range(4):
         with g.group(f"translate({CX},{CY}) scale({1 if k % 2 else -1},{1 if k < 2 else -1})"):
-            with g.at(24, 112):
+            with g.at(20, 152):
                 scroll(g, GOLD_DARK)
-    for y, s in ((CY - 116, 1), (CY + 116, -1)):
-        with g.group(f"translate({CX},{y}) scale(0.34,{0.34 * s})"):
+    for y, s in ((CY - 160, 1), (CY + 160, -1)):
+        with g.group(f"translate({CX},{y}) scale(0.5,{0.5 * s})"):
             g.path(shape, colour)
     with g.at(CX, CY, 2.75):
         g.path(shape, gold, INK, 1.2)

@@ -109,13 +109,12 @@ def mark_winner():
     """A gold star in a laurel."""
     from ases import wreath
     g = canvas(32, 32)
-    wreath(g, 48, 47, 35, 16, 150, 6, size=0.5, berries=False)
+    wreath(g, 48, 47, 36, 16, 150, 5, GOLD, GOLD_LIGHT, size=0.62, berries=False)
     star = []
     for k in range(10):
-        r = 29 if k % 2 == 0 else 12.5
+        r = 33 if k % 2 == 0 else 14.5
         star.append((48 + r * math.sin(math.pi * k / 5), 49 - r * math.cos(math.pi * k / 5)))
-    gold = g.linear("gold_down", [(0, "#fff3c0"), (0.5, GOLD), (1, "#b9791a")])
-    g.poly(star, gold, INK, 3.4)
+    g.poly(star, g.linear("star", [(0, "#fffbe6"), (0.5, "#ffd95a"), (1, "#e79a1c")]), INK, 3.4)
     return g
 
 
@@ -182,7 +181,7 @@ def mark_bank():
     """A crown: this seat holds the bank."""
     def draw(g):
         with g.at(48, 78, 0.78):
-            crown(g, 5, "lily")
+            crown(g, 3, "lily", BLUE)
     return round_mark(RED_DARK, draw)
 
 
@@ -310,7 +309,7 @@ def panel(rim, face, shine, depth):
 
 
 def direction(inverse):
-    """The table from above with the way round; the arrow turns against the clock in the direct game."""
+    """The table from above with the way round; the direct game goes with the clock: left, top, right, bottom."""
     g = canvas(96, 96)
     felt = g.radial("felt", [(0, "#2fa04a"), (0.75, "#137a30"), (1, "#0a4f1e")], 0.5, 0.42, 0.6)
     wood = g.linear("wood", [(0, WOOD_LIGHT), (1, WOOD_DARK)])
@@ -323,16 +322,16 @@ def direction(inverse):
     arrows = []
     for k in range(4):
         start, stop = math.radians(90 * k + 16), math.radians(90 * k + 58)
-        run = [(62 * math.cos(start + (stop - start) * t / 6), 62 * math.sin(start + (stop - start) * t / 6)) for t in range(7)]
+        run = [(66 * math.cos(start + (stop - start) * t / 6), 66 * math.sin(start + (stop - start) * t / 6)) for t in range(7)]
         tip_angle = math.radians(90 * k + 78)
-        arrows.append((run, (63 * math.cos(tip_angle), 63 * math.sin(tip_angle))))
+        arrows.append((run, (68 * math.cos(tip_angle), 68 * math.sin(tip_angle))))
     from cursors import bent_arrow
-    with g.at(144, 144, flip=not inverse):
+    with g.at(144, 144, flip=inverse):
         for run, tip in arrows:
-            rod, cone = bent_arrow(run, 13, 17, tip)
+            rod, cone = bent_arrow(run, 16, 20, tip)
             g.path(rod, GOLD_LIGHT, INK, 4)
             g.path(cone, GOLD_LIGHT, INK, 4)
-            g.path(spline(run + [((run[-1][0] + tip[0]) / 2, (run[-1][1] + tip[1]) / 2)]), None, GOLD_LIGHT, 9.4, cap="butt")
+            g.path(spline(run + [((run[-1][0] + tip[0]) / 2, (run[-1][1] + tip[1]) / 2)]), None, GOLD_LIGHT, 12, cap="butt")
     return g
 
 
@@ -341,7 +340,7 @@ def emblem():
     from ases import wreath
     g = canvas(150, 150)
     c = 225
-    wreath(g, c, c + 12, 176, 12, 152, 13, size=1.35)
+    wreath(g, c, c + 12, 176, 12, 152, 13, GOLD, GOLD_LIGHT, size=1.35)
     gold = g.radial("disc", [(0, "#fff3c0"), (0.5, GOLD_LIGHT), (0.82, GOLD), (1, "#bf7f18")], fx=0.38, fy=0.34)
     g.circle(c, c + 12, 146, gold, INK, 5)
     for x, y in regular(c, c + 12, 134, 52):
