@@ -64,7 +64,9 @@ struct FilaJuego {
 
     // Second text of the green button for an automatic seat's turn, e.g. "Juega"; sets both lines.
     void (*rotulo_continuar)(std::string& primera, std::string& segunda) = nullptr;
-    // Side buttons and plates of a seat, after its cards.
+    // The points of a serie, shown on the score plate. Empty: the game has no plates.
+    float (*puntos)(int asiento, int serie) = nullptr;
+    // Side buttons of a seat, after its cards.
     void (*botones_asiento)(int asiento) = nullptr;
     // The hand of JugadorActual was put in another order.
     void (*tras_reordenar)() = nullptr;

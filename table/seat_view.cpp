@@ -9,6 +9,7 @@
 #include "table/layout.h"
 #include "table/messages.h"
 #include "table/sheet_layout.h"
+#include "table/side_buttons.h"
 #include "table/table_ops.h"
 #include "table/table_view.h"
 #include "table/trace.h"
@@ -109,6 +110,31 @@ void ParpadeaRotulo(int asiento, Integer serie) {
     estado.RotuloSerie(asiento, serie).clear();
 }
 
+// The strip into which raised cards and captions reach belongs to the centre as long as nothing of the seat
+// stands there: what the game shows in the centre is painted again when it has been cleared.
+bool OcupaFranja(int asiento) {
+    const Integer serie = estado.SerieActual;
+    bool ocupa = !estado.RotuloSerie(asiento, serie).empty();
+    for (int lugar = 1; lugar <= estado.NumCartas(asiento, serie); ++lugar) {
+        ocupa = ocupa || estado.Mano(asiento, serie, lugar, kAltura) == kLevantada;
+    }
+    return ocupa;
+}
+
+void LimpiaZona(int asiento) {
+    const bool ocupada = vista.franja_ocupada(asiento);
+    vista.franja_ocupada(asiento) = OcupaFranja(asiento);
+    if (!ocupada) {
+        Mesa().Fieltro(ZonaDe(asiento));
+        return;
+    }
+    Mesa().Fieltro(ZonaConRealce(asiento));
+    const FilaJuego& juego = JuegoEnMesa();
+    if (juego.pinta_centro != nullptr) {
+        juego.pinta_centro();
+    }
+}
+
 void PintaCartas(int asiento) {
     const Integer serie = estado.SerieActual;
     const Integer cartas = estado.NumCartas(asiento, serie);
@@ -128,6 +154,20 @@ void PintaCartas(int asiento) {
     }
 }
 
+// In the games with money: the seat's chips, and the mark of a serie that has played.
+void PintaDinero(int asiento) {
+    if (!JuegoEnMesa().con_dinero) {
+        return;
+    }
+    PintarFichas(asiento, asiento - 1);
+    if (estado.JuegoConBanca && estado.SerieTerminada(asiento, estado.SerieActual)) {
+        const Rectangulo zona = ZonaDe(asiento);
+        const lamina::Recorte& marca = lamina::kMarcaSerieTerminada;
+        Mesa().Lamina(zona.x + zona.ancho - marca.ancho - kAltoRenglon,
+                      zona.y + zona.alto - marca.alto - kAltoRenglon, marca);
+    }
+}
+
 } // namespace
 
 void RedibujarAsiento(int asiento) {
@@ -135,7 +175,7 @@ void RedibujarAsiento(int asiento) {
     const Integer serie = estado.SerieActual;
     const bool parpadea = estado.ParpadeoRotulo(asiento, serie) > 0;
     if (plataforma().HayPantalla()) {
-        Mesa().Fieltro(ZonaConRealce(asiento));
+        LimpiaZona(asiento);
         PintaNombre(asiento);
         PintaCartas(asiento);
     }
@@ -143,6 +183,9 @@ void RedibujarAsiento(int asiento) {
         ParpadeaRotulo(asiento, serie);
     } else if (!estado.RotuloSerie(asiento, serie).empty()) {
         MostrarRotulo(asiento);
+    }
+    if (plataforma().HayPantalla()) {
+        PintaDinero(asiento);
     }
     const FilaJuego& juego = JuegoEnMesa();
     if (juego.botones_asiento != nullptr) {
@@ -155,9 +198,12 @@ void RedibujarAsiento(int asiento) {
 
 void ResaltarAsiento() {
     Traza("ResaltarAsiento");
+    if (estado.JuegoConBanca) {
+        MostrarPuntos(estado.JugadorActual);
+    }
     for (int vez = 0; vez < 2; ++vez) {
         if (plataforma().HayPantalla()) {
-            Mesa().Fieltro(ZonaConRealce(estado.JugadorActual));
+            LimpiaZona(estado.JugadorActual);
             plataforma().Repinta();
         }
         Pausa(140);

@@ -9,6 +9,7 @@ struct VistaMesa {
     bool mazo_centrado = false;     // in the middle for the draw, not at the game's place
     bool nombres = false;           // the names of the seats are on show
     int asiento_arrastrado = 0;     // the hand from which CartaMovida was taken
+    Tabla<bool, 4> franja_ocupada;  // a seat's raised cards or caption stand before its zone
     Tabla<ImagenCarta, 4> sorteada; // the draw's last card of each seat, palo 0 for none
 };
 

@@ -3,6 +3,8 @@
 #include <algorithm>
 
 #include "core/game_state.h"
+#include "games/common/series.h"
+#include "games/common/series_view.h"
 #include "games/game_table.h"
 #include "table/deck_setup.h"
 #include "table/layout.h"
@@ -38,6 +40,8 @@ const FilaJuego& FilaBlackJack() {
                                  .sortea_inicio = false,
                                  .mazo_seguido = true,
                                  .menu_ordenar = false,
-                                 .coloca_mazo = ColocaMazo};
+                                 .coloca_mazo = ColocaMazo,
+                                 .puntos = PuntosSerie,
+                                 .botones_asiento = PonBotonesDeSerie};
     return kFila;
 }

@@ -3,6 +3,8 @@
 #include "core/game_state.h"
 #include "core/numeric.h"
 #include "core/text.h"
+#include "games/common/series.h"
+#include "games/common/series_view.h"
 #include "games/game_table.h"
 #include "table/deck_setup.h"
 #include "table/layout.h"
@@ -62,6 +64,8 @@ const FilaJuego& FilaSieteYMedia() {
                                  .textos_sorteo = Textos,
                                  .tapa_al_repartir = true,
                                  .coloca_mazo = ColocaMazo,
+                                 .puntos = PuntosSerie,
+                                 .botones_asiento = PonBotonesDeSerie,
                                  .clave_orden = ClaveOrden};
     return kFila;
 }

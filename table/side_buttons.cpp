@@ -1,0 +1,165 @@
+#include "table/side_buttons.h"
+
+#include <algorithm>
+
+#include "core/game_state.h"
+#include "core/text.h"
+#include "games/game_table.h"
+#include "table/layout.h"
+#include "table/sheet_layout.h"
+#include "table/trace.h"
+
+namespace {
+
+constexpr int kSeparacion = 4; // between a button and its neighbours
+constexpr int kBandaRotulo =
+    22; // the caption's strip and the raised cards stand nearer to the zone
+constexpr int kMasAdentroBanca = 38;
+constexpr Fuente kLetraBoton{.alto = 12, .negrita = true};
+
+// A control of ancho by alto on the inner side of the seat's zone, a lo largo pixels along its edge.
+Rectangulo JuntoAlAsiento(int asiento, int a_lo_largo, int adentro, int ancho, int alto) {
+    const Rectangulo zona = ZonaDe(asiento);
+    switch (asiento) {
+    case 1:
+        return {zona.x + zona.ancho + adentro, zona.y + a_lo_largo, ancho, alto};
+    case 2:
+        return {zona.x + a_lo_largo, zona.y + zona.alto + adentro, ancho, alto};
+    case 3:
+        return {zona.x - adentro - ancho, zona.y + a_lo_largo, ancho, alto};
+    default:
+        return {zona.x + a_lo_largo, zona.y - adentro - alto, ancho, alto};
+    }
+}
+
+void Pon(Control control, int indice, const Rectangulo& donde, const lamina::Recorte& recorte,
+         const std::string& texto, std::string_view nombre) {
+    Plataforma& p = plataforma();
+    p.Coloca(control, indice, donde);
+    p.Nombra(control, indice, nombre);
+    p.PonPuntero(control, indice, Puntero::ManoIndice);
+    p.Muestra(control, indice, true);
+    if (!p.HayPantalla()) {
+        return;
+    }
+    Lienzo& lienzo = p.LienzoDe(control, indice);
+    lienzo.Fieltro({0, 0, donde.ancho, donde.alto});
+    lienzo.Lamina(0, 0, recorte);
+    if (!texto.empty()) {
+        lienzo.Texto(donde.ancho / 2, (donde.alto - kLetraBoton.alto) / 2 - 1, Recorta(texto),
+                     kLetraBoton, color::kBlanco, Alineacion::Centro);
+    }
+    p.Repinta();
+}
+
+bool EsBanca(int asiento) {
+    return estado.JuegoConBanca && asiento == estado.JugadorBanca;
+}
+
+} // namespace
+
+void BotonLateral(int asiento, int state, int index) {
+    Traza("BotonLateral", asiento, state, index);
+    const bool vertical = AsientoLateral(asiento);
+    const lamina::Recorte recorte = lamina::BotonLateral(index, vertical, state == 2);
+    // One at each end of the zone.
+    const int lado = vertical ? recorte.alto : recorte.ancho;
+    const int a_lo_largo = index == 1 ? -lado - kSeparacion : 250 + kSeparacion;
+    const int adentro = -recorte.alto - kSeparacion;
+    Pon(Control::Pic_BotLateral, index,
+        JuntoAlAsiento(asiento, a_lo_largo, adentro, recorte.ancho, recorte.alto), recorte, "",
+        index == 1 ? "Serie anterior" : "Serie siguiente");
+}
+
+void BotonSuperior(int asiento, int state, int index) {
+    Traza("BotonSuperior", asiento, state, index);
+    const lamina::Recorte& recorte =
+        state == 2 ? lamina::kBotonSuperiorPulsado : lamina::kBotonSuperiorArriba;
+    const int adentro = kBandaRotulo + (EsBanca(asiento) ? kMasAdentroBanca : 0);
+    const int paso = AsientoLateral(asiento) ? recorte.alto : recorte.ancho;
+    const int principio = (250 - 2 * paso - kSeparacion) / 2;
+    Pon(Control::Pic_BotSuperior, index,
+        JuntoAlAsiento(asiento, principio + (index - 1) * (paso + kSeparacion), adentro,
+                       recorte.ancho, recorte.alto),
+        recorte, index == 1 ? "  C a r t a" : "S e r v i d o", index == 1 ? "Carta" : "Servido");
+}
+
+void BotonDobSeg(int asiento, int state, const std::string& texto) {
+    Traza("BotonDobSeg", asiento, state, texto);
+    const lamina::Recorte& recorte =
+        state == 2 ? lamina::kBotonDobSegPulsado : lamina::kBotonDobSegArriba;
+    constexpr int kBajoLosOtros = 24 + kSeparacion;
+    const int adentro = kBandaRotulo + (AsientoLateral(asiento) ? 90 + kSeparacion : kBajoLosOtros);
+    const int largo = AsientoLateral(asiento) ? recorte.alto : recorte.ancho;
+    Pon(Control::Pic_BotDobSeg, 0,
+        JuntoAlAsiento(asiento, (250 - largo) / 2, adentro, recorte.ancho, recorte.alto), recorte,
+        texto, texto == "D o b l a r" ? "Doblar" : "Seguro");
+}
+
+void MostrarPuntos(int asiento) {
+    Traza("MostrarPuntos", asiento);
+    constexpr int kPlaca = 4;
+    const lamina::Recorte& placa = lamina::kPlacaTantos;
+    const FilaJuego& juego = JuegoEnMesa();
+    if (juego.puntos == nullptr) {
+        return;
+    }
+    const double puntos = juego.puntos(asiento, estado.SerieActual);
+    const bool medios = puntos != static_cast<int>(puntos);
+    Pon(Control::Pic_Tantos, asiento,
+        JuntoAlAsiento(asiento, 250 + kSeparacion,
+                       AsientoLateral(asiento) ? -placa.ancho : -placa.alto, placa.ancho,
+                       placa.alto),
+        placa, "", "Puntos de " + estado.NombreJugador(asiento));
+    if (plataforma().HayPantalla()) {
+        plataforma()
+            .LienzoDe(Control::Pic_Tantos, asiento)
+            .Texto(placa.ancho / 2, kPlaca, Formato(puntos, medios ? "#0.0" : "#0"),
+                   {.alto = 16, .negrita = true}, color::kNegro, Alineacion::Centro);
+    }
+}
+
+void PintarNumero(Control control, int indice, int x, int y, std::string_view numero,
+                  int columnas) {
+    Traza("PintarNumero", NombreDe(control), numero);
+    if (!plataforma().HayPantalla()) {
+        return;
+    }
+    const std::string texto = Formato(numero, std::string(static_cast<std::size_t>(columnas), '@'));
+    Lienzo& lienzo = plataforma().LienzoDe(control, indice);
+    for (std::size_t i = 0; i < texto.size(); ++i) {
+        const bool cifra = texto[i] >= '0' && texto[i] <= '9';
+        const lamina::Recorte recorte =
+            cifra ? lamina::Digito(texto[i] - '0') : lamina::kDigitoVacio;
+        lienzo.Lamina(x + static_cast<int>(i) * recorte.ancho, y, recorte);
+    }
+}
+
+void PintarMarco(Control control, int indice, int x, int y, int ancho) {
+    Traza("PintarMarco", NombreDe(control), x, y, ancho);
+    if (!plataforma().HayPantalla()) {
+        return;
+    }
+    Lienzo& lienzo = plataforma().LienzoDe(control, indice);
+    const int extremo = lamina::kMarcoExtremoIzquierdo.ancho;
+    lienzo.Lamina(x, y, lamina::kMarcoExtremoIzquierdo);
+    for (int tira = extremo; tira < ancho - extremo; ++tira) {
+        lienzo.Lamina(x + tira, y, lamina::kMarcoTira);
+    }
+    lienzo.Lamina(x + ancho - extremo, y, lamina::kMarcoExtremoDerecho);
+}
+
+void PintarFichas(int asiento, int area) {
+    constexpr int kGruesoFicha = 3, kFichasVisibles = 8;
+    if (!plataforma().HayPantalla()) {
+        return;
+    }
+    Lienzo& mesa = plataforma().LienzoDe(Control::Mesa, 0);
+    for (int ficha = 1; ficha <= 6; ++ficha) {
+        const int altura = std::min<int>(estado.Fichas(asiento, ficha), kFichasVisibles);
+        for (int i = 0; i < altura; ++i) {
+            mesa.Lamina(estado.PosFichaX(area, ficha),
+                        estado.PosFichaY(area, ficha) - i * kGruesoFicha, lamina::Ficha(ficha));
+        }
+    }
+}
