@@ -64,8 +64,8 @@ const FilaJuego& FilaSieteYMedia() {
                                  .textos_sorteo = Textos,
                                  .tapa_al_repartir = true,
                                  .coloca_mazo = ColocaMazo,
+                                 .clave_orden = ClaveOrden,
                                  .puntos = PuntosSerie,
-                                 .botones_asiento = PonBotonesDeSerie,
-                                 .clave_orden = ClaveOrden};
+                                 .botones_asiento = PonBotonesDeSerie};
     return kFila;
 }
