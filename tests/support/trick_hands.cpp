@@ -96,4 +96,39 @@ void EnMesa(Integer asiento, Carta carta) {
     bazas.CartaEnMesa(asiento, 2) = carta.valor;
 }
 
+void TocaA(Integer asiento) {
+    estado.JugadorActual = asiento;
+    estado.CartasEnBaza = 1;
+    for (Integer otro = 1; otro <= 4; ++otro) {
+        if (bazas.CartaEnMesa(otro, 1) != kSinCarta)
+            ++estado.CartasEnBaza;
+    }
+    if (bazas.PaloSalida == kSinCarta)
+        estado.JugadorSalida = asiento;
+}
+
+void YaJugadas(const std::vector<Carta>& cartas) {
+    for (const Carta& carta : cartas)
+        bazas.CartaJugada(carta.palo, carta.valor) = 1;
+}
+
+void SoloQuedanLasManos() {
+    for (Integer palo = kOros; palo <= kBastos; ++palo) {
+        for (Integer valor = 1; valor <= kRey; ++valor)
+            bazas.CartaJugada(palo, valor) = estado.ValorEnBaraja(valor) ? 1 : 0;
+    }
+    for (Integer asiento = 1; asiento <= 4; ++asiento) {
+        for (int lugar = 1; lugar <= estado.NumCartas(asiento, 1); ++lugar) {
+            bazas.CartaJugada(estado.Mano(asiento, 1, lugar, kPalo),
+                              estado.Mano(asiento, 1, lugar, kValor)) = 0;
+        }
+        bazas.CartaJugada(bazas.CartaEnMesa(asiento, 1), bazas.CartaEnMesa(asiento, 2)) = 0;
+    }
+}
+
+void Pinta(Carta carta) {
+    estado.PaloTriunfo = carta.palo;
+    estado.ValorTriunfo = carta.valor;
+}
+
 } // namespace prueba

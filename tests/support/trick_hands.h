@@ -26,4 +26,16 @@ void PonMano(Integer asiento, const std::vector<Carta>& cartas);
 // The seat's card on the table; the first one laid gives PaloSalida and JugadorSalida.
 void EnMesa(Integer asiento, Carta carta);
 
+// It is the seat's turn: JugadorActual and CartasEnBaza. With a bare table the seat leads.
+void TocaA(Integer asiento);
+
+// The cards have been played in this hand, by seat 1.
+void YaJugadas(const std::vector<Carta>& cartas);
+
+// All cards of the deck have been played but those in the hands and on the table.
+void SoloQuedanLasManos();
+
+// The suit of the trump card and its rank.
+void Pinta(Carta carta);
+
 } // namespace prueba

@@ -1,0 +1,3 @@
+#include "games/trick/search_state.h"
+
+EstadoBusqueda busqueda;
