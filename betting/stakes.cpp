@@ -3,6 +3,18 @@
 #include "betting/chips.h"
 #include "core/game_state.h"
 
+bool TieneResto(Integer asiento) {
+    return RestoDe(asiento) > 0;
+}
+
+Integer CuentaConResto() {
+    Integer cuantos = 0;
+    for (Integer asiento = 1; asiento <= 4; ++asiento) {
+        cuantos = static_cast<Integer>(cuantos + (TieneResto(asiento) ? 1 : 0));
+    }
+    return cuantos;
+}
+
 void RestauraMano() {
     constexpr int kFases = 5;
     for (int asiento = 0; asiento <= 4; ++asiento) {

@@ -38,6 +38,8 @@ struct FilaJuego {
     Integer (*cuenta_reparto)() = nullptr;
     // The automatic deal ends a pass ahead of this seat. Empty: only back at JugadorMano.
     bool (*corta_pasada)(int pasada, Integer asiento) = nullptr;
+    // Cards that the seat's hand is laid out for in the deal. Empty: CartasReparto.
+    Integer (*cartas_en_mesa)(Integer asiento) = nullptr;
     // MazoX, MazoY. Empty: the centre of the table.
     void (*coloca_mazo)() = nullptr;
     // More cards are wanted than the pile holds. Empty: nothing happens.

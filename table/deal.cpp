@@ -59,7 +59,9 @@ void RepartaUna(Integer asiento, int lugar) {
         estado.Mano(asiento, 1, lugar, kTapada) = kTapadaSi;
     }
     ++estado.NumCartas(asiento, 1);
-    VuelaDelMazo(asiento, lugar, estado.CartasReparto);
+    VuelaDelMazo(asiento, lugar,
+                 juego.cartas_en_mesa != nullptr ? juego.cartas_en_mesa(asiento)
+                                                 : estado.CartasReparto);
 }
 
 [[nodiscard]] bool ReparteMonton(Integer asiento, int pasada) {
@@ -130,7 +132,7 @@ void RobarCartas(Integer asiento, Integer n, Integer tapada) {
         const CartaMazo carta = SacaDelMazo();
         const bool a_la_vista = juego.tapa_al_repartir && tapada == 0;
         PonCarta(asiento, serie, lugar, carta.palo, carta.valor,
-                 a_la_vista ? kDescubierta : kDorso);
+                 a_la_vista ? kDescubierta : estado.CartasJugador(asiento));
         estado.Mano(asiento, serie, lugar, kTapada) = tapada;
         ++estado.NumCartas(asiento, serie);
         VuelaDelMazo(asiento, lugar, estado.NumCartas(asiento, serie));

@@ -2,10 +2,13 @@
 
 #include <algorithm>
 
+#include "betting/chips.h"
 #include "core/game_state.h"
+#include "core/text.h"
 #include "games/common/series.h"
 #include "games/common/series_view.h"
 #include "games/game_table.h"
+#include "table/deck.h"
 #include "table/deck_setup.h"
 #include "table/layout.h"
 
@@ -30,6 +33,27 @@ void ColocaMazo() {
     estado.MazoY = static_cast<Integer>(estado.MesaAbajo(2) + kBajoLaBanca);
 }
 
+bool Recibe(Integer asiento) {
+    return asiento == estado.JugadorBanca || ApuestaTotal(asiento, 1) > 0;
+}
+
+// The bank holds one card: the second pass ends on arriving at it.
+bool CortaPasada(int pasada, Integer asiento) {
+    return pasada == 2 && asiento == estado.JugadorBanca;
+}
+
+Integer CartasEnMesa(Integer asiento) {
+    return asiento == estado.JugadorBanca ? Integer{1} : estado.CartasReparto;
+}
+
+void NuevosMazos(Integer /*asiento*/, Integer /*faltan*/) {
+    Barajar();
+}
+
+std::string ClaveOrden(Integer palo, Integer valor) {
+    return Formato(valor, "00") + Formato(palo, "0");
+}
+
 } // namespace
 
 const FilaJuego& FilaBlackJack() {
@@ -40,7 +64,12 @@ const FilaJuego& FilaBlackJack() {
                                  .sortea_inicio = false,
                                  .mazo_seguido = true,
                                  .menu_ordenar = false,
+                                 .recibe = Recibe,
+                                 .corta_pasada = CortaPasada,
+                                 .cartas_en_mesa = CartasEnMesa,
                                  .coloca_mazo = ColocaMazo,
+                                 .rellena_mazo = NuevosMazos,
+                                 .clave_orden = ClaveOrden,
                                  .puntos = PuntosSerie,
                                  .botones_asiento = PonBotonesDeSerie};
     return kFila;

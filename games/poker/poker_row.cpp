@@ -1,9 +1,15 @@
 #include "games/poker/poker_row.h"
 
+#include <algorithm>
+
+#include "betting/chips.h"
+#include "betting/stakes.h"
 #include "core/game_state.h"
 #include "core/numeric.h"
+#include "core/random.h"
 #include "games/game_table.h"
 #include "table/deck_setup.h"
+#include "table/messages.h"
 
 namespace {
 
@@ -32,10 +38,74 @@ void PreparaBaraja() {
     PonFuerzas();
 }
 
+bool HaApostado(Integer asiento) {
+    return ApuestaTotal(asiento, 1) > 0;
+}
+
+bool Recibe(Integer asiento) {
+    return (TieneResto(asiento) && estado.ApuestaSalida == 0) || HaApostado(asiento);
+}
+
+bool RecibeAMano(Integer asiento) {
+    return TieneResto(asiento) || HaApostado(asiento);
+}
+
+// What is left of an earlier mixing moves to the first places behind the deck: those already dealt are free.
+int JuntaLoQueQueda() {
+    int detras = estado.TotalBaraja + 1;
+    if (estado.PosicionMazo <= detras) {
+        return estado.PosicionMazo + estado.CartasEnMazo;
+    }
+    for (int i = 0; i < estado.CartasEnMazo; ++i, ++detras) {
+        for (int campo = 1; campo <= 2; ++campo) {
+            estado.Baraja(detras, campo) = estado.Baraja(estado.PosicionMazo + i, campo);
+        }
+    }
+    estado.PosicionMazo = EnteroDe(estado.TotalBaraja + 1);
+    return detras;
+}
+
+// The earlier discards, but for the seat's own last n, are mixed behind the deck.
+void MezclaDescartes(Integer /*asiento*/, Integer n) {
+    Mensaje(
+        "Mezclar cartas descartadas",
+        "Como  no hay suficientes cartas en el mazo para cubrir los descartes de este jugador se "
+        "va a proceder a mezclar las cartas de los descartes anteriores.",
+        3, 1);
+    const int mezcladas = std::max(estado.NumDescartes - n, 0);
+    const int primero = JuntaLoQueQueda();
+    for (int lugar = primero; lugar < primero + mezcladas; ++lugar) {
+        estado.Baraja(lugar, 1) = kSinCarta;
+    }
+    for (int i = 1; i <= mezcladas; ++i) {
+        int lugar = 0;
+        do {
+            lugar = primero - 1 + AzarEntre(mezcladas);
+        } while (estado.Baraja(lugar, 1) != kSinCarta);
+        estado.Baraja(lugar, 1) = estado.Descartes(i, 1);
+        estado.Baraja(lugar, 2) = estado.Descartes(i, 2);
+    }
+    estado.NumDescartes = n;
+    estado.CartasEnMazo = EnteroDe(estado.CartasEnMazo + mezcladas);
+}
+
+// Midway between seat 1's zone and the table's centre, less 10.
+void ColocaMazo() {
+    estado.MazoX =
+        Redondea((estado.MesaDerecha(1) + estado.CentroX) / 2.0 - 10 - kAnchoCarta / 2.0);
+}
+
 } // namespace
 
 const FilaJuego& FilaPoker() {
-    static const FilaJuego kFila{
-        .id = kPoker, .nombre = "Póker", .prepara_baraja = PreparaBaraja, .con_dinero = true};
+    static const FilaJuego kFila{.id = kPoker,
+                                 .nombre = "Póker",
+                                 .prepara_baraja = PreparaBaraja,
+                                 .con_dinero = true,
+                                 .recibe = Recibe,
+                                 .recibe_a_mano = RecibeAMano,
+                                 .cuenta_reparto = CuentaConResto,
+                                 .coloca_mazo = ColocaMazo,
+                                 .rellena_mazo = MezclaDescartes};
     return kFila;
 }

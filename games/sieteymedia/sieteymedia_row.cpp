@@ -1,5 +1,6 @@
 #include "games/sieteymedia/sieteymedia_row.h"
 
+#include "betting/stakes.h"
 #include "core/game_state.h"
 #include "core/numeric.h"
 #include "core/text.h"
@@ -63,6 +64,9 @@ const FilaJuego& FilaSieteYMedia() {
                                  .sorteo_da_banca = true,
                                  .textos_sorteo = Textos,
                                  .tapa_al_repartir = true,
+                                 .recibe = TieneResto,
+                                 .recibe_a_mano = TieneResto,
+                                 .cuenta_reparto = CuentaConResto,
                                  .coloca_mazo = ColocaMazo,
                                  .clave_orden = ClaveOrden,
                                  .puntos = PuntosSerie,
