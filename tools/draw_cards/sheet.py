@@ -109,7 +109,7 @@ def mark_winner():
     """A gold star in a laurel."""
     from ases import wreath
     g = canvas(32, 32)
-    wreath(g, 48, 47, 36, 16, 150, 5, GOLD, GOLD_LIGHT, size=0.62, berries=False)
+    wreath(g, 48, 47, 33.5, 16, 150, 5, GOLD, GOLD_LIGHT, size=0.62, berries=False)
     star = []
     for k in range(10):
         r = 33 if k % 2 == 0 else 14.5
