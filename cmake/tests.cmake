@@ -68,6 +68,14 @@ if(TARGET zovin_logic)
   set_tests_properties(structure.no_qt_in_logic PROPERTIES LABELS structure)
 endif()
 
+# The drawings that are kept are those that their scripts draw.
+find_package(Python3 COMPONENTS Interpreter)
+if(Python3_FOUND)
+  add_test(NAME structure.drawings
+    COMMAND Python3::Interpreter "${CMAKE_SOURCE_DIR}/tools/draw_cards" --check)
+  set_tests_properties(structure.drawings PROPERTIES LABELS structure TIMEOUT 60)
+endif()
+
 # Real widgets, real events, no screen: one Qt Test program a file.
 zovin_sources(gui_sources PATTERNS tests/gui/*_test.cpp)
 if(gui_sources AND TARGET zovin_qt)
