@@ -57,10 +57,11 @@ private:
         std::size_t dimension = 0;
         auto avanza = [&](auto indice) {
             const int tope = kTopes[dimension];
-            if (indice < 0 || static_cast<long long>(indice) > tope) {
-                LanzaIndiceFuera(dimension + 1, static_cast<long long>(indice), tope);
-            }
-            celda = celda * static_cast<std::size_t>(tope + 1) + static_cast<std::size_t>(indice);
+            // One signed type for all: a huge unsigned index comes out below 0.
+            const auto lugar = static_cast<long long>(indice);
+            if (lugar < 0 || lugar > tope)
+                LanzaIndiceFuera(dimension + 1, lugar, tope);
+            celda = celda * static_cast<std::size_t>(tope + 1) + static_cast<std::size_t>(lugar);
             ++dimension;
         };
         (avanza(indices), ...);
