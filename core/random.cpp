@@ -30,7 +30,8 @@ double Azar() {
 }
 
 int AzarEntre(int n) {
-    return static_cast<int>(n * Azar() + 1);
+    // Adding before cutting would round the last number below 1 up to n + 1.
+    return static_cast<int>(n * Azar()) + 1;
 }
 
 void SiembraDelReloj(std::int64_t milisegundos) {
