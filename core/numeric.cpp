@@ -5,13 +5,16 @@
 
 namespace {
 
-double AlPar(double valor) {
-    const double suelo = std::floor(valor);
-    const double resto = valor - suelo;
-    if (resto > 0.5)
-        return suelo + 1;
-    if (resto < 0.5)
+// The nearest whole number to valor x escala, a power of ten. The product of two decimals may fall beside a
+// half that they meet exactly, or on one that they miss, so the half is brought back to valor's own scale.
+double AlPar(double valor, double escala = 1) {
+    const double producto = valor * escala;
+    const double suelo = std::floor(producto);
+    if (suelo == producto)
         return suelo;
+    const double mitad = (suelo + 0.5) / escala;
+    if (valor != mitad)
+        return valor > mitad ? suelo + 1 : suelo;
     return std::fmod(suelo, 2.0) == 0.0 ? suelo : suelo + 1;
 }
 
@@ -43,11 +46,11 @@ Integer EnteroDe(long long valor) {
 
 double RedondeaA(double valor, int decimales) {
     const double escala = std::pow(10.0, decimales);
-    return AlPar(valor * escala) / escala;
+    return AlPar(valor, escala) / escala;
 }
 
 Currency Currency::DeReal(double valor) {
-    const double escalado = AlPar(valor * static_cast<double>(kUnidad));
+    const double escalado = AlPar(valor, static_cast<double>(kUnidad));
     if (!(std::abs(escalado) < 9.0e18))
         throw Desbordamiento("importe fuera de los límites");
     return DeDiezmilesimas(static_cast<std::int64_t>(escalado));
