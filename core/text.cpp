@@ -262,10 +262,13 @@ std::string AWindows1252(std::string_view texto) {
     PorCaracter(texto, [&](std::string_view caracter) {
         const char32_t c = Codigo(caracter);
         const auto alto = std::find(kAltos1252.begin(), kAltos1252.end(), c);
+        // A control character whose number the code page gives to a letter has no place there.
+        const bool tapado =
+            caracter.size() > 1 && c >= 0x80 && c < 0xA0 && kAltos1252[c - 0x80] != 0;
         if (alto != kAltos1252.end() && c != 0) {
             bytes.push_back(static_cast<char>(0x80 + (alto - kAltos1252.begin())));
         } else {
-            bytes.push_back(c <= 0xFF ? static_cast<char>(c) : '?');
+            bytes.push_back(c <= 0xFF && !tapado ? static_cast<char>(c) : '?');
         }
     });
     return bytes;
