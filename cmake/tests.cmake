@@ -121,6 +121,14 @@ if(TARGET sonda)
 endif()
 include("${CMAKE_SOURCE_DIR}/tests/golden/golden.cmake" OPTIONAL)
 
+if(TARGET zovin)
+  add_test(NAME structure.installed_files
+    COMMAND "${CMAKE_COMMAND}" "-DBUILD=${CMAKE_BINARY_DIR}" "-DSCRATCH=${test_scratch}"
+      "-DVERSION=${PROJECT_VERSION}" -P "${CMAKE_SOURCE_DIR}/cmake/installed_files.cmake")
+  set_tests_properties(structure.installed_files PROPERTIES LABELS structure TIMEOUT 120
+    ENVIRONMENT "${test_environment_offscreen}")
+endif()
+
 # The real program in a real window on a screen of its own. Serial: a click belongs to the window
 # that has the focus, and two cores cannot keep two tables in time.
 if(TARGET zovin)
