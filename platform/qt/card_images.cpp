@@ -1,0 +1,189 @@
+#include "platform/qt/card_images.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QImageReader>
+#include <QPainter>
+#include <QtEndian>
+#include <cmath>
+#include <random>
+
+#include "core/game_state.h"
+#include "platform/platform.h"
+#include "table/sheet_layout.h"
+
+namespace {
+
+constexpr int kFilas = 4;
+constexpr Integer kSegundoComodin = 92;
+
+[[noreturn]] void FallaBaraja(const QString& ruta, const QString& motivo) {
+    throw FalloGrave(QStringLiteral("No se puede usar la imagen de la baraja «%1»: %2.")
+                         .arg(ruta, motivo)
+                         .toStdString());
+}
+
+void CompruebaTamano(const QString& ruta, const QSize& tamano, int columnas) {
+    const int k = tamano.width() / (columnas * kAnchoCarta);
+    const QSize justo(k * columnas * kAnchoCarta, k * kFilas * kAltoCarta);
+    if (k >= 1 && tamano == justo)
+        return;
+    FallaBaraja(ruta, QStringLiteral("mide %1x%2 y tiene que medir %3x%4 (%5 filas de %6 cartas de "
+                                     "%7x%8) o un múltiplo entero de ese tamaño")
+                          .arg(tamano.width())
+                          .arg(tamano.height())
+                          .arg(columnas * kAnchoCarta)
+                          .arg(kFilas * kAltoCarta)
+                          .arg(kFilas)
+                          .arg(columnas)
+                          .arg(kAnchoCarta)
+                          .arg(kAltoCarta));
+}
+
+// A file shorter than its own head says: the reader would fill the rest with nothing.
+bool EstaCortada(const QString& ruta) {
+    QFile fichero(ruta);
+    if (!fichero.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray cabeza = fichero.read(6);
+    return cabeza.size() == 6 && cabeza.startsWith("BM") &&
+           qFromLittleEndian<quint32>(cabeza.constData() + 2) > fichero.size();
+}
+
+QImage LeeBaraja(const QString& ruta, int columnas) {
+    if (!QFileInfo::exists(ruta))
+        FallaBaraja(ruta, QStringLiteral("no existe el fichero"));
+    QImageReader lector(ruta);
+    lector.setDecideFormatFromContent(true);
+    // The size stands in the file's head: a picture of the wrong size is not read any further.
+    if (lector.size().isValid())
+        CompruebaTamano(ruta, lector.size(), columnas);
+    QImage imagen = lector.read();
+    if (imagen.isNull())
+        FallaBaraja(ruta, QStringLiteral("no se puede leer como imagen"));
+    if (EstaCortada(ruta))
+        FallaBaraja(ruta, QStringLiteral("el fichero está incompleto"));
+    CompruebaTamano(ruta, imagen.size(), columnas);
+    return imagen;
+}
+
+// White where a card is, clear in its round corners.
+QImage Molde(const QSize& tamano, double radio) {
+    QImage molde(tamano, QImage::Format_ARGB32_Premultiplied);
+    molde.fill(Qt::transparent);
+    QPainter p(&molde);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setPen(Qt::NoPen);
+    p.setBrush(Qt::white);
+    p.drawRoundedRect(QRectF(QPointF(0, 0), QSizeF(tamano)), radio, radio);
+    return molde;
+}
+
+// Scales a picture of cards to cells of the given size and rounds each one's corners.
+QImage Celdas(const QImage& fuente, int columnas, int filas, const QSize& celda, double ratio) {
+    const QImage justa = fuente.scaled(celda.width() * columnas, celda.height() * filas,
+                                       Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    QImage lista = justa.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    const QImage molde = Molde(celda, lamina::kRadioEsquinaCarta * ratio);
+    QPainter p(&lista);
+    p.setCompositionMode(QPainter::CompositionMode_DestinationIn);
+    for (int fila = 0; fila < filas; ++fila) {
+        for (int columna = 0; columna < columnas; ++columna) {
+            const QRect sitio(QPoint(columna * celda.width(), fila * celda.height()), celda);
+            p.drawImage(sitio.topLeft(), molde);
+        }
+    }
+    p.end();
+    return lista;
+}
+
+// Card table felt: the table's green with a grain so fine that it only takes the flatness away.
+QImage HazFieltro() {
+    constexpr int kLado = 256;
+    QImage felpa(kLado, kLado, QImage::Format_RGB32);
+    std::minstd_rand grano(20);
+    std::uniform_int_distribution<int> sombra(-4, 4);
+    for (int y = 0; y < kLado; ++y) {
+        auto* linea = reinterpret_cast<QRgb*>(felpa.scanLine(y));
+        for (int x = 0; x < kLado; ++x) {
+            const int luz = sombra(grano);
+            linea[x] = qRgb(std::max(0, luz), 128 + luz, std::max(0, luz));
+        }
+    }
+    return felpa;
+}
+
+} // namespace
+
+Imagenes::Imagenes(double ratio) : ratio_(ratio), fieltro_(HazFieltro()) {}
+
+void Imagenes::CambiaRatio(double ratio) {
+    ratio_ = ratio;
+    dorso_ = {};
+    comodin1_ = {};
+    comodin2_ = {};
+    if (!HayBaraja())
+        return;
+    try {
+        CargaBaraja(ruta_, columnas_);
+    } catch (const FalloGrave&) {
+        // The file has gone since the start: the cards in hand are stretched.
+        const QSize celda = TamanoCarta();
+        baraja_ = baraja_.scaled(celda.width() * columnas_, celda.height() * kFilas,
+                                 Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    }
+}
+
+void Imagenes::CargaBaraja(const QString& ruta, int columnas) {
+    baraja_ = Celdas(LeeBaraja(ruta, columnas), columnas, kFilas, TamanoCarta(), ratio_);
+    ruta_ = ruta;
+    columnas_ = columnas;
+}
+
+int Imagenes::Px(int v) const {
+    return static_cast<int>(std::floor(v * ratio_ + 0.5));
+}
+
+QRect Imagenes::Px(const Rectangulo& donde) const {
+    const QPoint arriba(Px(donde.x), Px(donde.y));
+    return {arriba, QPoint(Px(donde.x + donde.ancho) - 1, Px(donde.y + donde.alto) - 1)};
+}
+
+QSize Imagenes::TamanoCarta() const {
+    return {static_cast<int>(kAnchoCarta * ratio_), static_cast<int>(kAltoCarta * ratio_)};
+}
+
+QImage Imagenes::DeRecursos(QImage& lista, const char* nombre) const {
+    if (lista.isNull())
+        lista = Celdas(QImage(QStringLiteral(":/arte/%1.png").arg(nombre)), 1, 1, TamanoCarta(),
+                       ratio_);
+    return lista;
+}
+
+QImage Imagenes::Derecha(const ImagenCarta& carta) const {
+    if (carta.cara != kDescubierta)
+        return DeRecursos(dorso_, "dorso");
+    if (carta.palo == kComodin)
+        return carta.valor == kSegundoComodin ? DeRecursos(comodin2_, "comodin2")
+                                              : DeRecursos(comodin1_, "comodin1");
+    if (carta.palo < 1 || carta.palo > kFilas || carta.valor < 1 || carta.valor > columnas_)
+        return {};
+    const QSize celda = TamanoCarta();
+    return baraja_.copy(QRect(
+        QPoint((carta.valor - 1) * celda.width(), (carta.palo - 1) * celda.height()), celda));
+}
+
+QImage Imagenes::Carta(const ImagenCarta& carta) const {
+    const QImage derecha = Derecha(carta);
+    const int cuartos = (carta.orientacion - 1) % 4;
+    return derecha.isNull() || cuartos == 0
+               ? derecha
+               : derecha.transformed(QTransform().rotate(90.0 * cuartos));
+}
+
+QImage Imagenes::MiniCarta(const ImagenCarta& carta, const QSize& tamano) const {
+    const QImage entera = Carta(carta);
+    return entera.isNull()
+               ? entera
+               : entera.scaled(tamano, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}

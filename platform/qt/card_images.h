@@ -1,0 +1,49 @@
+#pragma once
+// The pictures that a canvas draws from, made ready once for a screen's pixel ratio: the cards of the deck
+// image with their round corners, and the tile of felt.
+
+#include <QImage>
+#include <QString>
+
+#include "platform/canvas.h"
+
+class Imagenes {
+public:
+    // ratio: device pixels for each pixel of the table, above 0.
+    explicit Imagenes(double ratio);
+
+    double Ratio() const { return ratio_; }
+    // Another screen: everything is made ready anew.
+    void CambiaRatio(double ratio);
+
+    // Four rows (palo) of columnas cells (valor), each 101 by 141 or the same whole multiple of it. FalloGrave
+    // with file and reason when there is no such image; the deck in use then stays.
+    void CargaBaraja(const QString& ruta, int columnas);
+    bool HayBaraja() const { return !baraja_.isNull(); }
+
+    // The card as it stands on the table, turned, in device pixels, its corners clear. A null image for a
+    // card that the deck does not have.
+    QImage Carta(const ImagenCarta& carta) const;
+    // The same, made ancho by alto device pixels.
+    QImage MiniCarta(const ImagenCarta& carta, const QSize& tamano) const;
+
+    // A device pixel's felt is this tile's pixel at the same place, the tile repeated from (0, 0).
+    const QImage& Fieltro() const { return fieltro_; }
+
+    // Table pixels to device pixels. Edges are rounded, so that boxes which meet on the table meet on the
+    // screen; a card's size is cut, so that it never leaves its box.
+    int Px(int v) const;
+    QRect Px(const Rectangulo& donde) const;
+    QSize TamanoCarta() const;
+
+private:
+    QImage Derecha(const ImagenCarta& carta) const; // upright
+    QImage DeRecursos(QImage& lista, const char* nombre) const;
+
+    double ratio_;
+    QString ruta_;
+    int columnas_ = 0;
+    QImage baraja_; // the cells side by side, each TamanoCarta
+    mutable QImage dorso_, comodin1_, comodin2_; // read when first drawn
+    QImage fieltro_;
+};

@@ -1,0 +1,194 @@
+#include "platform/qt/control_view.h"
+
+#include <QAccessibleWidget>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <cmath>
+
+#include "platform/qt/pointers.h"
+
+namespace {
+
+enum class Trato { Panel, Placa, Movil, Boton };
+
+// How the player meets each control: a panel takes the mouse and says nothing, a plate and the held card
+// let it through to the felt, a button is clicked.
+Trato TratoDe(Control control) {
+    switch (control) {
+    case Control::Mesa:
+    case Control::Pic_Botonera:
+    case Control::Pic_SelOpciones:
+    case Control::Pic_Sugerencia:
+    case Control::Pic_Apostadora:
+        return Trato::Panel;
+    case Control::Pic_Tantos:
+        return Trato::Placa;
+    case Control::Pic_Mover:
+        return Trato::Movil;
+    default:
+        return Trato::Boton;
+    }
+}
+
+bool SigueElRaton(Control control) {
+    return control == Control::Pic_Botonera || control == Control::Pic_SelOpciones;
+}
+
+class AccesoControl : public QAccessibleWidget {
+public:
+    explicit AccesoControl(VistaControl* vista)
+        : QAccessibleWidget(vista,
+                            vista->EsBoton() ? QAccessible::Button : QAccessible::Pane) {}
+
+    QAccessible::State state() const override {
+        QAccessible::State estado = QAccessibleWidget::state();
+        estado.disabled = Vista()->ElPuntero() == Puntero::Prohibido;
+        return estado;
+    }
+
+    QStringList actionNames() const override {
+        return Vista()->EsBoton() ? QStringList{pressAction(), setFocusAction()} : QStringList{};
+    }
+
+    void doAction(const QString& accion) override {
+        if (accion == pressAction())
+            Vista()->Pulsa();
+        else
+            QAccessibleWidget::doAction(accion);
+    }
+
+private:
+    VistaControl* Vista() const { return static_cast<VistaControl*>(widget()); }
+};
+
+QAccessibleInterface* HazAcceso(const QString&, QObject* objeto) {
+    auto* vista = qobject_cast<VistaControl*>(objeto);
+    return vista != nullptr ? new AccesoControl(vista) : nullptr;
+}
+
+} // namespace
+
+void InstalaAccesoControles() {
+    QAccessible::installFactory(HazAcceso);
+}
+
+void PintaCuadro(QPainter& pintor, const QImage& cuadro, double ratio, const QRect& expuesto) {
+    pintor.scale(1 / ratio, 1 / ratio);
+    const QRectF dispositivo(QPointF(expuesto.topLeft()) * ratio, QSizeF(expuesto.size()) * ratio);
+    const QRect trozo = dispositivo.toAlignedRect().adjusted(-1, -1, 1, 1) & cuadro.rect();
+    pintor.drawImage(trozo.topLeft(), cuadro, trozo);
+}
+
+VistaControl::VistaControl(Control control, int indice, QWidget* padre, Imagenes& imagenes,
+                           ColaEventos& cola)
+    : QWidget(padre), control_(control), indice_(indice), cola_(cola), imagenes_(imagenes),
+      lienzo_(imagenes, Fondo::Claro) {
+    setObjectName(QString::fromUtf8(NombreDe(control)));
+    setVisible(false);
+    setFocusPolicy(EsBoton() ? Qt::TabFocus : Qt::NoFocus);
+    setMouseTracking(SigueElRaton(control));
+    const Trato trato = TratoDe(control);
+    setAttribute(Qt::WA_TransparentForMouseEvents,
+                 trato == Trato::Placa || trato == Trato::Movil);
+}
+
+bool VistaControl::EsBoton() const {
+    return TratoDe(control_) == Trato::Boton;
+}
+
+void VistaControl::Coloca(const Rectangulo& donde) {
+    const QSize tamano(donde.ancho, donde.alto);
+    setGeometry(QRect(QPoint(donde.x, donde.y), tamano));
+    if (tamano != lienzo_.Tamano())
+        lienzo_.PonTamano(tamano, false);
+}
+
+void VistaControl::PonPuntero(Puntero puntero) {
+    const bool cambia = (puntero == Puntero::Prohibido) != (puntero_ == Puntero::Prohibido);
+    puntero_ = puntero;
+    setCursor(CursorDe(puntero));
+    if (!cambia)
+        return;
+    QAccessible::State distinto;
+    distinto.disabled = true;
+    QAccessibleStateChangeEvent aviso(this, distinto);
+    QAccessible::updateAccessibility(&aviso);
+}
+
+void VistaControl::Nombra(const QString& nombre) {
+    setAccessibleName(nombre);
+    setToolTip(nombre);
+}
+
+void VistaControl::Pulsa() {
+    Evento clic;
+    clic.tipo = TipoEvento::Clic;
+    clic.control = control_;
+    clic.indice = indice_;
+    cola_.Pon(clic);
+}
+
+void VistaControl::paintEvent(QPaintEvent* evento) {
+    QPainter p(this);
+    PintaCuadro(p, lienzo_.Cuadro(), imagenes_.Ratio(), evento->rect());
+    if (!hasFocus())
+        return;
+    p.resetTransform();
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setPen(QPen(QColor(255, 244, 170), 2, Qt::DotLine));
+    p.drawRoundedRect(QRectF(rect()).adjusted(2, 2, -2, -2), 6, 6);
+}
+
+void VistaControl::Avisa(TipoEvento tipo, const QMouseEvent& evento) {
+    Evento raton;
+    raton.tipo = tipo;
+    raton.control = control_;
+    raton.indice = indice_;
+    raton.x = static_cast<int>(std::floor(evento.position().x()));
+    raton.y = static_cast<int>(std::floor(evento.position().y()));
+    raton.boton = evento.button() == Qt::RightButton ? 2 : 1;
+    cola_.Pon(raton);
+}
+
+void VistaControl::mousePressEvent(QMouseEvent* evento) {
+    evento->accept();
+}
+
+void VistaControl::mouseReleaseEvent(QMouseEvent* evento) {
+    const bool dentro = rect().contains(evento->position().toPoint());
+    if (!dentro || evento->button() != Qt::LeftButton)
+        return;
+    if (EsBoton())
+        Pulsa();
+    if (control_ == Control::Pic_SelOpciones)
+        Avisa(TipoEvento::RatonSuelta, *evento);
+}
+
+void VistaControl::mouseMoveEvent(QMouseEvent* evento) {
+    if (SigueElRaton(control_))
+        Avisa(TipoEvento::RatonMueve, *evento);
+}
+
+void VistaControl::keyPressEvent(QKeyEvent* evento) {
+    switch (evento->key()) {
+    case Qt::Key_Space:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (EsBoton() && !evento->isAutoRepeat())
+            return Pulsa();
+        break;
+    case Qt::Key_Up:
+    case Qt::Key_Left:
+        focusPreviousChild();
+        return;
+    case Qt::Key_Down:
+    case Qt::Key_Right:
+        focusNextChild();
+        return;
+    default:
+        break;
+    }
+    evento->ignore();
+}

@@ -1,0 +1,49 @@
+#pragma once
+// A control of `mesa` as a child widget: a picture of its own that the game draws, a pointer, and for the
+// buttons a click by mouse or by keyboard.
+
+#include <QWidget>
+
+#include "platform/qt/canvas_qt.h"
+#include "platform/qt/event_queue.h"
+
+// Paints a retained picture at the widget's corner, pixel by pixel, where it is exposed. Leaves the painter
+// in the picture's device pixels.
+void PintaCuadro(QPainter& pintor, const QImage& cuadro, double ratio, const QRect& expuesto);
+
+class VistaControl : public QWidget {
+    Q_OBJECT
+public:
+    VistaControl(Control control, int indice, QWidget* padre, Imagenes& imagenes,
+                 ColaEventos& cola);
+
+    Control Cual() const { return control_; }
+    bool EsBoton() const;
+    LienzoRetenido& ElLienzo() { return lienzo_; }
+    void Coloca(const Rectangulo& donde);
+    void PonPuntero(Puntero puntero);
+    Puntero ElPuntero() const { return puntero_; }
+    void Nombra(const QString& nombre);
+    // A click that did not come from the mouse.
+    void Pulsa();
+
+protected:
+    void paintEvent(QPaintEvent* evento) override;
+    void mousePressEvent(QMouseEvent* evento) override;
+    void mouseReleaseEvent(QMouseEvent* evento) override;
+    void mouseMoveEvent(QMouseEvent* evento) override;
+    void keyPressEvent(QKeyEvent* evento) override;
+
+private:
+    void Avisa(TipoEvento tipo, const QMouseEvent& evento);
+
+    const Control control_;
+    const int indice_;
+    ColaEventos& cola_;
+    Imagenes& imagenes_;
+    LienzoRetenido lienzo_;
+    Puntero puntero_ = Puntero::Flecha;
+};
+
+// Lets screen readers know the buttons among the controls as buttons, the disabled ones as disabled.
+void InstalaAccesoControles();

@@ -1,0 +1,70 @@
+#include "platform/qt/main_window.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QScreen>
+#include <QSettings>
+#include <QStandardPaths>
+
+namespace {
+
+const QString kSitio = QStringLiteral("ventana/sitio");
+
+// The window's place is the desktop's affair and stands with its settings, apart from the game's files.
+QSettings Ajustes() {
+    return QSettings(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) +
+                         QStringLiteral("/ventana.ini"),
+                     QSettings::IniFormat);
+}
+
+// Less of the table than this is no window to play in.
+constexpr QSize kMinimo(400, 300);
+
+} // namespace
+
+VentanaPrincipal::VentanaPrincipal(QWidget* mesa) {
+    setObjectName(QStringLiteral("ventana"));
+    setWindowTitle(QStringLiteral("Zovin · Seis juegos de cartas"));
+    setFrameShape(QFrame::NoFrame);
+    setWidgetResizable(true);
+    setWidget(mesa);
+    setFocusProxy(mesa);
+    setMinimumSize(kMinimo);
+    resize(QApplication::primaryScreen()->availableSize());
+    RecuerdaSitio();
+}
+
+void VentanaPrincipal::RecuerdaSitio() {
+    const QByteArray sitio = Ajustes().value(kSitio).toByteArray();
+    recordado_ = !sitio.isEmpty() && restoreGeometry(sitio);
+}
+
+void VentanaPrincipal::Aparece() {
+    if (recordado_)
+        show();
+    else
+        showMaximized();
+    raise();
+    activateWindow();
+}
+
+void VentanaPrincipal::GuardaSitio() {
+    if (isVisible())
+        Ajustes().setValue(kSitio, saveGeometry());
+}
+
+void VentanaPrincipal::closeEvent(QCloseEvent* evento) {
+    evento->ignore();
+    if (al_cerrar)
+        al_cerrar();
+}
+
+// A click beside an open box must not take the keyboard away from the box.
+void VentanaPrincipal::changeEvent(QEvent* evento) {
+    QScrollArea::changeEvent(evento);
+    QWidget* caja = QApplication::activeModalWidget();
+    if (evento->type() == QEvent::ActivationChange && isActiveWindow() && caja != nullptr) {
+        caja->raise();
+        caja->activateWindow();
+    }
+}

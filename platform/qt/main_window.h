@@ -1,0 +1,27 @@
+#pragma once
+// The program's window: the table in it, scrolled when the window is smaller than 800 by 600.
+
+#include <QScrollArea>
+#include <functional>
+
+class VentanaPrincipal : public QScrollArea {
+    Q_OBJECT
+public:
+    explicit VentanaPrincipal(QWidget* mesa);
+
+    // The first time it fills the screen, later it comes up where and as large as it was left.
+    void Aparece();
+    // Remembers place and size for the next start.
+    void GuardaSitio();
+
+    // The close button was pressed; the window stays until the game has decided.
+    std::function<void()> al_cerrar;
+
+protected:
+    void closeEvent(QCloseEvent* evento) override;
+    void changeEvent(QEvent* evento) override;
+
+private:
+    void RecuerdaSitio();
+    bool recordado_ = false;
+};

@@ -1,0 +1,144 @@
+#include "platform/qt/message_box.h"
+
+#include <QAccessible>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QTextLayout>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "platform/qt/canvas_qt.h"
+#include "platform/qt/event_queue.h"
+
+namespace {
+
+// The width at which the messages' hand-made lines fit and their next words do not.
+constexpr int kAnchoTexto = 444;
+constexpr int kMargen = 28;
+constexpr int kAltoLinea = 17;
+constexpr int kAltoBase = 136, kAltoPorLinea = 16;
+// What stands above and below the text: frame, band, air, buttons.
+constexpr int kAltoSinTexto = 4 + estilo::kAltoBanda + 2 + 18 + 18 + 34 + 18;
+constexpr Fuente kLetra{.alto = 14};
+
+// Breaks the text into lines of the given width and answers their height.
+int Compone(QTextLayout& texto, int ancho) {
+    QTextOption opcion(Qt::AlignJustify);
+    opcion.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    texto.setTextOption(opcion);
+    texto.beginLayout();
+    int alto = 0;
+    for (QTextLine linea = texto.createLine(); linea.isValid(); linea = texto.createLine()) {
+        linea.setLineWidth(ancho);
+        linea.setPosition(QPointF(0, alto));
+        alto += kAltoLinea;
+    }
+    texto.endLayout();
+    return alto;
+}
+
+QString Parrafos(QString texto) {
+    texto.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    return texto.replace(u'\n', QChar(QChar::LineSeparator));
+}
+
+} // namespace
+
+Boton BotonAlCerrar(int modo) {
+    return modo == 2 ? Boton::No : Boton::Salir;
+}
+
+TextoMensaje::TextoMensaje(const std::string& texto, QWidget* padre)
+    : QLabel(QString::fromStdString(texto), padre) {
+    setTextFormat(Qt::PlainText);
+    setFont(LetraDe(kLetra));
+}
+
+int TextoMensaje::heightForWidth(int ancho) const {
+    QTextLayout compuesto(Parrafos(text()), font());
+    return Compone(compuesto, ancho);
+}
+
+void TextoMensaje::paintEvent(QPaintEvent*) {
+    QTextLayout compuesto(Parrafos(text()), font());
+    Compone(compuesto, width());
+    QPainter p(this);
+    p.setPen(estilo::kTinta);
+    compuesto.draw(&p, QPointF(0, 0));
+}
+
+CajaQt::CajaQt(const CajaMensaje& caja, QWidget* padre)
+    : DialogoSuite(QString::fromStdString(caja.titulo), padre),
+      respuesta_(BotonAlCerrar(caja.modo)) {
+    setObjectName(QStringLiteral("mensajes"));
+    setAccessibleName(windowTitle());
+    setAccessibleDescription(QString::fromStdString(caja.texto).simplified());
+
+    auto* columna = new QVBoxLayout(this);
+    columna->setContentsMargins(kMargen, 4 + estilo::kAltoBanda + 2 + 18, kMargen, 18 + 4);
+    columna->setSpacing(18);
+    auto* texto = new TextoMensaje(caja.texto, this);
+    texto->setObjectName(QStringLiteral("Tex_Mensaje"));
+    const int alto_texto = texto->heightForWidth(kAnchoTexto);
+    texto->setFixedSize(kAnchoTexto, alto_texto);
+    columna->addWidget(texto, 1, Qt::AlignTop);
+    PonBotones(caja);
+
+    const int alto = std::max(kAltoPorLinea * caja.lineas + kAltoBase, kAltoSinTexto + alto_texto + 4);
+    setFixedSize(kAnchoTexto + 2 * kMargen, alto);
+}
+
+void CajaQt::PonBotones(const CajaMensaje& caja) {
+    auto* fila = new QHBoxLayout;
+    fila->setSpacing(16);
+    fila->addStretch();
+    static_cast<QVBoxLayout*>(layout())->addLayout(fila);
+    switch (caja.modo) {
+    case 2:
+        PonBoton("Pic_Si", caja.aceptar ? "Aceptar" : "Sí", Boton::Si);
+        PonBoton("Pic_No", caja.aceptar ? "Cancelar" : "No", Boton::No);
+        break;
+    case 3:
+        PonBoton("Pic_BotAyuda", "Ayuda", Boton::Ayuda);
+        PonBoton("Pic_BotSalir", "Salir", Boton::Salir);
+        break;
+    default:
+        PonBoton("Pic_BotSalir", "Aceptar", Boton::Salir);
+        break;
+    }
+    for (BotonSuite* boton : findChildren<BotonSuite*>())
+        fila->addWidget(boton);
+    fila->addStretch();
+}
+
+void CajaQt::PonBoton(const QString& nombre, const QString& texto, Boton valor) {
+    auto* boton = new BotonSuite(texto, this);
+    boton->setObjectName(nombre);
+    connect(boton, &QPushButton::clicked, this, [this, valor] {
+        respuesta_ = valor;
+        accept();
+    });
+    if (principal_ != nullptr)
+        return;
+    principal_ = boton;
+    boton->setFocus();
+}
+
+Boton CajaQt::Responde() {
+    exec();
+    return respuesta_;
+}
+
+void CajaQt::showEvent(QShowEvent* evento) {
+    DialogoSuite::showEvent(evento);
+    QAccessibleEvent aviso(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&aviso);
+}
+
+void CajaQt::keyPressEvent(QKeyEvent* evento) {
+    if (CaracterDe(*evento))
+        principal_->click();
+    else
+        evento->ignore();
+}

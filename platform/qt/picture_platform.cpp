@@ -1,0 +1,55 @@
+#include "platform/qt/picture_platform.h"
+
+#include <QPainter>
+
+PlataformaCuadro::PlataformaCuadro(double ratio) : imagenes_(ratio) {}
+
+LienzoRetenido& PlataformaCuadro::Retenido(ControlMesa cual) {
+    const Fondo fondo = cual.control == Control::Mesa ? Fondo::Fieltro : Fondo::Claro;
+    return retenidos_.try_emplace(cual, imagenes_, fondo).first->second;
+}
+
+Lienzo& PlataformaCuadro::LienzoDe(Control control, int indice) {
+    LienzoRetenido& lienzo = Retenido({control, indice});
+    const QSize mesa(AnchoVentana(), AltoVentana());
+    if (control == Control::Mesa && lienzo.Tamano() != mesa)
+        lienzo.PonTamano(mesa, true);
+    return lienzo;
+}
+
+void PlataformaCuadro::Coloca(Control control, int indice, const Rectangulo& donde) {
+    PlataformaSinPantalla::Coloca(control, indice, donde);
+    const QSize tamano(donde.ancho, donde.alto);
+    LienzoRetenido& lienzo = Retenido({control, indice});
+    if (control != Control::Mesa && lienzo.Tamano() != tamano)
+        lienzo.PonTamano(tamano, false);
+}
+
+void PlataformaCuadro::CargaBaraja(const std::string& ruta, int columnas) {
+    imagenes_.CargaBaraja(QString::fromStdString(ruta), columnas);
+}
+
+void PlataformaCuadro::PintaControl(QPainter& pintor, ControlMesa cual, LienzoRetenido& lienzo) {
+    if (!Tablero().EstaVisible(cual))
+        return;
+    const Rectangulo donde = Tablero().LugarDe(cual);
+    pintor.drawImage(imagenes_.Px(donde.x), imagenes_.Px(donde.y), lienzo.Cuadro());
+}
+
+QImage PlataformaCuadro::Cuadro() {
+    LienzoDe(Control::Mesa, 0);
+    QImage cuadro = Retenido({Control::Mesa, 0}).Cuadro().copy();
+    QPainter pintor(&cuadro);
+    // A control's number comes after that of what it stands on; the pop-up and the held card lie on top.
+    const auto arriba = [](Control control) {
+        return control == Control::Pic_SelOpciones || control == Control::Pic_Mover;
+    };
+    for (const bool capa : {false, true}) {
+        for (auto& [cual, lienzo] : retenidos_) {
+            if (cual.control != Control::Mesa && arriba(cual.control) == capa)
+                PintaControl(pintor, cual, lienzo);
+        }
+    }
+    pintor.end();
+    return cuadro;
+}

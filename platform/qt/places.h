@@ -1,0 +1,10 @@
+#pragma once
+// Where the program finds what is its own: beside it as built, or in the folders of an installation.
+
+#include <QString>
+
+// The folder through which the program was started, its last link not followed.
+QString CarpetaDeArranque(const QString& orden);
+// The help pages, and the sound plugin; the first candidate when there is none at all.
+QString CarpetaAyuda(const QString& programa);
+QString FicheroSonido(const QString& programa);

@@ -1,0 +1,296 @@
+#include "platform/qt/platform_qt.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QScreen>
+#include <QStandardPaths>
+#include <chrono>
+#include <cmath>
+#include <thread>
+
+#include "platform/qt/help_viewer.h"
+#include "platform/qt/message_box.h"
+#include "platform/qt/places.h"
+#include "platform/qt/sound.h"
+#include "platform/qt/splash.h"
+#include "table/layout.h"
+
+namespace {
+
+// The last stretch of a pause is slept without the event loop, which wakes to the millisecond only.
+constexpr Milisegundos kRemate = 2;
+
+// The table pixels that hold the given device pixels; one more all round where pixels do not coincide.
+QRegion ALaMesa(const QRegion& dispositivo, double ratio) {
+    const int margen = ratio == std::floor(ratio) ? 0 : 1;
+    QRegion mesa;
+    for (const QRect& trozo : dispositivo) {
+        const QRectF justo(QPointF(trozo.topLeft()) / ratio, QSizeF(trozo.size()) / ratio);
+        mesa += justo.toAlignedRect().adjusted(-margen, -margen, margen, margen);
+    }
+    return mesa;
+}
+
+} // namespace
+
+PlataformaQt::PlataformaQt(const QString& carpeta)
+    : carpeta_(carpeta), imagenes_(qApp->devicePixelRatio()),
+      mesa_(new VistaMesa(imagenes_, cola_)) {
+    reloj_.start();
+    despertador_.setSingleShot(true);
+    despertador_.setTimerType(Qt::PreciseTimer);
+    ventana_ = std::make_unique<VentanaPrincipal>(mesa_);
+    ventana_->al_cerrar = [this] {
+        Evento cierre;
+        cierre.tipo = TipoEvento::CierraVentana;
+        cola_.Pon(cierre);
+    };
+    mesa_->al_cambiar_ratio = [this] { CambiaRatio(); };
+    InstalaAccesoControles();
+}
+
+PlataformaQt::~PlataformaQt() {
+    ventana_->GuardaSitio();
+}
+
+void PlataformaQt::PonForma(Forma forma, AbreForma abre) {
+    formas_[forma] = abre;
+}
+
+void PlataformaQt::PideTermina() {
+    termina_ = true;
+    Evento fin;
+    fin.tipo = TipoEvento::Termina;
+    cola_.Pon(fin);
+    for (QWidget* modal = QApplication::activeModalWidget(); modal != nullptr;
+         modal = QApplication::activeModalWidget()) {
+        modal->close();
+        if (modal == QApplication::activeModalWidget())
+            break;
+    }
+}
+
+void PlataformaQt::Bombea() {
+    mesa_->update(Sucio());
+    QCoreApplication::processEvents();
+}
+
+std::optional<Evento> PlataformaQt::SiguienteEvento(Pase) {
+    return cola_.Toma();
+}
+
+bool PlataformaQt::EsperaEvento() {
+    mesa_->update(Sucio());
+    while (cola_.Vacia())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    return true;
+}
+
+Milisegundos PlataformaQt::Reloj() {
+    return reloj_.elapsed();
+}
+
+// Whatever the player does meanwhile is put in the queue by the widgets, each event with its place, and
+// nobody takes it.
+void PlataformaQt::DuermeHasta(Milisegundos momento) {
+    mesa_->update(Sucio());
+    for (Milisegundos falta = momento - Reloj(); falta > kRemate; falta = momento - Reloj()) {
+        despertador_.start(static_cast<int>(falta - kRemate));
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+    const auto resto = std::chrono::milliseconds(momento) -
+                       std::chrono::nanoseconds(reloj_.nsecsElapsed());
+    if (resto > std::chrono::nanoseconds::zero())
+        std::this_thread::sleep_for(resto);
+}
+
+int PlataformaQt::AnchoVentana() const {
+    return mesa_->width();
+}
+
+int PlataformaQt::AltoVentana() const {
+    return mesa_->height();
+}
+
+void PlataformaQt::MuestraCareta() {
+    careta_ = std::make_unique<Careta>();
+    careta_->Aparece();
+    QCoreApplication::processEvents();
+}
+
+void PlataformaQt::MuestraMesa() {
+    ventana_->Aparece();
+    mesa_->setFocus();
+    QCoreApplication::processEvents();
+    careta_.reset();
+}
+
+VistaControl& PlataformaQt::Vista(Control control, int indice) {
+    VistaControl*& vista = vistas_[{control, indice}];
+    if (vista != nullptr)
+        return *vista;
+    const Control padre = PadreDe(control);
+    QWidget* sobre = padre == Control::Mesa ? static_cast<QWidget*>(mesa_) : &Vista(padre, 0);
+    vista = new VistaControl(control, indice, sobre, imagenes_, cola_);
+    vista->setVisible(control == Control::Pic_Botonera);
+    OrdenaCapas();
+    return *vista;
+}
+
+const VistaControl* PlataformaQt::VistaSiHay(Control control, int indice) const {
+    const auto vista = vistas_.find({control, indice});
+    return vista == vistas_.end() ? nullptr : vista->second;
+}
+
+// The pop-up lies over the controls, the flight over everything on the felt, the held card over both.
+void PlataformaQt::OrdenaCapas() {
+    const auto alza = [this](Control control) {
+        const auto vista = vistas_.find({control, 0});
+        if (vista != vistas_.end())
+            vista->second->raise();
+    };
+    alza(Control::Pic_SelOpciones);
+    mesa_->ElVuelo().raise();
+    alza(Control::Pic_Mover);
+}
+
+Lienzo& PlataformaQt::LienzoDe(Control control, int indice) {
+    if (control == Control::Mesa)
+        return mesa_->ElLienzo();
+    return Vista(control, indice).ElLienzo();
+}
+
+void PlataformaQt::Coloca(Control control, int indice, const Rectangulo& donde) {
+    if (control != Control::Mesa)
+        Vista(control, indice).Coloca(donde);
+}
+
+void PlataformaQt::Muestra(Control control, int indice, bool visible) {
+    if (control != Control::Mesa)
+        Vista(control, indice).setVisible(visible);
+}
+
+bool PlataformaQt::EstaVisible(Control control, int indice) const {
+    const VistaControl* vista = VistaSiHay(control, indice);
+    return control == Control::Mesa || (vista != nullptr && vista->isVisibleTo(mesa_));
+}
+
+void PlataformaQt::PonPuntero(Control control, int indice, Puntero puntero) {
+    if (control == Control::Mesa)
+        mesa_->PonPuntero(puntero);
+    else
+        Vista(control, indice).PonPuntero(puntero);
+}
+
+Puntero PlataformaQt::PunteroDe(Control control, int indice) const {
+    if (control == Control::Mesa)
+        return mesa_->ElPuntero();
+    const VistaControl* vista = VistaSiHay(control, indice);
+    return vista == nullptr ? Puntero::Flecha : vista->ElPuntero();
+}
+
+void PlataformaQt::Nombra(Control control, int indice, std::string_view nombre) {
+    const QString letras =
+        QString::fromUtf8(nombre.data(), static_cast<qsizetype>(nombre.size()));
+    if (control == Control::Mesa)
+        mesa_->setAccessibleName(letras);
+    else
+        Vista(control, indice).Nombra(letras);
+}
+
+void PlataformaQt::Vuela(int x, int y, const ImagenCarta& carta) {
+    mesa_->ElVuelo().Vuela(x, y, carta);
+}
+
+void PlataformaQt::Posa() {
+    mesa_->ElVuelo().Posa();
+}
+
+QRegion PlataformaQt::Sucio() {
+    const double ratio = imagenes_.Ratio();
+    QRegion sucio = ALaMesa(mesa_->ElLienzo().TomaSucio() + mesa_->ElVuelo().TomaSucio(), ratio);
+    for (const auto& [cual, vista] : vistas_) {
+        const QRegion suyo = ALaMesa(vista->ElLienzo().TomaSucio(), ratio);
+        if (!suyo.isEmpty() && vista->isVisible())
+            sucio += suyo.translated(vista->mapTo(mesa_, QPoint(0, 0)));
+    }
+    return sucio;
+}
+
+// At once, so that a frame of a flight stands on the screen at its time.
+void PlataformaQt::Repinta() {
+    mesa_->repaint(Sucio());
+    QCoreApplication::sendPostedEvents(ventana_.get(), QEvent::UpdateRequest);
+}
+
+void PlataformaQt::CambiaRatio() {
+    imagenes_.CambiaRatio(mesa_->devicePixelRatioF());
+    mesa_->ElLienzo().AdaptaRatio();
+    mesa_->ElVuelo().AdaptaRatio();
+    for (const auto& [cual, vista] : vistas_)
+        vista->ElLienzo().AdaptaRatio();
+    Evento tamano;
+    tamano.tipo = TipoEvento::Tamano;
+    tamano.x = mesa_->width();
+    tamano.y = mesa_->height();
+    cola_.Pon(tamano);
+    mesa_->update();
+}
+
+void PlataformaQt::CargaBaraja(const std::string& ruta, int columnas) {
+    imagenes_.CargaBaraja(QString::fromStdString(ruta), columnas);
+}
+
+QWidget* PlataformaQt::Padre() {
+    if (ventana_->isVisible())
+        return ventana_.get();
+    return careta_ && careta_->isVisible() ? careta_.get() : nullptr;
+}
+
+Boton PlataformaQt::Pregunta(const CajaMensaje& caja) {
+    if (termina_)
+        return BotonAlCerrar(caja.modo);
+    mesa_->update(Sucio());
+    CajaQt dialogo(caja, Padre());
+    const QRect pantalla = ventana_->screen()->availableGeometry();
+    const QRect mesa = ventana_->isVisible()
+                           ? QRect(ventana_->viewport()->mapToGlobal(QPoint(0, 0)),
+                                   ventana_->viewport()->size() - QSize(kAnchoBotonera, 0))
+                           : pantalla;
+    dialogo.CentraEn(caja.centrada ? pantalla : mesa);
+    return dialogo.Responde();
+}
+
+void PlataformaQt::Abre(Forma forma) {
+    const auto abre = formas_.find(forma);
+    if (abre == formas_.end() || termina_)
+        return;
+    mesa_->update(Sucio());
+    abre->second(Padre());
+}
+
+bool PlataformaQt::TieneForma(Forma forma) const {
+    return formas_.contains(forma);
+}
+
+void PlataformaQt::Suena(int id, bool espera) {
+    if (!altavoz_)
+        altavoz_ = std::make_unique<Altavoz>(carpeta_);
+    const Milisegundos dura = altavoz_->Toca(id);
+    if (espera)
+        DuermeHasta(Reloj() + dura);
+}
+
+void PlataformaQt::Ayuda(int tema) {
+    if (!ayuda_)
+        ayuda_ = std::make_unique<VistaAyuda>(CarpetaAyuda(carpeta_));
+    ayuda_->MuestraTema(tema);
+}
+
+void PlataformaQt::Minimiza() {
+    ventana_->showMinimized();
+}
+
+std::string PlataformaQt::CarpetaUsuario() const {
+    return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation).toStdString();
+}

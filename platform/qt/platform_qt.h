@@ -1,0 +1,99 @@
+#pragma once
+// The desktop: one window with the table in it, real widgets for its controls, real dialogs.
+
+#include <QElapsedTimer>
+#include <QPointer>
+#include <QTimer>
+#include <map>
+#include <memory>
+#include <utility>
+
+#include "platform/platform.h"
+#include "platform/qt/control_view.h"
+#include "platform/qt/main_window.h"
+#include "platform/qt/table_view.h"
+
+class QDialog;
+class VistaAyuda;
+class Altavoz;
+class Careta;
+
+// Opens a form over the given window and returns when it is closed.
+using AbreForma = void (*)(QWidget* sobre);
+
+class PlataformaQt : public QObject, public Plataforma {
+    Q_OBJECT
+public:
+    // Needs a QApplication. carpeta: where the program stands, with its help and deck images.
+    explicit PlataformaQt(const QString& carpeta);
+    ~PlataformaQt() override;
+
+    // The form's view; a form without one is not on offer.
+    void PonForma(Forma forma, AbreForma abre);
+    // The desktop session or a signal ends the program: open boxes close unanswered and the game is told.
+    void PideTermina();
+    VentanaPrincipal& Ventana() { return *ventana_; }
+
+    void Bombea() override;
+    std::optional<Evento> SiguienteEvento(Pase pase) override;
+    bool EsperaEvento() override;
+
+    Milisegundos Reloj() override;
+    void DuermeHasta(Milisegundos momento) override;
+
+    bool HayPantalla() const override { return true; }
+    int AnchoVentana() const override;
+    int AltoVentana() const override;
+
+    void MuestraCareta() override;
+    void MuestraMesa() override;
+
+    Lienzo& LienzoDe(Control control, int indice) override;
+    void Coloca(Control control, int indice, const Rectangulo& donde) override;
+    void Muestra(Control control, int indice, bool visible) override;
+    bool EstaVisible(Control control, int indice) const override;
+    void PonPuntero(Control control, int indice, Puntero puntero) override;
+    Puntero PunteroDe(Control control, int indice) const override;
+    void Nombra(Control control, int indice, std::string_view nombre) override;
+    void Vuela(int x, int y, const ImagenCarta& carta) override;
+    void Posa() override;
+    void Repinta() override;
+
+    void CargaBaraja(const std::string& ruta, int columnas) override;
+
+    Boton Pregunta(const CajaMensaje& caja) override;
+    void Abre(Forma forma) override;
+    bool TieneForma(Forma forma) const override;
+
+    void Suena(int id, bool espera) override;
+    void Ayuda(int tema) override;
+    void Minimiza() override;
+
+    Archivos& LosArchivos() override { return archivos_; }
+    std::string CarpetaDelPrograma() const override { return carpeta_.toStdString(); }
+    std::string CarpetaUsuario() const override;
+
+private:
+    VistaControl& Vista(Control control, int indice);
+    const VistaControl* VistaSiHay(Control control, int indice) const;
+    void OrdenaCapas();
+    QRegion Sucio();
+    void CambiaRatio();
+    // The window that a dialog belongs to: the table, or before it is shown the splash or none.
+    QWidget* Padre();
+
+    QString carpeta_;
+    ArchivosDisco archivos_;
+    QElapsedTimer reloj_;
+    QTimer despertador_;
+    ColaEventos cola_;
+    Imagenes imagenes_;
+    std::unique_ptr<VentanaPrincipal> ventana_;
+    VistaMesa* mesa_;
+    std::map<std::pair<Control, int>, VistaControl*> vistas_;
+    std::map<Forma, AbreForma> formas_;
+    std::unique_ptr<Careta> careta_;
+    std::unique_ptr<VistaAyuda> ayuda_;
+    std::unique_ptr<Altavoz> altavoz_;
+    bool termina_ = false;
+};

@@ -1,0 +1,10 @@
+#pragma once
+// The small images of the sheet, each made ready for a pixel ratio.
+
+#include <QImage>
+
+#include "table/sheet_layout.h"
+
+// A piece of the sheet, its size in device pixels rounded up. The whole sheet is read at the first call for
+// a ratio; what was ready for another ratio is dropped. std::logic_error for what is no piece.
+const QImage& PiezaDe(const lamina::Recorte& recorte, double ratio);

@@ -1,0 +1,45 @@
+#pragma once
+// The look that the program's dialogs share: ivory paper in a frame of the table's reds, a green band for
+// the title, green buttons with yellow words.
+
+#include <QDialog>
+#include <QPushButton>
+
+class QPainter;
+
+namespace estilo {
+inline constexpr QColor kPapel(253, 245, 225), kTinta(34, 34, 34);
+inline constexpr QColor kMarco(224, 64, 32), kMarcoClaro(224, 128, 96);
+inline constexpr QColor kBanda(12, 78, 30), kTitulo(255, 238, 130);
+inline constexpr int kAltoBanda = 34;
+
+// Colours of the dialogs for the standard widgets in them, the same on a dark desktop as on a light one.
+QPalette Paleta();
+// Paper, frame and title band over the whole of donde.
+void PintaPanel(QPainter& pintor, const QRect& donde, const QString& titulo);
+} // namespace estilo
+
+// A green button. It is pressed by mouse, Space or Enter; any other key is its parent's.
+class BotonSuite : public QPushButton {
+    Q_OBJECT
+public:
+    BotonSuite(const QString& texto, QWidget* padre);
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* evento) override;
+    void keyPressEvent(QKeyEvent* evento) override;
+};
+
+// A dialog without the desktop's frame; its title band moves it.
+class DialogoSuite : public QDialog {
+    Q_OBJECT
+public:
+    DialogoSuite(const QString& titulo, QWidget* padre);
+    // Centred in a place of the screen, never with its upper edge or left edge outside it.
+    void CentraEn(const QRect& donde);
+
+protected:
+    void paintEvent(QPaintEvent* evento) override;
+    void mousePressEvent(QMouseEvent* evento) override;
+};

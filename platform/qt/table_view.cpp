@@ -1,0 +1,136 @@
+#include "platform/qt/table_view.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QTimer>
+#include <cmath>
+#include <utility>
+
+#include "platform/qt/control_view.h"
+#include "platform/qt/pointers.h"
+
+namespace {
+constexpr int kAnchoMinimo = 800, kAltoMinimo = 600;
+} // namespace
+
+CapaVuelo::CapaVuelo(QWidget* padre, Imagenes& imagenes) : QWidget(padre), imagenes_(imagenes) {
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    setFocusPolicy(Qt::NoFocus);
+}
+
+void CapaVuelo::Vuela(int x, int y, const ImagenCarta& carta) {
+    sucio_ += Caja();
+    if (carta != carta_) {
+        carta_ = carta;
+        imagen_ = imagenes_.Carta(carta);
+    }
+    donde_ = {imagenes_.Px(x), imagenes_.Px(y)};
+    sucio_ += Caja();
+}
+
+void CapaVuelo::Posa() {
+    sucio_ += Caja();
+    carta_.reset();
+    imagen_ = {};
+}
+
+void CapaVuelo::AdaptaRatio() {
+    Posa();
+    sucio_ = {};
+}
+
+QRegion CapaVuelo::TomaSucio() {
+    return std::exchange(sucio_, {});
+}
+
+void CapaVuelo::paintEvent(QPaintEvent*) {
+    if (imagen_.isNull())
+        return;
+    QPainter p(this);
+    p.scale(1 / imagenes_.Ratio(), 1 / imagenes_.Ratio());
+    p.drawImage(donde_, imagen_);
+}
+
+VistaMesa::VistaMesa(Imagenes& imagenes, ColaEventos& cola)
+    : imagenes_(imagenes), cola_(cola), lienzo_(imagenes, Fondo::Fieltro), vuelo_(this, imagenes) {
+    setObjectName(QString::fromUtf8(NombreDe(Control::Mesa)));
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setMinimumSize(kAnchoMinimo, kAltoMinimo);
+    setMouseTracking(true);
+    setFocusPolicy(Qt::StrongFocus);
+    setAccessibleName(QStringLiteral("Mesa de juego"));
+}
+
+void VistaMesa::PonPuntero(Puntero puntero) {
+    puntero_ = puntero;
+    setCursor(CursorDe(puntero));
+}
+
+void VistaMesa::paintEvent(QPaintEvent* evento) {
+    QPainter p(this);
+    PintaCuadro(p, lienzo_.Cuadro(), imagenes_.Ratio(), evento->rect());
+    if (ratio_pedido_ || devicePixelRatioF() == imagenes_.Ratio())
+        return;
+    ratio_pedido_ = true;
+    QTimer::singleShot(0, this, [this] {
+        ratio_pedido_ = false;
+        if (al_cambiar_ratio)
+            al_cambiar_ratio();
+    });
+}
+
+void VistaMesa::resizeEvent(QResizeEvent*) {
+    lienzo_.PonTamano(size(), true);
+    vuelo_.setGeometry(rect());
+    Evento tamano;
+    tamano.tipo = TipoEvento::Tamano;
+    tamano.x = width();
+    tamano.y = height();
+    cola_.Pon(tamano);
+}
+
+void VistaMesa::Avisa(TipoEvento tipo, const QMouseEvent& evento) {
+    Evento raton;
+    raton.tipo = tipo;
+    raton.x = static_cast<int>(std::floor(evento.position().x()));
+    raton.y = static_cast<int>(std::floor(evento.position().y()));
+    raton.boton = evento.button() == Qt::RightButton ? 2 : 1;
+    cola_.Pon(raton);
+}
+
+// The game takes the pointer's shape for what a click will do, so that every press comes with a move to its
+// own place ahead of it.
+void VistaMesa::mousePressEvent(QMouseEvent* evento) {
+    if (evento->button() != Qt::LeftButton && evento->button() != Qt::RightButton)
+        return;
+    Avisa(TipoEvento::RatonMueve, *evento);
+    Avisa(TipoEvento::RatonPulsa, *evento);
+}
+
+void VistaMesa::mouseDoubleClickEvent(QMouseEvent* evento) {
+    mousePressEvent(evento);
+}
+
+void VistaMesa::mouseReleaseEvent(QMouseEvent* evento) {
+    if (evento->button() != Qt::LeftButton && evento->button() != Qt::RightButton)
+        return;
+    Avisa(TipoEvento::RatonSuelta, *evento);
+    if (rect().contains(evento->position().toPoint()))
+        Avisa(TipoEvento::RatonClic, *evento);
+}
+
+void VistaMesa::mouseMoveEvent(QMouseEvent* evento) {
+    Avisa(TipoEvento::RatonMueve, *evento);
+}
+
+void VistaMesa::keyPressEvent(QKeyEvent* evento) {
+    const auto caracter = CaracterDe(*evento);
+    if (!caracter)
+        return QWidget::keyPressEvent(evento);
+    Evento tecla;
+    tecla.tipo = TipoEvento::Tecla;
+    tecla.tecla = *caracter;
+    cola_.Pon(tecla);
+}

@@ -1,0 +1,66 @@
+#pragma once
+// The felt: one widget with a retained picture, and above it the layer of the card in flight.
+
+#include <QWidget>
+#include <functional>
+#include <optional>
+
+#include "platform/qt/canvas_qt.h"
+#include "platform/qt/event_queue.h"
+
+// Only the box of the card is ever repainted. The mouse passes through.
+class CapaVuelo : public QWidget {
+public:
+    CapaVuelo(QWidget* padre, Imagenes& imagenes);
+
+    // Table pixels of the card's corner.
+    void Vuela(int x, int y, const ImagenCarta& carta);
+    void Posa();
+    void AdaptaRatio();
+    // The device pixels that have changed since the last call.
+    QRegion TomaSucio();
+
+protected:
+    void paintEvent(QPaintEvent* evento) override;
+
+private:
+    QRect Caja() const { return {donde_, imagen_.size()}; }
+
+    Imagenes& imagenes_;
+    std::optional<ImagenCarta> carta_;
+    QImage imagen_;
+    QPoint donde_;
+    QRegion sucio_;
+};
+
+class VistaMesa : public QWidget {
+    Q_OBJECT
+public:
+    VistaMesa(Imagenes& imagenes, ColaEventos& cola);
+
+    LienzoRetenido& ElLienzo() { return lienzo_; }
+    CapaVuelo& ElVuelo() { return vuelo_; }
+    void PonPuntero(Puntero puntero);
+    Puntero ElPuntero() const { return puntero_; }
+    // Called, outside of painting, when the screen has another pixel ratio than the pictures.
+    std::function<void()> al_cambiar_ratio;
+
+protected:
+    void paintEvent(QPaintEvent* evento) override;
+    void resizeEvent(QResizeEvent* evento) override;
+    void mousePressEvent(QMouseEvent* evento) override;
+    void mouseReleaseEvent(QMouseEvent* evento) override;
+    void mouseMoveEvent(QMouseEvent* evento) override;
+    void mouseDoubleClickEvent(QMouseEvent* evento) override;
+    void keyPressEvent(QKeyEvent* evento) override;
+
+private:
+    void Avisa(TipoEvento tipo, const QMouseEvent& evento);
+
+    Imagenes& imagenes_;
+    ColaEventos& cola_;
+    LienzoRetenido lienzo_;
+    CapaVuelo vuelo_;
+    Puntero puntero_ = Puntero::Flecha;
+    bool ratio_pedido_ = false;
+};
