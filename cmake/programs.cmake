@@ -3,6 +3,7 @@
 if(TARGET zovin_qt AND EXISTS "${CMAKE_SOURCE_DIR}/platform/qt/app_main.cpp")
   add_executable(zovin platform/qt/app_main.cpp)
   set_target_properties(zovin PROPERTIES AUTOMOC ON)
+  target_compile_definitions(zovin PRIVATE ZOVIN_VERSION="${PROJECT_VERSION}")
   target_link_libraries(zovin PRIVATE zovin_qt)
   if(TARGET zovin_sound)
     add_dependencies(zovin zovin_sound)

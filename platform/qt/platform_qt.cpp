@@ -11,6 +11,7 @@
 #include "platform/qt/help_viewer.h"
 #include "platform/qt/message_box.h"
 #include "platform/qt/places.h"
+#include "platform/qt/sheet_images.h"
 #include "platform/qt/sound.h"
 #include "platform/qt/splash.h"
 #include "table/layout.h"
@@ -112,10 +113,20 @@ int PlataformaQt::AltoVentana() const {
     return mesa_->height();
 }
 
+int PlataformaQt::AnchoEscritorio() const {
+    return QGuiApplication::primaryScreen()->size().width();
+}
+
+int PlataformaQt::AltoEscritorio() const {
+    return QGuiApplication::primaryScreen()->size().height();
+}
+
 void PlataformaQt::MuestraCareta() {
     careta_ = std::make_unique<Careta>();
     careta_->Aparece();
-    QCoreApplication::processEvents();
+    // The sheet takes its time to read: the splash's pause has it to spare.
+    QTimer::singleShot(0, this, [this] { PreparaLamina(imagenes_.Ratio()); });
+    QCoreApplication::processEvents(QEventLoop::AllEvents, 0);
 }
 
 void PlataformaQt::MuestraMesa() {

@@ -44,6 +44,8 @@ public:
     bool HayPantalla() const override { return true; }
     int AnchoVentana() const override;
     int AltoVentana() const override;
+    int AnchoEscritorio() const override;
+    int AltoEscritorio() const override;
 
     void MuestraCareta() override;
     void MuestraMesa() override;

@@ -30,12 +30,21 @@ Hoja LeeHoja(double ratio) {
     return hoja;
 }
 
-} // namespace
-
-const QImage& PiezaDe(const lamina::Recorte& recorte, double ratio) {
+const Hoja& HojaPara(double ratio) {
     static Hoja hoja;
     if (hoja.ratio != ratio)
         hoja = LeeHoja(ratio);
+    return hoja;
+}
+
+} // namespace
+
+void PreparaLamina(double ratio) {
+    HojaPara(ratio);
+}
+
+const QImage& PiezaDe(const lamina::Recorte& recorte, double ratio) {
+    const Hoja& hoja = HojaPara(ratio);
     const auto pieza = std::ranges::find(lamina::kPiezas, recorte, &lamina::Pieza::sitio);
     if (pieza == lamina::kPiezas.end())
         throw std::logic_error("recorte que no es una pieza de la lámina");

@@ -5,6 +5,9 @@
 
 #include "table/sheet_layout.h"
 
-// A piece of the sheet, its size in device pixels rounded up. The whole sheet is read at the first call for
-// a ratio; what was ready for another ratio is dropped. std::logic_error for what is no piece.
+// Reads the whole sheet for a ratio; what was ready for another ratio is dropped.
+void PreparaLamina(double ratio);
+
+// A piece of the sheet, its size in device pixels rounded up; the first call prepares the sheet.
+// std::logic_error for what is no piece.
 const QImage& PiezaDe(const lamina::Recorte& recorte, double ratio);

@@ -1,0 +1,115 @@
+// The program: a window with the table in it, or a demonstration without a window.
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QIcon>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QMessageBox>
+#include <QTranslator>
+#include <algorithm>
+#include <cstdio>
+#include <cstring>
+#include <exception>
+
+#include "core/entry.h"
+#include "platform/qt/demo.h"
+#include "platform/qt/places.h"
+#include "platform/qt/platform_qt.h"
+#include "platform/qt/termination.h"
+
+namespace {
+
+constexpr const char* kOpcionDemo = "demo";
+
+bool Pide(int argc, char** argv, std::initializer_list<const char*> opciones) {
+    return std::any_of(argv + 1, argv + argc, [&](const char* palabra) {
+        return std::ranges::any_of(
+            opciones, [&](const char* opcion) { return std::strcmp(palabra, opcion) == 0; });
+    });
+}
+
+// What has to be settled before Qt looks for a screen. False when there is none to play on.
+bool PreparaEntorno(int argc, char** argv) {
+    // The table is painted without OpenGL; its libraries would only take memory.
+    if (!qEnvironmentVariableIsSet("QT_XCB_GL_INTEGRATION"))
+        qputenv("QT_XCB_GL_INTEGRATION", "none");
+    const bool sin_ventana = Pide(argc, argv, {"--demo", "--help", "-h", "--version", "-v"});
+    const bool hay_pantalla = qEnvironmentVariableIsSet("QT_QPA_PLATFORM") ||
+                              !qEnvironmentVariableIsEmpty("DISPLAY") ||
+                              !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+    if (sin_ventana)
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    return sin_ventana || hay_pantalla;
+}
+
+void Presenta(QApplication& programa) {
+    programa.setApplicationName(QStringLiteral("zovin"));
+    programa.setApplicationDisplayName(QStringLiteral("Zovin"));
+    programa.setApplicationVersion(QStringLiteral(ZOVIN_VERSION));
+    programa.setDesktopFileName(QStringLiteral("local.zovin.Zovin"));
+    programa.setQuitOnLastWindowClosed(false);
+    QIcon icono;
+    for (const int lado : {16, 32, 48, 64, 128})
+        icono.addFile(QStringLiteral(":/arte/zovin-%1.png").arg(lado), QSize(lado, lado));
+    programa.setWindowIcon(icono);
+}
+
+// Qt's own words, as in the file dialogs, in the program's language.
+void HablaEspanol(QTranslator& traductor) {
+    QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain));
+    if (traductor.load(QStringLiteral("qtbase_es"),
+                       QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(&traductor);
+}
+
+bool QuiereDemo(const QApplication& programa) {
+    QCommandLineParser opciones;
+    opciones.setApplicationDescription(QStringLiteral(
+        "Seis juegos de cartas en una mesa: Póker, Black Jack, Tute, Brisca, Siete y media y "
+        "Cinquillo."));
+    opciones.addHelpOption();
+    opciones.addVersionOption();
+    opciones.addOption({QString::fromLatin1(kOpcionDemo),
+                        QStringLiteral("Juega sin ventana una partida de muestra de cada juego, "
+                                       "cuenta las manos y deja la mesa pintada en partida.png.")});
+    opciones.process(programa);
+    return opciones.isSet(QString::fromLatin1(kOpcionDemo));
+}
+
+int JuegaEnVentana(const QString& carpeta) {
+    PlataformaQt escritorio(carpeta);
+    UsaPlataforma(escritorio);
+    const AvisoDeFin fin([&escritorio] { escritorio.PideTermina(); });
+    return ArrancaPrograma();
+}
+
+void CuentaFallo(const char* motivo) {
+    std::fprintf(stderr, "zovin: %s\n", motivo);
+    if (QGuiApplication::platformName() == QStringLiteral("offscreen"))
+        return;
+    QMessageBox::critical(nullptr, QStringLiteral("Zovin no puede continuar"),
+                          QString::fromUtf8(motivo));
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (!PreparaEntorno(argc, argv)) {
+        std::fputs("zovin: no hay pantalla (ni DISPLAY ni WAYLAND_DISPLAY). Con --demo se juega "
+                   "sin ella.\n",
+                   stderr);
+        return 1;
+    }
+    QApplication programa(argc, argv);
+    Presenta(programa);
+    QTranslator traductor;
+    HablaEspanol(traductor);
+    try {
+        const QString carpeta = CarpetaDeArranque(QString::fromLocal8Bit(argv[0]));
+        return QuiereDemo(programa) ? JuegaDemo(carpeta) : JuegaEnVentana(carpeta);
+    } catch (const std::exception& fallo) {
+        CuentaFallo(fallo.what());
+        return 1;
+    }
+}
