@@ -23,7 +23,7 @@ function(zovin_sources variable)
   set(${variable} "${found}" PARENT_SCOPE)
 endfunction()
 
-zovin_sources(logic_sources EXCLUDE "_view\\.cpp$"
+zovin_sources(logic_sources EXCLUDE "/(forms|reports)/[^/]*_view\\.cpp$"
   PATTERNS core/*.cpp table/*.cpp betting/*.cpp games/**/*.cpp forms/*.cpp reports/*.cpp
            platform/*.cpp platform/headless/*.cpp)
 if(logic_sources)
