@@ -89,8 +89,8 @@ void LienzoQt::Borde(const Rectangulo& d, Color color, int grueso) {
 void LienzoQt::Linea(int x1, int y1, int x2, int y2, Color color, int grueso) {
     const int g = std::max(1, grueso);
     const int fuera = (g - 1) / 2;
-    const Rectangulo caja{std::min(x1, x2) - fuera, std::min(y1, y2) - fuera,
-                          std::abs(x2 - x1) + g, std::abs(y2 - y1) + g};
+    const Rectangulo caja{std::min(x1, x2) - fuera, std::min(y1, y2) - fuera, std::abs(x2 - x1) + g,
+                          std::abs(y2 - y1) + g};
     if (x1 == x2 || y1 == y2)
         return Caja(caja, color);
     const double r = imagenes_.Ratio();

@@ -169,8 +169,8 @@ QImage Imagenes::Derecha(const ImagenCarta& carta) const {
     if (carta.palo < 1 || carta.palo > kFilas || carta.valor < 1 || carta.valor > columnas_)
         return {};
     const QSize celda = TamanoCarta();
-    return baraja_.copy(QRect(
-        QPoint((carta.valor - 1) * celda.width(), (carta.palo - 1) * celda.height()), celda));
+    return baraja_.copy(
+        QRect(QPoint((carta.valor - 1) * celda.width(), (carta.palo - 1) * celda.height()), celda));
 }
 
 QImage Imagenes::Carta(const ImagenCarta& carta) const {
@@ -183,7 +183,6 @@ QImage Imagenes::Carta(const ImagenCarta& carta) const {
 
 QImage Imagenes::MiniCarta(const ImagenCarta& carta, const QSize& tamano) const {
     const QImage entera = Carta(carta);
-    return entera.isNull()
-               ? entera
-               : entera.scaled(tamano, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    return entera.isNull() ? entera
+                           : entera.scaled(tamano, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }

@@ -43,7 +43,7 @@ private:
     double ratio_;
     QString ruta_;
     int columnas_ = 0;
-    QImage baraja_; // the cells side by side, each TamanoCarta
+    QImage baraja_;                              // the cells side by side, each TamanoCarta
     mutable QImage dorso_, comodin1_, comodin2_; // read when first drawn
     QImage fieltro_;
 };

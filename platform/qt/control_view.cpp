@@ -39,8 +39,7 @@ bool SigueElRaton(Control control) {
 class AccesoControl : public QAccessibleWidget {
 public:
     explicit AccesoControl(VistaControl* vista)
-        : QAccessibleWidget(vista,
-                            vista->EsBoton() ? QAccessible::Button : QAccessible::Pane) {}
+        : QAccessibleWidget(vista, vista->EsBoton() ? QAccessible::Button : QAccessible::Pane) {}
 
     QAccessible::State state() const override {
         QAccessible::State estado = QAccessibleWidget::state();
@@ -83,15 +82,18 @@ void PintaCuadro(QPainter& pintor, const QImage& cuadro, double ratio, const QRe
 
 VistaControl::VistaControl(Control control, int indice, QWidget* padre, Imagenes& imagenes,
                            ColaEventos& cola)
-    : QWidget(padre), control_(control), indice_(indice), cola_(cola), imagenes_(imagenes),
+    : QWidget(padre),
+      control_(control),
+      indice_(indice),
+      cola_(cola),
+      imagenes_(imagenes),
       lienzo_(imagenes, Fondo::Claro) {
     setObjectName(QString::fromUtf8(NombreDe(control)));
     setVisible(false);
     setFocusPolicy(EsBoton() ? Qt::TabFocus : Qt::NoFocus);
     setMouseTracking(SigueElRaton(control));
     const Trato trato = TratoDe(control);
-    setAttribute(Qt::WA_TransparentForMouseEvents,
-                 trato == Trato::Placa || trato == Trato::Movil);
+    setAttribute(Qt::WA_TransparentForMouseEvents, trato == Trato::Placa || trato == Trato::Movil);
 }
 
 bool VistaControl::EsBoton() const {

@@ -162,12 +162,14 @@ void VistaAyuda::Busca(const QString& palabras) {
     const QStringList claves = Plano(palabras).split(u' ', Qt::SkipEmptyParts);
     for (auto rama = ramas_.begin(); rama != ramas_.end(); ++rama) {
         const bool tiene = std::ranges::all_of(claves, [&](const QString& clave) {
-            return Plano(rama.value()->text(0)).contains(clave) || TextoDe(rama.key()).contains(clave);
+            return Plano(rama.value()->text(0)).contains(clave) ||
+                   TextoDe(rama.key()).contains(clave);
         });
         rama.value()->setHidden(!tiene);
     }
     for (QTreeWidgetItem* rama : std::as_const(ramas_)) {
-        for (auto* madre = rama->parent(); !rama->isHidden() && madre != nullptr; madre = madre->parent())
+        for (auto* madre = rama->parent(); !rama->isHidden() && madre != nullptr;
+             madre = madre->parent())
             madre->setHidden(false);
     }
 }

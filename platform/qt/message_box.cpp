@@ -85,7 +85,8 @@ CajaQt::CajaQt(const CajaMensaje& caja, QWidget* padre)
     columna->addWidget(texto, 1, Qt::AlignTop);
     PonBotones(caja);
 
-    const int alto = std::max(kAltoPorLinea * caja.lineas + kAltoBase, kAltoSinTexto + alto_texto + 4);
+    const int alto =
+        std::max(kAltoPorLinea * caja.lineas + kAltoBase, kAltoSinTexto + alto_texto + 4);
     setFixedSize(kAnchoTexto + 2 * kMargen, alto);
 }
 

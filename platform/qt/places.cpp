@@ -18,8 +18,7 @@ QString PrimeroQueHay(const QStringList& sitios) {
 } // namespace
 
 QString CarpetaDeArranque(const QString& orden) {
-    const QString programa =
-        orden.contains(u'/') ? orden : QStandardPaths::findExecutable(orden);
+    const QString programa = orden.contains(u'/') ? orden : QStandardPaths::findExecutable(orden);
     if (programa.isEmpty() || !QFileInfo::exists(programa))
         return QCoreApplication::applicationDirPath();
     return QFileInfo(programa).absolutePath();

@@ -35,7 +35,8 @@ QRegion ALaMesa(const QRegion& dispositivo, double ratio) {
 } // namespace
 
 PlataformaQt::PlataformaQt(const QString& carpeta)
-    : carpeta_(carpeta), imagenes_(qApp->devicePixelRatio()),
+    : carpeta_(carpeta),
+      imagenes_(qApp->devicePixelRatio()),
       mesa_(new VistaMesa(imagenes_, cola_)) {
     reloj_.start();
     despertador_.setSingleShot(true);
@@ -99,8 +100,8 @@ void PlataformaQt::DuermeHasta(Milisegundos momento) {
         despertador_.start(static_cast<int>(falta - kRemate));
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }
-    const auto resto = std::chrono::milliseconds(momento) -
-                       std::chrono::nanoseconds(reloj_.nsecsElapsed());
+    const auto resto =
+        std::chrono::milliseconds(momento) - std::chrono::nanoseconds(reloj_.nsecsElapsed());
     if (resto > std::chrono::nanoseconds::zero())
         std::this_thread::sleep_for(resto);
 }
@@ -201,8 +202,7 @@ Puntero PlataformaQt::PunteroDe(Control control, int indice) const {
 }
 
 void PlataformaQt::Nombra(Control control, int indice, std::string_view nombre) {
-    const QString letras =
-        QString::fromUtf8(nombre.data(), static_cast<qsizetype>(nombre.size()));
+    const QString letras = QString::fromUtf8(nombre.data(), static_cast<qsizetype>(nombre.size()));
     if (control == Control::Mesa)
         mesa_->setAccessibleName(letras);
     else

@@ -27,8 +27,8 @@ QPixmap DibujoPara(const QString& archivo, double ratio) {
 }
 
 QCursor Dibujado(const lamina::Puntero& puntero) {
-    const QString archivo = QString::fromUtf8(puntero.archivo.data(),
-                                              static_cast<qsizetype>(puntero.archivo.size()));
+    const QString archivo =
+        QString::fromUtf8(puntero.archivo.data(), static_cast<qsizetype>(puntero.archivo.size()));
     return QCursor(DibujoPara(archivo, qApp->devicePixelRatio()), puntero.puntaX, puntero.puntaY);
 }
 

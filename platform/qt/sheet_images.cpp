@@ -22,8 +22,8 @@ QImage Corta(const QImage& hoja, const lamina::Recorte& sitio, double ratio) {
 }
 
 Hoja LeeHoja(double ratio) {
-    const QImage entera =
-        QImage(QStringLiteral(":/arte/laminas.png")).convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    const QImage entera = QImage(QStringLiteral(":/arte/laminas.png"))
+                              .convertToFormat(QImage::Format_ARGB32_Premultiplied);
     Hoja hoja{.ratio = ratio, .piezas = {}};
     for (std::size_t i = 0; i < hoja.piezas.size(); ++i)
         hoja.piezas[i] = Corta(entera, lamina::kPiezas[i].sitio, ratio);

@@ -15,7 +15,7 @@ constexpr int kAbanico = 5;
 constexpr QSizeF kNaipe(74, 104);
 
 const QStringList& Juegos() {
-    static const QStringList juegos{"Póker", "Black Jack",     "Tute",
+    static const QStringList juegos{"Póker",  "Black Jack",    "Tute",
                                     "Brisca", "Siete y media", "Cinquillo"};
     return juegos;
 }

@@ -69,8 +69,8 @@ private Q_SLOTS:
                 const bool tumbada = orientacion % 2 == 0;
                 mesa.Carta(x, y, carta);
                 QVERIFY(!Diferencia(mesa.Cuadro(), limpia).isEmpty());
-                mesa.Fieltro({x, y, tumbada ? kAltoCarta : kAnchoCarta,
-                              tumbada ? kAnchoCarta : kAltoCarta});
+                mesa.Fieltro(
+                    {x, y, tumbada ? kAltoCarta : kAnchoCarta, tumbada ? kAnchoCarta : kAltoCarta});
                 QCOMPARE(Diferencia(mesa.Cuadro(), limpia), QRect());
             }
         }

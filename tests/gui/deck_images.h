@@ -18,8 +18,8 @@ inline QImage BarajaDeColores(int columnas, int k = 1) {
     QPainter p(&baraja);
     for (int palo = 1; palo <= 4; ++palo) {
         for (int valor = 1; valor <= columnas; ++valor)
-            p.fillRect((valor - 1) * kAnchoCarta * k, (palo - 1) * kAltoCarta * k,
-                       kAnchoCarta * k, kAltoCarta * k, ColorDeCarta(palo, valor));
+            p.fillRect((valor - 1) * kAnchoCarta * k, (palo - 1) * kAltoCarta * k, kAnchoCarta * k,
+                       kAltoCarta * k, ColorDeCarta(palo, valor));
     }
     return baraja;
 }
