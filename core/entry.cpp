@@ -104,6 +104,7 @@ int ArrancaPrograma() {
     Pausa(800);
     estado.PrimeraVez = true;
     plataforma().MuestraMesa();
+    CambiaTamano(); // the desktop has had its say about the window's size
     IniciarSesion();
     BucleSesion();
     return sesion.estado_salida;

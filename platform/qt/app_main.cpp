@@ -45,7 +45,6 @@ bool PreparaEntorno(int argc, char** argv) {
 
 void Presenta(QApplication& programa) {
     programa.setApplicationName(QStringLiteral("zovin"));
-    programa.setApplicationDisplayName(QStringLiteral("Zovin"));
     programa.setApplicationVersion(QStringLiteral(ZOVIN_VERSION));
     programa.setDesktopFileName(QStringLiteral("local.zovin.Zovin"));
     programa.setQuitOnLastWindowClosed(false);

@@ -57,6 +57,7 @@ int JuegaDemo(const QString& carpeta) {
     mesa.siempre_continua = true;
     RegistraDespacho(DespachaEvento);
     PonValoresPorDefecto();
+    estado.SaltoLinea = "\r\n";
     estado.CarpetaPrograma = carpeta.toStdString();
     estado.CarpetaTrabajo = estado.CarpetaPrograma;
     CalcularMesa();

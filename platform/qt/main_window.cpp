@@ -32,6 +32,8 @@ VentanaPrincipal::VentanaPrincipal(QWidget* mesa) {
     setMinimumSize(kMinimo);
     resize(QApplication::primaryScreen()->availableSize());
     RecuerdaSitio();
+    // The game lays its table out before the window is seen.
+    mesa->resize(size().expandedTo(mesa->minimumSize()));
 }
 
 void VentanaPrincipal::RecuerdaSitio() {

@@ -24,7 +24,7 @@ constexpr Fuente kLetra{.alto = 14};
 
 // Breaks the text into lines of the given width and answers their height.
 int Compone(QTextLayout& texto, int ancho) {
-    QTextOption opcion(Qt::AlignJustify);
+    QTextOption opcion(Qt::AlignLeft);
     opcion.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     texto.setTextOption(opcion);
     texto.beginLayout();
@@ -36,6 +36,27 @@ int Compone(QTextLayout& texto, int ancho) {
     }
     texto.endLayout();
     return alto;
+}
+
+bool CierraParrafo(const QString& texto, const QTextLine& linea) {
+    const int fin = linea.textStart() + linea.textLength();
+    return fin >= texto.size() || texto[fin - 1] == QChar::LineSeparator;
+}
+
+// The words of a line at even distances over the whole width.
+void PintaLlena(QPainter& p, const QString& linea, const QPointF& base, int ancho) {
+    const QFontMetricsF medida(p.font());
+    const QStringList palabras = linea.split(u' ', Qt::SkipEmptyParts);
+    double letras = 0;
+    for (const QString& palabra : palabras)
+        letras += medida.horizontalAdvance(palabra);
+    const double hueco =
+        palabras.size() < 2 ? 0 : (ancho - letras) / static_cast<double>(palabras.size() - 1);
+    QPointF donde = base;
+    for (const QString& palabra : palabras) {
+        p.drawText(donde, palabra);
+        donde.rx() += medida.horizontalAdvance(palabra) + hueco;
+    }
 }
 
 QString Parrafos(QString texto) {
@@ -65,7 +86,15 @@ void TextoMensaje::paintEvent(QPaintEvent*) {
     Compone(compuesto, width());
     QPainter p(this);
     p.setPen(estilo::kTinta);
-    compuesto.draw(&p, QPointF(0, 0));
+    for (int i = 0; i < compuesto.lineCount(); ++i) {
+        const QTextLine linea = compuesto.lineAt(i);
+        const QString letras = compuesto.text().mid(linea.textStart(), linea.textLength());
+        const QPointF base = linea.position() + QPointF(0, linea.ascent());
+        if (CierraParrafo(compuesto.text(), linea))
+            p.drawText(base, letras);
+        else
+            PintaLlena(p, letras, base, width());
+    }
 }
 
 CajaQt::CajaQt(const CajaMensaje& caja, QWidget* padre)

@@ -9,8 +9,8 @@
 // The answer of a box that is closed without a button.
 Boton BotonAlCerrar(int modo);
 
-// Text as the messages bring it: blanks kept, lines wrapped at words, every line of a paragraph but its
-// last drawn out to the full width, as its author did by hand with double blanks.
+// Text as the messages bring it: its blanks decide where lines break, and every line of a paragraph but its
+// last is drawn out to the full width, which is what its author did by hand with double blanks.
 class TextoMensaje : public QLabel {
     Q_OBJECT
 public:

@@ -35,9 +35,7 @@ QRegion ALaMesa(const QRegion& dispositivo, double ratio) {
 } // namespace
 
 PlataformaQt::PlataformaQt(const QString& carpeta)
-    : carpeta_(carpeta),
-      imagenes_(qApp->devicePixelRatio()),
-      mesa_(new VistaMesa(imagenes_, cola_)) {
+    : carpeta_(carpeta), imagenes_(qApp->devicePixelRatio()), mesa_(new Tapete(imagenes_, cola_)) {
     reloj_.start();
     despertador_.setSingleShot(true);
     despertador_.setTimerType(Qt::PreciseTimer);

@@ -10,8 +10,8 @@
 
 #include "platform/platform.h"
 #include "platform/qt/control_view.h"
+#include "platform/qt/felt.h"
 #include "platform/qt/main_window.h"
-#include "platform/qt/table_view.h"
 
 class QDialog;
 class VistaAyuda;
@@ -91,7 +91,7 @@ private:
     ColaEventos cola_;
     Imagenes imagenes_;
     std::unique_ptr<VentanaPrincipal> ventana_;
-    VistaMesa* mesa_;
+    Tapete* mesa_;
     std::map<std::pair<Control, int>, VistaControl*> vistas_;
     std::map<Forma, AbreForma> formas_;
     std::unique_ptr<Careta> careta_;

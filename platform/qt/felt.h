@@ -33,10 +33,10 @@ private:
     QRegion sucio_;
 };
 
-class VistaMesa : public QWidget {
+class Tapete : public QWidget {
     Q_OBJECT
 public:
-    VistaMesa(Imagenes& imagenes, ColaEventos& cola);
+    Tapete(Imagenes& imagenes, ColaEventos& cola);
 
     LienzoRetenido& ElLienzo() { return lienzo_; }
     CapaVuelo& ElVuelo() { return vuelo_; }

@@ -1,4 +1,4 @@
-#include "platform/qt/table_view.h"
+#include "platform/qt/felt.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -53,7 +53,7 @@ void CapaVuelo::paintEvent(QPaintEvent*) {
     p.drawImage(donde_, imagen_);
 }
 
-VistaMesa::VistaMesa(Imagenes& imagenes, ColaEventos& cola)
+Tapete::Tapete(Imagenes& imagenes, ColaEventos& cola)
     : imagenes_(imagenes), cola_(cola), lienzo_(imagenes, Fondo::Fieltro), vuelo_(this, imagenes) {
     setObjectName(QString::fromUtf8(NombreDe(Control::Mesa)));
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -63,12 +63,12 @@ VistaMesa::VistaMesa(Imagenes& imagenes, ColaEventos& cola)
     setAccessibleName(QStringLiteral("Mesa de juego"));
 }
 
-void VistaMesa::PonPuntero(Puntero puntero) {
+void Tapete::PonPuntero(Puntero puntero) {
     puntero_ = puntero;
     setCursor(CursorDe(puntero));
 }
 
-void VistaMesa::paintEvent(QPaintEvent* evento) {
+void Tapete::paintEvent(QPaintEvent* evento) {
     QPainter p(this);
     PintaCuadro(p, lienzo_.Cuadro(), imagenes_.Ratio(), evento->rect());
     if (ratio_pedido_ || devicePixelRatioF() == imagenes_.Ratio())
@@ -81,7 +81,7 @@ void VistaMesa::paintEvent(QPaintEvent* evento) {
     });
 }
 
-void VistaMesa::resizeEvent(QResizeEvent*) {
+void Tapete::resizeEvent(QResizeEvent*) {
     lienzo_.PonTamano(size(), true);
     vuelo_.setGeometry(rect());
     Evento tamano;
@@ -91,7 +91,7 @@ void VistaMesa::resizeEvent(QResizeEvent*) {
     cola_.Pon(tamano);
 }
 
-void VistaMesa::Avisa(TipoEvento tipo, const QMouseEvent& evento) {
+void Tapete::Avisa(TipoEvento tipo, const QMouseEvent& evento) {
     Evento raton;
     raton.tipo = tipo;
     raton.x = static_cast<int>(std::floor(evento.position().x()));
@@ -102,18 +102,18 @@ void VistaMesa::Avisa(TipoEvento tipo, const QMouseEvent& evento) {
 
 // The game takes the pointer's shape for what a click will do, so that every press comes with a move to its
 // own place ahead of it.
-void VistaMesa::mousePressEvent(QMouseEvent* evento) {
+void Tapete::mousePressEvent(QMouseEvent* evento) {
     if (evento->button() != Qt::LeftButton && evento->button() != Qt::RightButton)
         return;
     Avisa(TipoEvento::RatonMueve, *evento);
     Avisa(TipoEvento::RatonPulsa, *evento);
 }
 
-void VistaMesa::mouseDoubleClickEvent(QMouseEvent* evento) {
+void Tapete::mouseDoubleClickEvent(QMouseEvent* evento) {
     mousePressEvent(evento);
 }
 
-void VistaMesa::mouseReleaseEvent(QMouseEvent* evento) {
+void Tapete::mouseReleaseEvent(QMouseEvent* evento) {
     if (evento->button() != Qt::LeftButton && evento->button() != Qt::RightButton)
         return;
     Avisa(TipoEvento::RatonSuelta, *evento);
@@ -121,11 +121,11 @@ void VistaMesa::mouseReleaseEvent(QMouseEvent* evento) {
         Avisa(TipoEvento::RatonClic, *evento);
 }
 
-void VistaMesa::mouseMoveEvent(QMouseEvent* evento) {
+void Tapete::mouseMoveEvent(QMouseEvent* evento) {
     Avisa(TipoEvento::RatonMueve, *evento);
 }
 
-void VistaMesa::keyPressEvent(QKeyEvent* evento) {
+void Tapete::keyPressEvent(QKeyEvent* evento) {
     const auto caracter = CaracterDe(*evento);
     if (!caracter)
         return QWidget::keyPressEvent(evento);
