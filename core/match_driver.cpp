@@ -101,6 +101,9 @@ void ReanudaPartida() {
 void IniciarTablas() {
     estado.PasoSentido = static_cast<Integer>(estado.SentidoJuego == kInverso ? -1 : 1);
     PonTablasDePalabras();
+    // Every seat shows its first serie until a hand says otherwise.
+    estado.SerieActual = 1;
+    estado.SerieEnJuego = 1;
     estado.JuegoConBanca = false;
     estado.EsperandoJugada = false;
     estado.TutorPulsado = false;

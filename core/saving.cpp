@@ -3,9 +3,12 @@
 #include "core/game_state.h"
 #include "core/session_state.h"
 #include "core/settings.h"
+#include "platform/platform.h"
 #include "table/messages.h"
 
 bool GuardarPartida() {
+    if (!plataforma().GuardaPartidas())
+        return true;
     const bool general = GrabarIniGeneral() == ErrorArchivo::Ninguno;
     const bool juego = GrabarIniJuego() == ErrorArchivo::Ninguno;
     if (general && juego) {

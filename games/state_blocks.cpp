@@ -11,6 +11,6 @@ void Instantanea::Repon() const {
 }
 
 void BorraEstado() {
-    const auto vacia = std::make_unique<const CopiaDeBloques>();
-    LosBloques() = *vacia;
+    static const auto kVacia = std::make_unique<const CopiaDeBloques>();
+    LosBloques() = *kVacia;
 }

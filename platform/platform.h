@@ -163,6 +163,9 @@ public:
     virtual void Ayuda(int tema) = 0; // 0 opens the help at its start
     virtual void Minimiza() = 0;
 
+    // False where nobody will ever go on with a match: it is then not written between hands.
+    virtual bool GuardaPartidas() const { return true; }
+
     // Folders end without a separator. CarpetaUsuario is the writable folder of the user.
     virtual Archivos& LosArchivos() = 0;
     virtual std::string CarpetaDelPrograma() const = 0;

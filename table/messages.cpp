@@ -159,6 +159,8 @@ void CierraSugerencia() {
 }
 
 double FactorPausa(int velocidad) {
+    if (velocidad == 100)
+        return 0;
     const double f = RedondeaA(std::pow((100 - velocidad) / 50.0, 1.5), 4);
     return f > 1 ? RedondeaA(f * f, 4) : f;
 }
