@@ -4,13 +4,15 @@
 
 #include <unordered_map>
 
+#include "core/game_state.h"
+#include "core/main_buttons.h"
 #include "core/match_driver.h"
 #include "core/random.h"
-#include "games/state_blocks.h"
 #include "table/deck.h"
 #include "table/table_ops.h"
 #include "table/trace.h"
 #include "table/waiting.h"
+#include "tools/common/fresh_table.h"
 #include "tools/sonda/field_access.h"
 #include "tools/sonda/procedures.h"
 
@@ -43,19 +45,6 @@ int CuantosDe(Control control) {
     default:
         return 0;
     }
-}
-
-// What a first run of the program finds, before the tables are set.
-void PonComienzo() {
-    BorraEstado();
-    sesion = {};
-    PonValoresPorDefecto();
-    estado.JuegoActivo = kPoker;
-    estado.VelocidadJuego = 50;
-    estado.SonidoActivo = false;
-    estado.CarpetaTrabajo = plataforma().CarpetaDelPrograma();
-    estado.CarpetaPrograma = plataforma().CarpetaDelPrograma();
-    estado.SaltoLinea = "\r\n";
 }
 
 } // namespace
@@ -114,11 +103,8 @@ void Consola::Eco(Lector& lector) {
 
 void Consola::Reinicia() {
     EscuchaTraza({});
-    VaciaColaAzar();
     mesa_.Limpia();
-    PonComienzo();
-    CalcularMesa();
-    IniciarTablas();
+    PonMesaNueva();
 }
 
 void Consola::Limpia(Lector& lector) {

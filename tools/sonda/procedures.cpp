@@ -4,14 +4,21 @@
 #include <unordered_map>
 
 #include "betting/chips.h"
+#include "betting/stakes.h"
 #include "core/game_state.h"
+#include "core/initial_draw.h"
+#include "core/main_buttons.h"
 #include "core/match_driver.h"
 #include "core/settings.h"
+#include "games/cinquillo/cinquillo.h"
+#include "games/cinquillo/cinquillo_choice.h"
 #include "games/common/hand_queries.h"
+#include "games/common/hands.h"
 #include "games/common/series.h"
 #include "table/deck.h"
 #include "table/layout.h"
 #include "table/messages.h"
+#include "table/options_menu.h"
 #include "table/table_input.h"
 #include "table/table_ops.h"
 
@@ -26,8 +33,8 @@ void RatonPulsa(int boton, int, int x, int y) {
     Form_MouseDown(boton, x, y);
 }
 
-void RatonSuelta(int, int, int x, int y) {
-    Form_MouseUp(x, y);
+void RatonSuelta(int, int, int, int) {
+    Form_MouseUp();
 }
 
 void Tecla(int tecla) {
@@ -57,8 +64,8 @@ const std::unordered_map<std::string, Llamada>& LaTabla() {
         {"IniciarTablas", Llama(&IniciarTablas)},
         {"ConfirmarNueva", Llama(&ConfirmarNueva)},
         {"ConfirmarSalida", Llama(&ConfirmarSalida)},
-        {"RestaurarApuestas", Llama(&RestaurarApuestas)},
-        {"RestauraMano", Llama(&RestaurarApuestas)},
+        {"RestaurarApuestas", Llama(&RestauraMano)},
+        {"RestauraMano", Llama(&RestauraMano)},
         {"GuardarYSalir", Llama(&GuardarYSalir)},
 
         // Settings files.
@@ -122,6 +129,10 @@ const std::unordered_map<std::string, Llamada>& LaTabla() {
         {"CuentaPalo", Llama(&CuentaPalo)},
         {"BuscaCarta", Llama(&BuscaCarta)},
         {"PotenciaCarta", Llama(&PotenciaCarta)},
+        {"IniciarJuego", LlamaPasos(+[] { return IniciarJuego(); })},
+        {"FinalPartida", Llama(&FinalPartida)},
+        {"ManoCinquillo", Llama(&ManoCinquillo)},
+        {"EligeCartaCinquillo", Llama(&EligeCartaCinquillo)},
     };
     return kTabla;
 }

@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <map>
+
 #include "games/state_blocks.h"
 
 namespace {
@@ -96,16 +98,16 @@ TEST_F(CamposPorNombre, LoQueNoExisteOSeSaleEsUnError) {
 }
 
 TEST_F(CamposPorNombre, ElEstadoEnteroVaEnElOrdenDeSuLista) {
-    Pon("PartidaEnCurso", true);
-    Pon("OrientacionAsiento(3)", 3.0);
-    Pon("CartaJugada(1,5)", 2.0);
-    std::vector<std::string> nombres;
-    VisitaEstado([&](const std::string& nombre, Hoja hoja) {
-        if (!EstaVacia(hoja))
-            nombres.push_back(nombre);
-    });
-    EXPECT_THAT(nombres,
-                ElementsAre("OrientacionAsiento(3)", "PartidaEnCurso", "CartaJugada(1,5)"));
+    std::map<std::string, std::size_t> sitio;
+    std::size_t cuantas = 0;
+    VisitaEstado([&](const std::string& nombre, Hoja) { sitio[nombre] = ++cuantas; });
+
+    EXPECT_EQ(sitio.size(), cuantas);
+    EXPECT_EQ(sitio["PasoSentido"], 1u);
+    EXPECT_LT(sitio["OrientacionAsiento(3)"], sitio["OrientacionAsiento(4)"]);
+    EXPECT_LT(sitio["OrientacionAsiento(4)"], sitio["PartidaEnCurso"]);
+    EXPECT_LT(sitio["PartidaEnCurso"], sitio["Juegos(2000).Total"]);
+    EXPECT_LT(sitio["Juegos(2000).Total"], sitio["CartaJugada(1,5)"]);
 }
 
 } // namespace

@@ -1,0 +1,172 @@
+#include "tools/simula/match.h"
+
+#include <fmt/format.h>
+
+#include <stdexcept>
+
+#include "core/main_buttons.h"
+#include "core/match_driver.h"
+#include "core/random.h"
+#include "games/state_blocks.h"
+#include "table/deck.h"
+#include "table/trace.h"
+#include "table/waiting.h"
+#include "tools/common/fresh_table.h"
+#include "tools/simula/invariants.h"
+
+namespace {
+
+// No file is there and every write succeeds without a trace.
+class ArchivosDeNadie : public Archivos {
+public:
+    Lectura Lee(const std::string&) override { return {ErrorArchivo::NoEncontrado, ""}; }
+    ErrorArchivo Escribe(const std::string&, std::string_view) override {
+        return ErrorArchivo::Ninguno;
+    }
+    bool Existe(const std::string&) override { return false; }
+    ErrorArchivo Borra(const std::string&) override { return ErrorArchivo::NoEncontrado; }
+    ErrorArchivo Renombra(const std::string&, const std::string&) override {
+        return ErrorArchivo::NoEncontrado;
+    }
+    ErrorArchivo CreaCarpeta(const std::string&) override { return ErrorArchivo::Ninguno; }
+};
+
+// Neighbouring numbers give seeds that have nothing in common.
+std::uint64_t SemillaDe(std::uint64_t semilla, std::int64_t n) {
+    std::uint64_t z = semilla + 0x9E3779B97F4A7C15u * (static_cast<std::uint64_t>(n) + 1);
+    z = (z ^ (z >> 30)) * 0xBF58476D1CE4E5B9u;
+    z = (z ^ (z >> 27)) * 0x94D049BB133111EBu;
+    return z ^ (z >> 31);
+}
+
+std::string NombreAlAzar() {
+    constexpr const char* kLetras[] = {"a", "e", "i", "o", "u", "r", "s", "n", "ñ", "á", "é", "Z"};
+    std::string nombre;
+    for (int quedan = AzarEntre(9); quedan > 0; --quedan)
+        nombre += kLetras[AzarEntre(12) - 1];
+    return nombre;
+}
+
+void SientaAlAzar() {
+    for (int asiento = 1; asiento <= 4; ++asiento) {
+        estado.NombreJugador(asiento) = NombreAlAzar();
+        estado.NivelJugador(asiento) = static_cast<Integer>(AzarEntre(101) - 1);
+        estado.CaracterJugador(asiento) = static_cast<Integer>(AzarEntre(3));
+    }
+    estado.SentidoJuego = static_cast<Integer>(AzarEntre(2));
+}
+
+bool SonDeAsientos(const std::vector<int>& numeros, int desde, int hasta) {
+    if (numeros.empty())
+        return true;
+    for (int numero : numeros) {
+        if (numero < desde || numero > hasta)
+            return false;
+    }
+    return numeros.size() == 4;
+}
+
+void Exige(bool cumple, const char* que) {
+    if (!cumple)
+        throw std::invalid_argument(que);
+}
+
+} // namespace
+
+MesaSimulada::MesaSimulada() {
+    siempre_continua = true;
+    registra = false;
+}
+
+Boton MesaSimulada::Pregunta(const CajaMensaje& caja) {
+    if (!estado.ManoEnCurso && estado.PartidaEnCurso && caja.titulo == "Final de la mano")
+        RevisaFinalDeMano();
+    return caja.modo == 2 ? Boton::No : Boton::Salir;
+}
+
+Archivos& MesaSimulada::LosArchivos() {
+    static ArchivosDeNadie nadie;
+    return nadie;
+}
+
+Simulacion::Simulacion(const OpcionesSimula& opciones) : opciones_(opciones) {
+    Exige(SonDeAsientos(opciones.niveles, 0, 100), "los niveles son cuatro, de 0 a 100");
+    Exige(SonDeAsientos(opciones.caracteres, 1, 3), "los caracteres son cuatro, de 1 a 3");
+    Exige(opciones.sentido == 1 || opciones.sentido == 2, "el sentido es 1 o 2");
+    Exige(opciones.asientos >= 2 && opciones.asientos <= 4, "los asientos son de 2 a 4");
+    Exige(opciones.limite >= 1 && opciones.limite <= 999, "el límite va de 1 a 999");
+    Exige(!opciones.parejas || opciones.asientos == 4, "las parejas son de cuatro asientos");
+    UsaPlataforma(mesa_);
+    RegistraDespacho(&DespachaEvento);
+    if (opciones_.firma) {
+        EscuchaTraza([this](const std::string& linea) {
+            if (linea.starts_with("MoverCarta("))
+                firma_.Anade(
+                    std::string_view(linea).substr(0, linea.find(',', linea.find(',') + 1)));
+        });
+    }
+}
+
+Simulacion::~Simulacion() {
+    EscuchaTraza({});
+}
+
+void Simulacion::PreparaPartida(std::int64_t n) {
+    PonMesaNueva();
+    FijaSemilla(SemillaDe(opciones_.semilla, n));
+    estado.JuegoActivo = static_cast<Integer>(opciones_.juego);
+    estado.VelocidadJuego = 100;
+    estado.PausaEntreJugadas = false;
+    estado.LimitePartida = static_cast<Integer>(opciones_.limite);
+    estado.ModalidadJuego = opciones_.parejas ? kDosParejas : kIndividual;
+    estado.SentidoJuego = static_cast<Integer>(opciones_.sentido);
+    if (opciones_.azar)
+        SientaAlAzar();
+    for (int asiento = 1; asiento <= 4; ++asiento) {
+        const auto i = static_cast<std::size_t>(asiento - 1);
+        estado.ControlJugador(asiento) = kAutomatico;
+        estado.EstadoJugador(asiento) = asiento <= opciones_.asientos ? kActivado : kDesactivado;
+        if (!opciones_.niveles.empty())
+            estado.NivelJugador(asiento) = static_cast<Integer>(opciones_.niveles[i]);
+        if (!opciones_.caracteres.empty())
+            estado.CaracterJugador(asiento) = static_cast<Integer>(opciones_.caracteres[i]);
+    }
+    estado.PasoSentido = estado.SentidoJuego == kDirecto ? Integer{1} : Integer{-1};
+    ActivarAsientos();
+    ConstruirBaraja();
+}
+
+void Simulacion::FirmaRegistros() {
+    for (int n = 1; n <= estado.JuegosJugados; ++n) {
+        const RegistroJuego& registro = estado.Juegos(n);
+        firma_.Anade(registro.Inicio);
+        for (Integer marca : registro.Marcas)
+            firma_.Anade(marca);
+        for (int asiento = 1; asiento <= 4; ++asiento) {
+            firma_.Anade(registro.Texto1(asiento));
+            firma_.Anade(registro.Texto2(asiento));
+            firma_.Anade(registro.Cifra(asiento));
+            firma_.Anade(estado.JuegosGanados(asiento));
+        }
+        firma_.Anade(registro.Total);
+    }
+}
+
+Totales Simulacion::Juega(std::int64_t n) {
+    PreparaPartida(n);
+    firma_ = {};
+    firma_.Anade(n);
+    NuevaPartida();
+    if (sesion.sin_eventos)
+        throw InvarianteRoto("una espera se quedó sin eventos");
+    RevisaFinalDePartida();
+    Totales totales;
+    totales.partidas = 1;
+    totales.manos = estado.JuegosJugados;
+    totales.ganadas[static_cast<std::size_t>(estado.GanadorPartida)] = 1;
+    if (opciones_.firma) {
+        FirmaRegistros();
+        totales.firma = firma_.Valor();
+    }
+    return totales;
+}

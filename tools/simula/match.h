@@ -1,0 +1,39 @@
+#pragma once
+// One seeded match without a screen, from the draw for the first player to its end.
+
+#include "platform/headless/headless_platform.h"
+#include "tools/simula/options.h"
+#include "tools/simula/signature.h"
+#include "tools/simula/totals.h"
+
+// The desktop of a match that nobody looks at: every box is closed and every question answered with no, each
+// wait goes on, and nothing is written anywhere.
+class MesaSimulada : public PlataformaSinPantalla {
+public:
+    MesaSimulada();
+
+    Boton Pregunta(const CajaMensaje& caja) override;
+    Archivos& LosArchivos() override;
+    bool GuardaPartidas() const override { return false; }
+};
+
+class Simulacion {
+public:
+    // Takes the platform into use. std::invalid_argument for options that make no match.
+    explicit Simulacion(const OpcionesSimula& opciones);
+    ~Simulacion();
+    Simulacion(const Simulacion&) = delete;
+    Simulacion& operator=(const Simulacion&) = delete;
+
+    // Plays match number n. Its course depends on the options, the seed and n alone. InvarianteRoto when
+    // something that must hold does not.
+    Totales Juega(std::int64_t n);
+
+private:
+    void PreparaPartida(std::int64_t n);
+    void FirmaRegistros();
+
+    OpcionesSimula opciones_;
+    MesaSimulada mesa_;
+    Firma firma_;
+};

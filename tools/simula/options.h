@@ -1,0 +1,23 @@
+#pragma once
+// What is to be played: the game, how often, by whom.
+
+#include <array>
+#include <cstdint>
+#include <vector>
+
+#include "core/tabla.h"
+
+struct OpcionesSimula {
+    int juego = 0; // the number of a game
+    std::int64_t partidas = 1000;
+    std::uint64_t semilla = 1;
+    int asientos = 4;         // active seats, where the game leaves a choice: 2 to 4
+    bool parejas = false;     // two pairs, where the game has them
+    int limite = 3;           // games or points that end a match
+    std::vector<int> niveles; // of seats 1..4; empty for the default ones
+    std::vector<int> caracteres;
+    int sentido = 1;
+    bool azar = false; // levels, characters, names and direction of each match from its seed
+    int procesos = 0;  // 0: as many as the machine has cores
+    bool firma = false;
+};

@@ -1,0 +1,23 @@
+// sonda: the line console of the game. Commands on standard input, answers on standard output; the exit
+// status is 1 when a line could not be carried out.
+
+#include <CLI/CLI.hpp>
+
+#include <iostream>
+
+#include "tools/sonda/console.h"
+
+int main(int argc, char** argv) {
+    CLI::App app{"Consola de líneas de la lógica de los juegos"};
+    std::string carpeta;
+    app.add_option("--carpeta", carpeta, "carpeta de los ficheros, en vez de la memoria");
+    CLI11_PARSE(app, argc, argv);
+
+    PlataformaSinPantalla mesa;
+    if (!carpeta.empty())
+        mesa.UsaCarpeta(carpeta);
+    Consola consola(mesa, std::cout);
+    for (std::string linea; std::getline(std::cin, linea);)
+        consola.Linea(linea);
+    return consola.HuboErrores() ? 1 : 0;
+}
