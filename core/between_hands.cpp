@@ -5,6 +5,7 @@
 #include "betting/chips.h"
 #include "core/game_state.h"
 #include "core/session_state.h"
+#include "games/game_table.h"
 
 namespace {
 
@@ -35,6 +36,14 @@ EntreManos AntesDeLaMano() {
     return entre_manos;
 }
 
+EntreManos TrasLaMano() {
+    EntreManos entre_manos = ComoEsta();
+    const FilaJuego* juego = FilaDe(estado.JuegoActivo);
+    if (juego != nullptr && juego->banca_siguiente != nullptr)
+        entre_manos.banca = juego->banca_siguiente();
+    return entre_manos;
+}
+
 bool SobranFichas(const EntreManos& entre_manos, int asiento) {
     for (int d = 1; d <= 6; ++d) {
         if (entre_manos.fichas(asiento, d) > kMaximoFichas)
@@ -57,7 +66,8 @@ void ReagrupaFichas(EntreManos& entre_manos, int asiento) {
 } // namespace
 
 EntreManos ComoEsta() {
-    EntreManos entre_manos{estado.JuegosJugados, estado.JugadorMano, estado.Fichas, {}};
+    EntreManos entre_manos{
+        estado.JuegosJugados, estado.JugadorMano, estado.JugadorBanca, estado.Fichas, {}};
     for (int asiento = 0; asiento <= 4; ++asiento)
         entre_manos.apuesta(asiento) = estado.Apuesta(asiento, 1, 2);
     return entre_manos;
@@ -65,7 +75,7 @@ EntreManos ComoEsta() {
 
 EntreManos LoQueSeGuarda() {
     const bool mano_a_medias = estado.JuegosJugados > 0 && !sesion.mano_apuntada;
-    EntreManos entre_manos = mano_a_medias ? AntesDeLaMano() : ComoEsta();
+    EntreManos entre_manos = mano_a_medias ? AntesDeLaMano() : TrasLaMano();
     for (int asiento = 0; asiento <= 4; ++asiento) {
         if (SobranFichas(entre_manos, asiento))
             ReagrupaFichas(entre_manos, asiento);
@@ -76,6 +86,7 @@ EntreManos LoQueSeGuarda() {
 void Repon(const EntreManos& entre_manos) {
     estado.JuegosJugados = entre_manos.juegos;
     estado.JugadorMano = entre_manos.mano;
+    estado.JugadorBanca = entre_manos.banca;
     estado.Fichas = entre_manos.fichas;
     estado.Apuesta.Borra();
     for (int asiento = 0; asiento <= 4; ++asiento)

@@ -6,6 +6,7 @@
 struct EntreManos {
     Integer juegos = 0; // games finished
     Integer mano = 0;   // JugadorMano of the last one of them; in the first game, of that one
+    Integer banca = 0;  // JugadorBanca of the next one
     Tabla<Integer, 4, 6> fichas; // as Fichas, row 0 the pot
     Tabla<Integer, 4> apuesta;   // of each seat, row 2 of its first serie
 };
@@ -18,7 +19,7 @@ EntreManos ComoEsta();
 // A row with more chips of a kind than two columns hold comes in fewer and larger ones.
 EntreManos LoQueSeGuarda();
 
-// Writes it into the state: JuegosJugados, JugadorMano, Fichas and Apuesta.
+// Writes it into the state: JuegosJugados, JugadorMano, JugadorBanca, Fichas and Apuesta.
 void Repon(const EntreManos& entre_manos);
 
 // A hand begins with the money as it is: writes RestoPrevio and ApuestaPrevia from Fichas and Apuesta.

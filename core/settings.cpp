@@ -125,7 +125,6 @@ void LeeJuego(Lineas& lineas) {
 void PonJuegoNuevo() {
     PonValoresPorDefecto();
     Repon(EntreManos{});
-    estado.JugadorBanca = 0;
     estado.JuegosGanados.Borra();
     estado.Juegos.Borra();
 }

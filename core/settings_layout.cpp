@@ -32,7 +32,7 @@ Campos Ajustes(EntreManos& entre_manos) {
                                  {92, 2, &estado.ManoEnCurso},
                                  {97, 3, &entre_manos.juegos, "000"},
                                  {101, 1, &entre_manos.mano, "0"},
-                                 {103, 1, &estado.JugadorBanca, "0"},
+                                 {103, 1, &entre_manos.banca, "0"},
                                  {104, 3, " 0 "},
                                  {107, 2, &estado.PasoSentido, "00"},
                                  {109, 4, &estado.RestoInicial, "0000"},

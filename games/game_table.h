@@ -76,6 +76,8 @@ struct FilaJuego {
     void (*tutor)() = nullptr;
     // Gives back what the hand in play has moved. Empty: nothing moves.
     void (*restaura)() = nullptr;
+    // Who holds the bank when the next hand starts: that is saved after a finished hand. Empty: JugadorBanca.
+    Integer (*banca_siguiente)() = nullptr;
     // More to clear at a new match.
     void (*nueva_partida)() = nullptr;
 
