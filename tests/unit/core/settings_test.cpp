@@ -442,6 +442,18 @@ TEST_F(AjustesTest, DeUnaManoAMediasSeGuardaElDineroDelPrincipio) {
     EXPECT_EQ(estado.Apuesta(1, 1, 3), 0);
 }
 
+// A game without money has none when the hand begins.
+TEST_F(AjustesTest, SinDineroAlEmpezarLaManoSeGuardaElQueHay) {
+    estado.PartidaEnCurso = true;
+    estado.JuegosJugados = 2;
+    estado.JugadorMano = 1;
+    AsignarResto(3, 5);
+    estado.Apuesta(3, 1, 2) = 7;
+    const auto lineas = JuegoGrabado();
+    EXPECT_EQ(Columnas(lineas[1], 37, 12), "010200000000");
+    EXPECT_EQ(Columnas(lineas[2], 15, 7), "0007000");
+}
+
 TEST_F(AjustesTest, UnaManoDePokerSinApuestasAcabadaGuardaElBoteConSusApuestas) {
     mesa.Empieza(kPoker);
     estado.PartidaEnCurso = true;
@@ -809,6 +821,25 @@ TEST_F(AjustesTest, MasDineroDelQueCabeEnUnaCantidadSeRepartePorIgual) {
     for (int asiento = 1; asiento <= 4; ++asiento)
         EXPECT_EQ(RestoDe(asiento), 200);
     EXPECT_EQ(estado.RestoPrevio(1), 200);
+}
+
+TEST_F(AjustesTest, MasApuestasDeLasQueCabenEnUnaCantidadSonNinguna) {
+    LeeTute(AjustesDeTute() + "\n" + SinFichas() + "\n" +
+            "9999000"
+            "9999000"
+            "9999000"
+            "9999000" +
+            "\n" + RegistroDe("Ana", "    0") + "\n" + RegistroDe("Eva", "    0"));
+    EXPECT_THAT(mesa.Mensajes(), IsEmpty());
+    EXPECT_EQ(estado.Apuesta(2, 1, 2), 0);
+    EXPECT_EQ(estado.ApuestaPrevia(2, 2), 0);
+}
+
+TEST_F(AjustesTest, UnNumeroDeJuegosNegativoEsNinguno) {
+    LeeTuteCon(97, "-02");
+    EXPECT_TRUE(estado.PartidaEnCurso);
+    EXPECT_EQ(estado.JuegosJugados, 0);
+    EXPECT_THAT(mesa.Mensajes(), IsEmpty());
 }
 
 // ---- The file of a game: damage
