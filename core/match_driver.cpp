@@ -62,12 +62,15 @@ void AnunciaContinuacion() {
     HabilitaBoton(1, true);
 }
 
+// What one hand hands on to the next is nothing at the beginning of a match or of a session.
 void BorraManos() {
     for (Integer asiento = 1; asiento <= 4; ++asiento) {
         VaciaMano(asiento);
     }
     estado.PaloTriunfo = 0;
     estado.ValorTriunfo = 0;
+    estado.GanadorBaza = 0;
+    estado.AzarTurno = 0;
 }
 
 void BorraResultados() {
@@ -119,6 +122,8 @@ void IniciarSesion() {
     ColocarMazo();
     LeerIniJuego();
     IniciarTablas();
+    // The pile of some games stands by the bank, which came with the file.
+    ColocarMazo();
     estado.CursorTabla = 0;
     CambiarCursor(Control::Mesa, 0, Puntero::Flecha);
     LimpiaTodo();
@@ -181,6 +186,11 @@ bool AtiendePeticiones() {
 
 void BucleSesion() {
     while (AtiendePeticiones()) {
+        // The end of a match may have enabled the exit that a closed window still waits for.
+        AtiendeCierrePendiente();
+        if (sesion.peticion != Peticion::Ninguna) {
+            continue;
+        }
         if (!plataforma().EsperaEvento()) {
             return;
         }

@@ -16,22 +16,25 @@ bool SiempreVale(const Evento& evento) {
 void Atiende(const Evento& evento) {
     if (sesion.peticion == Peticion::Ninguna || SiempreVale(evento)) {
         el_despacho(evento);
+    } else if (evento.tipo == TipoEvento::CierraVentana) {
+        sesion.cierre_pendiente = true;
     }
-}
-
-// A wish to close the window that came where the exit was disabled.
-void AtiendeCierrePendiente() {
-    if (!sesion.cierre_pendiente || !BotonHabilitado(7)) {
-        return;
-    }
-    sesion.cierre_pendiente = false;
-    Atiende({.tipo = TipoEvento::CierraVentana});
 }
 
 } // namespace
 
 void RegistraDespacho(Despacho despacho) {
     el_despacho = despacho;
+}
+
+void AtiendeCierrePendiente() {
+    const bool toca =
+        sesion.cierre_pendiente && BotonHabilitado(7) && sesion.peticion == Peticion::Ninguna;
+    if (!toca) {
+        return;
+    }
+    sesion.cierre_pendiente = false;
+    Atiende({.tipo = TipoEvento::CierraVentana});
 }
 
 void PaseDeEventos(Pase pase) {

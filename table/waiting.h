@@ -7,8 +7,12 @@
 using Despacho = void (*)(const Evento&);
 void RegistraDespacho(Despacho despacho);
 
+// Asks for the exit when the window was closed while it was disabled and it is enabled by now.
+void AtiendeCierrePendiente();
+
 // One pass of the pending events: delivers and handles what has come. With a request under way the events
-// are taken and dropped, except a new size of the table.
+// are taken and dropped, except a new size of the table and the end of the desktop session; the closing of the
+// window is kept for later.
 void PaseDeEventos(Pase pase);
 
 // The wait used everywhere in the drivers: PedirContinuar(1), then passes until EsperandoJugada is cleared.
