@@ -1,7 +1,6 @@
 #include "core/initial_draw.h"
 
 #include "core/game_state.h"
-#include "core/numeric.h"
 #include "core/random.h"
 #include "core/session_state.h"
 #include "games/game_table.h"
@@ -36,10 +35,12 @@ void MezclaParaSorteo() {
     }
 }
 
-void DaCarta(Integer asiento, const Punto& mazo, int lugar) {
+// The pile has already lost the card.
+void DaCarta(Integer asiento, int lugar, int cartas_en_mazo) {
     const Integer palo = estado.Baraja(lugar, 1);
     const Integer valor = estado.Baraja(lugar, 2);
-    DibujarMazo(mazo.x, mazo.y, estado.CartasNormales - lugar);
+    const Punto mazo = CentroDelMazo();
+    DibujarMazo(mazo.x, mazo.y, cartas_en_mazo);
     ColocarCarta(asiento, 1, 1);
     MoverCarta(palo, valor, mazo.x, mazo.y, 1, kDescubierta, estado.CartaX, estado.CartaY,
                OrientacionDe(asiento), kDescubierta, 0);
@@ -58,33 +59,48 @@ void Anuncia(Integer asiento) {
             2, 1);
 }
 
-} // namespace
-
-bool SorteoInicial() {
-    const Punto mazo{Redondea(estado.AnchoMesa / 2.0 - kAnchoCarta / 2.0),
-                     Redondea(estado.AltoMesa / 2.0 - kAltoCarta / 2.0)};
-    vista.mazo_centrado = true;
-    DibujarMazo(mazo.x, mazo.y, estado.CartasNormales);
+// Cards from a fresh mix until an As falls. With seats out of play all four may lie at places that are passed
+// over: salio then stays false. The answer is false when the match was left.
+[[nodiscard]] bool SacaCartas(bool& salio) {
+    const Punto mazo = CentroDelMazo();
+    int cartas_en_mazo = estado.CartasNormales;
+    DibujarMazo(mazo.x, mazo.y, cartas_en_mazo);
     MezclaParaSorteo();
-    MostrarNombres();
     estado.JugadorActual = 4;
-    for (int lugar = 1; lugar <= estado.CartasNormales; ++lugar) {
+    for (int lugar = 1; lugar <= estado.CartasNormales && !salio; ++lugar) {
         SiguienteAsiento(estado.JugadorActual);
         if (estado.EstadoJugador(estado.JugadorActual) != kActivado) {
             continue;
         }
-        DaCarta(estado.JugadorActual, mazo, lugar);
+        DaCarta(estado.JugadorActual, lugar, --cartas_en_mazo);
         PaseDeEventos(Pase::DePaso);
         if (!PartidaSigue()) {
             return false;
         }
-        if (estado.Baraja(lugar, 2) == kAs) {
-            break;
+        salio = estado.Baraja(lugar, 2) == kAs;
+        if (!salio) {
+            Pausa(120);
         }
-        Pausa(120);
     }
-    (JuegoEnMesa().sorteo_da_banca ? estado.JugadorBanca : estado.JugadorMano) =
-        estado.JugadorActual;
+    return true;
+}
+
+} // namespace
+
+bool SorteoInicial() {
+    vista.mazo_centrado = true;
+    MostrarNombres();
+    bool salio = false;
+    while (!salio) {
+        if (!SacaCartas(salio)) {
+            return false;
+        }
+    }
+    const FilaJuego& juego = JuegoEnMesa();
+    (juego.sorteo_da_banca ? estado.JugadorBanca : estado.JugadorMano) = estado.JugadorActual;
+    if (juego.sorteo_da_banca) {
+        ColocarMazo();
+    }
     Anuncia(estado.JugadorActual);
     return PartidaSigue();
 }

@@ -168,10 +168,16 @@ Punto LugarCentro(int asiento) {
     }
 }
 
+Punto CentroDelMazo() {
+    return {Redondea(estado.AnchoMesa / 2.0 - kAnchoCarta / 2.0),
+            Redondea(estado.AltoMesa / 2.0 - kAltoCarta / 2.0)};
+}
+
 void ColocarMazo() {
     const FilaJuego* fila = FilaDe(estado.JuegoActivo);
-    estado.MazoX = Redondea(estado.AnchoMesa / 2.0 - kAnchoCarta / 2.0);
-    estado.MazoY = Redondea(estado.AltoMesa / 2.0 - kAltoCarta / 2.0);
+    const Punto centro = CentroDelMazo();
+    estado.MazoX = EnteroDe(centro.x);
+    estado.MazoY = EnteroDe(centro.y);
     if (fila != nullptr && fila->coloca_mazo != nullptr) {
         fila->coloca_mazo();
     }

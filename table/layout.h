@@ -33,5 +33,8 @@ bool AsientoLateral(int asiento);
 // The orientation that a seat's cards are drawn with: OrientacionAsiento mod 4 + 1.
 Integer OrientacionDe(int asiento);
 
-// The corner of the pile for the active game: writes MazoX, MazoY.
+// The corner of a pile in the middle of the table.
+Punto CentroDelMazo();
+
+// The corner of the pile for the active game: writes MazoX, MazoY. Reads the layout and JugadorBanca.
 void ColocarMazo();

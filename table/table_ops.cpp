@@ -37,12 +37,8 @@ void RedibujaMazo() {
     if (vista.cartas_mazo == 0) {
         return;
     }
-    if (vista.mazo_centrado) {
-        DibujarMazo(Redondea(estado.AnchoMesa / 2.0 - kAnchoCarta / 2.0),
-                    Redondea(estado.AltoMesa / 2.0 - kAltoCarta / 2.0), vista.cartas_mazo);
-    } else {
-        DibujarMazo(estado.MazoX, estado.MazoY, vista.cartas_mazo);
-    }
+    const Punto mazo = vista.mazo_centrado ? CentroDelMazo() : Punto{estado.MazoX, estado.MazoY};
+    DibujarMazo(mazo.x, mazo.y, vista.cartas_mazo);
 }
 
 } // namespace
@@ -50,6 +46,7 @@ void RedibujaMazo() {
 void CalcularMesa() {
     Traza("CalcularMesa");
     CalculaLugares();
+    ColocarMazo();
     ColocaColumna();
     for (int boton = 1; boton <= 8; ++boton) {
         HabilitaBoton(boton, boton != 3 && boton != 4 && boton != 8);
@@ -115,7 +112,7 @@ void OcultaControlesMesa() {
 }
 
 void LimpiarMesa() {
-    vista = {};
+    vista = {.puntero_x = vista.puntero_x, .puntero_y = vista.puntero_y};
     if (plataforma().HayPantalla()) {
         Mesa().Fieltro({0, 0, estado.AnchoMesa, estado.AltoMesa});
         plataforma().Repinta();
