@@ -59,7 +59,9 @@ void PintaLugar(int fila, int columna) {
     const int y = estado.ReparteY + (fila - 1) * PasoFila();
     const int ancho = kPasoColumna - kHueco;
     const int alto = PasoFila() - kHueco;
-    if (estado.CartaEnReparto(fila, columna)) {
+    const bool colgada =
+        estado.ArrastraReparto && fila == estado.FilaReparto && columna == estado.ColumnaReparto;
+    if (estado.CartaEnReparto(fila, columna) && !colgada) {
         Mesa().MiniCarta(x, y, ancho, alto,
                          {.palo = EnteroDe(fila),
                           .valor = ValorDe(fila, columna),
@@ -219,7 +221,6 @@ bool TomaDelReparto() {
         return false;
     }
     estado.ArrastraReparto = true;
-    estado.CartaEnReparto(fila, columna) = false;
     PintaLugar(fila, columna);
     return true;
 }
@@ -242,6 +243,7 @@ bool DaCartaA(Integer asiento) {
         estado.Mano(asiento, 1, lugar, kTapada) = 1;
     }
     ++estado.NumCartas(asiento, 1);
+    estado.CartaEnReparto(estado.FilaReparto, estado.ColumnaReparto) = false;
     estado.UltimoRecibe = asiento;
     SueltaColgada();
     RedibujarAsiento(asiento);
@@ -250,9 +252,10 @@ bool DaCartaA(Integer asiento) {
 }
 
 void DevuelveAlReparto() {
-    estado.CartaEnReparto(estado.FilaReparto, estado.ColumnaReparto) = true;
-    PintaLugar(estado.FilaReparto, estado.ColumnaReparto);
+    const int fila = estado.FilaReparto;
+    const int columna = estado.ColumnaReparto;
     SueltaColgada();
+    PintaLugar(fila, columna);
     Sonido(0, kSonidoPosa);
 }
 

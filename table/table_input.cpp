@@ -12,6 +12,7 @@
 #include "table/messages.h"
 #include "table/options_menu.h"
 #include "table/table_ops.h"
+#include "table/table_view.h"
 
 namespace {
 
@@ -116,6 +117,8 @@ Integer PunteroDeReparto(int x, int y) {
 }
 
 void CalculaPuntero(int x, int y) {
+    vista.puntero_x = x;
+    vista.puntero_y = y;
     estado.CursorNuevo = 0;
     if (ManoJugable()) {
         estado.CursorNuevo = PunteroDeMano(x, y);
@@ -251,7 +254,7 @@ bool CartaLegal() {
 }
 
 void RefrescaPuntero() {
-    CalculaPuntero(estado.RatonX, estado.RatonY);
+    CalculaPuntero(vista.puntero_x, vista.puntero_y);
 }
 
 void Form_MouseMove(int x, int y) {
