@@ -52,6 +52,7 @@ void BorraMano() {
         estado.SeriesJugador(asiento) = 1;
     }
     estado.Baraja.Borra();
+    estado.Apuesta.Borra();
     estado.RotuloSerie.Borra();
     estado.ParpadeoRotulo.Borra();
     estado.PaloTriunfo = 0;
@@ -88,13 +89,16 @@ void PonMesaDeMano() {
     }
 }
 
+// A manual deal that a change of the rules has broken off is dealt again, by whatever system holds by then.
 [[nodiscard]] bool RepartirHastaCompletar() {
+    bool a_mano = false;
     do {
         PonMesaDeMano();
+        a_mano = estado.SistemaReparto == kRepartoManual;
         if (!Repartir()) {
             return false;
         }
-    } while (!RepartoCompleto());
+    } while (a_mano && !RepartoCompleto());
     return true;
 }
 
