@@ -19,6 +19,7 @@
 #include "games/game_table.h"
 #include "table/deck.h"
 #include "table/deck_setup.h"
+#include "table/hand_order.h"
 #include "table/messages.h"
 #include "table/table_input.h"
 #include "table/table_ops.h"
@@ -45,8 +46,14 @@ void SugiereAlEmpezar() {
     }
 }
 
-void PreparaEleccion(Integer asiento) {
+// A card that is being put at another place would be moved by a place that no longer holds it.
+void DejaDeOrdenar() {
+    AbandonaArrastre();
     estado.ModoOrdenar = false;
+}
+
+void PreparaEleccion(Integer asiento) {
+    DejaDeOrdenar();
     estado.JugadaHecha = false;
     estado.EligeCarta = EsManual(asiento);
     HabilitaBoton(kBotonTutor, EsManual(asiento));
@@ -78,7 +85,7 @@ void PreparaEleccion(Integer asiento) {
 
 void CierraEleccion() {
     estado.EligeCarta = false;
-    estado.ModoOrdenar = false;
+    DejaDeOrdenar();
     HabilitaBoton(kBotonTutor, false);
     RefrescaPuntero();
 }
