@@ -74,9 +74,11 @@ void ImponBanca() {
     estado.SistemaReparto = kAutomatico;
 }
 
-// Nobody plays alone, and Cinquillo is for four.
+// Nobody plays alone, and Cinquillo is for four, each for himself.
 void ReparaJugadores() {
     CuentaJugadores();
+    if (estado.JuegoActivo == kCinquillo)
+        estado.ModalidadJuego = kIndividual;
     if (estado.NumJugadores >= (estado.JuegoActivo == kCinquillo ? 4 : 2))
         return;
     for (int asiento = 1; asiento <= 4; ++asiento)
