@@ -1,6 +1,7 @@
 #include "table/table_ops.h"
 
 #include <string>
+#include <utility>
 
 #include "core/game_state.h"
 #include "core/numeric.h"
@@ -112,7 +113,9 @@ void OcultaControlesMesa() {
 }
 
 void LimpiarMesa() {
-    vista = {.puntero_x = vista.puntero_x, .puntero_y = vista.puntero_y};
+    const VistaMesa antes = std::exchange(vista, {});
+    vista.puntero_x = antes.puntero_x;
+    vista.puntero_y = antes.puntero_y;
     if (plataforma().HayPantalla()) {
         Mesa().Fieltro({0, 0, estado.AnchoMesa, estado.AltoMesa});
         plataforma().Repinta();

@@ -5,6 +5,7 @@
 #include "games/state_blocks.h"
 #include "platform/platform.h"
 #include "table/table_ops.h"
+#include "table/table_view.h"
 
 void PonMesaNueva() {
     BorraEstado();
@@ -18,6 +19,7 @@ void PonMesaNueva() {
     estado.CarpetaPrograma = plataforma().CarpetaDelPrograma();
     estado.SaltoLinea = "\r\n";
     CalcularMesa();
+    vista = {};
     LimpiarMesa();
     IniciarTablas();
 }
