@@ -66,13 +66,8 @@ void CuentaJugadores() {
 }
 
 void VaciaMano(Integer asiento) {
-    for (int serie = 0; serie <= 4; ++serie) {
-        estado.NumCartas(asiento, serie) = 0;
-        for (int lugar = 0; lugar <= 54; ++lugar) {
-            for (int campo = 0; campo <= 5; ++campo)
-                estado.Mano(asiento, serie, lugar, campo) = 0;
-        }
-    }
+    estado.NumCartas.BorraFila(asiento);
+    estado.Mano.BorraFila(asiento);
 }
 
 void ActivarAsientos() {

@@ -1,6 +1,7 @@
 #pragma once
 // The fixed tables of the game state: contiguous, checked, indexed as the rules write them.
 
+#include <algorithm>
 #include <array>
 #include <concepts>
 #include <cstddef>
@@ -41,6 +42,15 @@ public:
     }
 
     void Borra() { celdas_.fill(T{}); }
+
+    // The elements under one value of the first index.
+    void BorraFila(int indice) {
+        if (indice < 0 || indice > kTopes[0]) {
+            LanzaIndiceFuera(1, indice, kTopes[0]);
+        }
+        constexpr std::size_t kLargo = kTotal / static_cast<std::size_t>(kTopes[0] + 1);
+        std::fill_n(celdas_.begin() + static_cast<std::ptrdiff_t>(kLargo) * indice, kLargo, T{});
+    }
 
     // The elements one after the other, the last index turning fastest.
     auto begin() { return celdas_.begin(); }
