@@ -70,6 +70,7 @@ const FilaJuego& FilaBlackJack() {
                                  .coloca_mazo = ColocaMazo,
                                  .rellena_mazo = NuevosMazos,
                                  .clave_orden = ClaveOrden,
+                                 .rotulo_continuar = RotuloDeSerie,
                                  .puntos = PuntosSerie,
                                  .botones_asiento = PonBotonesDeSerie};
     return kFila;

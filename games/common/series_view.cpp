@@ -1,12 +1,14 @@
 #include "games/common/series_view.h"
 
 #include "core/game_state.h"
+#include "core/text.h"
 #include "table/side_buttons.h"
 #include "table/table_ops.h"
 
 namespace {
 
-constexpr Integer kFaseJuego = 4; // the stage in which cards are asked for
+constexpr Integer kFaseApuestas = 2; // the stage of the bets
+constexpr Integer kFaseJuego = 4;    // the stage in which cards are asked for
 
 bool PuedePedir(int asiento) {
     return estado.ControlJugador(asiento) == kManual && estado.FaseApuesta == kFaseJuego &&
@@ -30,5 +32,19 @@ void PonBotonesDeSerie(int asiento) {
         } else {
             Oculta(Control::Pic_BotLateral, indice);
         }
+    }
+}
+
+void RotuloDeSerie(std::string& primera, std::string& segunda) {
+    const Integer asiento = estado.JugadorActual;
+    const Integer fase = estado.FaseApuesta;
+    if (estado.ControlJugador(asiento) == kManual ||
+        (fase != kFaseApuestas && fase != kFaseJuego)) {
+        return;
+    }
+    primera = fase == kFaseApuestas ? "Apuesta" : "Juega";
+    segunda = estado.NombreJugador(asiento);
+    if (estado.SeriesJugador(asiento) > 1) {
+        segunda += " (" + Numero(estado.SerieActual) + ")";
     }
 }

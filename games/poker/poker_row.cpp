@@ -1,6 +1,8 @@
 #include "games/poker/poker_row.h"
 
 #include <algorithm>
+#include <string>
+#include <utility>
 
 #include "betting/chips.h"
 #include "betting/stakes.h"
@@ -89,6 +91,32 @@ void MezclaDescartes(Integer /*asiento*/, Integer n) {
     estado.CartasEnMazo = EnteroDe(estado.CartasEnMazo + mezcladas);
 }
 
+bool HayCartaLevantada(Integer asiento) {
+    for (int lugar = 1; lugar <= estado.NumCartas(asiento, 1); ++lugar) {
+        if (estado.Mano(asiento, 1, lugar, kAltura) == kLevantada) {
+            return true;
+        }
+    }
+    return false;
+}
+
+void RotuloContinuar(std::string& primera, std::string& segunda) {
+    constexpr Integer kPrimeraRonda = 3, kDescartes = 4, kSegundaRonda = 5;
+    const Integer asiento = estado.JugadorActual;
+    const bool manual = estado.ControlJugador(asiento) == kManual;
+    const Integer fase = estado.FaseApuesta;
+    if (!manual && (fase == kPrimeraRonda || fase == kSegundaRonda)) {
+        segunda = "Apuesta";
+        std::swap(primera, segunda);
+    } else if (!manual && fase == kDescartes) {
+        segunda = "Descarta";
+        std::swap(primera, segunda);
+    } else if (manual && fase == kDescartes && HayCartaLevantada(asiento)) {
+        primera = "Descartar";
+        segunda = "elegidas";
+    }
+}
+
 // Midway between seat 1's zone and the table's centre, less 10.
 void ColocaMazo() {
     estado.MazoX =
@@ -106,6 +134,7 @@ const FilaJuego& FilaPoker() {
                                  .recibe_a_mano = RecibeAMano,
                                  .cuenta_reparto = CuentaConResto,
                                  .coloca_mazo = ColocaMazo,
-                                 .rellena_mazo = MezclaDescartes};
+                                 .rellena_mazo = MezclaDescartes,
+                                 .rotulo_continuar = RotuloContinuar};
     return kFila;
 }

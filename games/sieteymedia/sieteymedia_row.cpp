@@ -69,6 +69,7 @@ const FilaJuego& FilaSieteYMedia() {
                                  .cuenta_reparto = CuentaConResto,
                                  .coloca_mazo = ColocaMazo,
                                  .clave_orden = ClaveOrden,
+                                 .rotulo_continuar = RotuloDeSerie,
                                  .puntos = PuntosSerie,
                                  .botones_asiento = PonBotonesDeSerie};
     return kFila;
