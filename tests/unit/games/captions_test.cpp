@@ -62,7 +62,7 @@ TEST_F(RotulosContinuar, PokerManualSeatDiscardsOnlyWhatItHasRaised) {
 }
 
 TEST_F(RotulosContinuar, BankGamesSayTheStageAndTheSerieOfSeveral) {
-    for (Integer juego : {kBlackJack, kSieteYMedia}) {
+    for (const Integer juego : {kBlackJack, kSieteYMedia}) {
         estado.SeriesJugador(2) = 1;
         EXPECT_EQ(DeJuego(juego, 2), (Rotulo{"Apuesta", "Ana"}));
         EXPECT_EQ(DeJuego(juego, 4), (Rotulo{"Juega", "Ana"}));
@@ -76,7 +76,7 @@ TEST_F(RotulosContinuar, BankGamesSayTheStageAndTheSerieOfSeveral) {
 TEST_F(RotulosContinuar, ManualSeatIsOfferedToBePlayedForInEveryGame) {
     estado.JugadorActual = 4;
     for (const FilaJuego* fila : FilasDeJuegos()) {
-        for (Integer fase : {2, 4}) {
+        for (Integer fase : {Integer{2}, Integer{4}}) {
             EXPECT_EQ(DeJuego(fila->id, fase), (Rotulo{"Luis", "automático"})) << fila->nombre;
         }
     }
