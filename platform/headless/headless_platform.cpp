@@ -39,6 +39,11 @@ void PlataformaSinPantalla::UsaCarpeta(const std::string& carpeta) {
     archivos_ = disco_.get();
 }
 
+void PlataformaSinPantalla::Instala(const std::string& ruta, const std::string& contenido) {
+    instalados_[ruta] = contenido;
+    memoria_.contenidos[ruta] = contenido;
+}
+
 void PlataformaSinPantalla::Limpia() {
     guion.Olvida();
     respuestas.clear();
@@ -52,7 +57,7 @@ void PlataformaSinPantalla::Limpia() {
     Mide(800, 600);
     tablero_ = {};
     lienzos_.clear();
-    memoria_.contenidos.clear();
+    memoria_.contenidos = instalados_;
     memoria_.de_solo_lectura.clear();
 }
 

@@ -53,6 +53,8 @@ public:
     // The files of a folder on the disk instead of those in memory.
     void UsaCarpeta(const std::string& carpeta);
     ArchivosMemoria& EnMemoria() { return memoria_; }
+    // A file that comes with the program: in memory from now on, and again after Limpia.
+    void Instala(const std::string& ruta, const std::string& contenido);
     const TableroControles& Tablero() const { return tablero_; }
     // Everything as in a new one; the folder in use stays.
     void Limpia();
@@ -104,6 +106,7 @@ private:
     LienzoRegistrado mudo_{false};
     std::map<ControlMesa, LienzoRegistrado> lienzos_;
     ArchivosMemoria memoria_;
+    std::map<std::string, std::string> instalados_;
     std::unique_ptr<Archivos> disco_;
     Archivos* archivos_ = &memoria_;
     std::string carpeta_ = ".";

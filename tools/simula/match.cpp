@@ -12,24 +12,10 @@
 #include "table/trace.h"
 #include "table/waiting.h"
 #include "tools/common/fresh_table.h"
+#include "tools/common/program_files.h"
 #include "tools/simula/invariants.h"
 
 namespace {
-
-// No file is there and every write succeeds without a trace.
-class ArchivosDeNadie : public Archivos {
-public:
-    Lectura Lee(const std::string&) override { return {ErrorArchivo::NoEncontrado, ""}; }
-    ErrorArchivo Escribe(const std::string&, std::string_view) override {
-        return ErrorArchivo::Ninguno;
-    }
-    bool Existe(const std::string&) override { return false; }
-    ErrorArchivo Borra(const std::string&) override { return ErrorArchivo::NoEncontrado; }
-    ErrorArchivo Renombra(const std::string&, const std::string&) override {
-        return ErrorArchivo::NoEncontrado;
-    }
-    ErrorArchivo CreaCarpeta(const std::string&) override { return ErrorArchivo::Ninguno; }
-};
 
 // Neighbouring numbers give seeds that have nothing in common.
 std::uint64_t SemillaDe(std::uint64_t semilla, std::int64_t n) {
@@ -76,17 +62,13 @@ void Exige(bool cumple, const char* que) {
 MesaSimulada::MesaSimulada() {
     siempre_continua = true;
     registra = false;
+    InstalaFicherosDelPrograma(*this, CarpetaDelEjecutable());
 }
 
 Boton MesaSimulada::Pregunta(const CajaMensaje& caja) {
     if (!estado.ManoEnCurso && estado.PartidaEnCurso && caja.titulo == "Final de la mano")
         RevisaFinalDeMano();
     return caja.modo == 2 ? Boton::No : Boton::Salir;
-}
-
-Archivos& MesaSimulada::LosArchivos() {
-    static ArchivosDeNadie nadie;
-    return nadie;
 }
 
 Simulacion::Simulacion(const OpcionesSimula& opciones) : opciones_(opciones) {

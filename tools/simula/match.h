@@ -13,7 +13,6 @@ public:
     MesaSimulada();
 
     Boton Pregunta(const CajaMensaje& caja) override;
-    Archivos& LosArchivos() override;
     bool GuardaPartidas() const override { return false; }
 };
 

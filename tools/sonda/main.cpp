@@ -5,6 +5,7 @@
 
 #include <iostream>
 
+#include "tools/common/program_files.h"
 #include "tools/sonda/console.h"
 
 int main(int argc, char** argv) {
@@ -14,6 +15,7 @@ int main(int argc, char** argv) {
     CLI11_PARSE(app, argc, argv);
 
     PlataformaSinPantalla mesa;
+    InstalaFicherosDelPrograma(mesa, CarpetaDelEjecutable());
     if (!carpeta.empty())
         mesa.UsaCarpeta(carpeta);
     Consola consola(mesa, std::cout);

@@ -132,7 +132,9 @@ TEST_F(SinPantalla, LimpiaDejaUnaMesaNueva) {
     p.respuestas = {Boton::No};
     p.siempre_continua = p.traviesa = true;
     p.Muestra(Control::Pic_BotContinuar, 0, true);
+    p.Instala("./PkFDes.ZOV", "datos");
     p.EnMemoria().contenidos["./ZOV31.INI"] = "01";
+    p.EnMemoria().contenidos["./PkFDes.ZOV"] = "otra cosa";
     p.Limpia();
 
     EXPECT_EQ(p.AnchoVentana(), 800);
@@ -143,7 +145,8 @@ TEST_F(SinPantalla, LimpiaDejaUnaMesaNueva) {
     EXPECT_FALSE(p.siempre_continua || p.traviesa);
     EXPECT_FALSE(p.EstaVisible(Control::Pic_BotContinuar, 0));
     EXPECT_TRUE(p.EstaVisible(Control::Pic_Botonera, 0));
-    EXPECT_TRUE(p.EnMemoria().contenidos.empty());
+    EXPECT_THAT(p.EnMemoria().contenidos,
+                testing::ElementsAre(testing::Pair("./PkFDes.ZOV", "datos")));
 }
 
 } // namespace
