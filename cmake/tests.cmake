@@ -85,7 +85,7 @@ if(gui_sources AND TARGET zovin_qt)
     add_executable(gui_${name} "${source}")
     set_target_properties(gui_${name} PROPERTIES
       AUTOMOC ON RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
-    target_link_libraries(gui_${name} PRIVATE zovin_qt ${test_libraries} Qt6::Test)
+    target_link_libraries(gui_${name} PRIVATE zovin_qt Qt6::Test)
     add_test(NAME gui.${name} COMMAND gui_${name} WORKING_DIRECTORY "${test_scratch}")
     set_tests_properties(gui.${name} PROPERTIES LABELS gui TIMEOUT 240
       ENVIRONMENT "${test_environment_offscreen}")

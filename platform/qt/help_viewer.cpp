@@ -53,7 +53,7 @@ VistaAyuda::VistaAyuda(const QString& carpeta)
     setObjectName(QStringLiteral("ayuda"));
     setWindowTitle(QStringLiteral("Ayuda de Zovin"));
     setPalette(estilo::Paleta());
-    resize(860, 600);
+    resize(920, 620);
     Compon();
     LlenaArbol(LeeContenido(carpeta_));
     connect(busca_, &QLineEdit::textChanged, this, &VistaAyuda::Busca);
@@ -99,7 +99,7 @@ void VistaAyuda::Compon() {
     partes->addWidget(lado);
     partes->addWidget(hoja_);
     partes->setStretchFactor(1, 1);
-    partes->setSizes({280, 560});
+    partes->setSizes({310, 590});
     auto* todo = new QVBoxLayout(this);
     todo->addLayout(mandos);
     todo->addWidget(partes, 1);
