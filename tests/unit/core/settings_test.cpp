@@ -855,6 +855,7 @@ TEST_F(AjustesTest, UnNumeroQueNoLoEsHaceNuevoElArchivoYGuardaElDanado) {
 
     LeerIniJuego();
     EXPECT_THAT(mesa.Mensajes(), SizeIs(1)) << "el archivo nuevo se lee sin aviso";
+    EXPECT_FALSE(estado.FicheroNuevo);
 }
 
 TEST_F(AjustesTest, UnErrorEnElUltimoRegistroTampocoDejaNadaDelArchivo) {
