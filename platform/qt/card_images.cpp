@@ -6,7 +6,7 @@
 #include <QPainter>
 #include <QtEndian>
 #include <cmath>
-#include <random>
+#include <cstdint>
 
 #include "core/game_state.h"
 #include "platform/platform.h"
@@ -97,16 +97,23 @@ QImage Celdas(const QImage& fuente, int columnas, int filas, const QSize& celda,
     return lista;
 }
 
+// The shade of one thread, -4 to 4: the same at every start, and without a pattern that the eye finds.
+int Grano(int x, int y) {
+    std::uint32_t n =
+        static_cast<std::uint32_t>(x) * 0x9E3779B1U + static_cast<std::uint32_t>(y) * 0x85EBCA77U;
+    n = (n ^ (n >> 15)) * 0x2C1B3C6DU;
+    n = (n ^ (n >> 12)) * 0x297A2D39U;
+    return static_cast<int>((n ^ (n >> 15)) % 9U) - 4;
+}
+
 // Card table felt: the table's green with a grain so fine that it only takes the flatness away.
 QImage HazFieltro() {
     constexpr int kLado = 256;
     QImage felpa(kLado, kLado, QImage::Format_RGB32);
-    std::minstd_rand grano(20);
-    std::uniform_int_distribution<int> sombra(-4, 4);
     for (int y = 0; y < kLado; ++y) {
         auto* linea = reinterpret_cast<QRgb*>(felpa.scanLine(y));
         for (int x = 0; x < kLado; ++x) {
-            const int luz = sombra(grano);
+            const int luz = Grano(x, y);
             linea[x] = qRgb(std::max(0, luz), 128 + luz, std::max(0, luz));
         }
     }

@@ -1,6 +1,7 @@
 #include "platform/qt/platform_qt.h"
 
 #include <QApplication>
+#include <QDateTime>
 #include <QDialog>
 #include <QScreen>
 #include <QStandardPaths>
@@ -37,6 +38,7 @@ QRegion ALaMesa(const QRegion& dispositivo, double ratio) {
 PlataformaQt::PlataformaQt(const QString& carpeta)
     : carpeta_(carpeta), imagenes_(qApp->devicePixelRatio()), mesa_(new Tapete(imagenes_, cola_)) {
     reloj_.start();
+    origen_ = QDateTime::currentMSecsSinceEpoch();
     despertador_.setSingleShot(true);
     despertador_.setTimerType(Qt::PreciseTimer);
     ventana_ = std::make_unique<VentanaPrincipal>(mesa_);
@@ -87,7 +89,7 @@ bool PlataformaQt::EsperaEvento() {
 }
 
 Milisegundos PlataformaQt::Reloj() {
-    return reloj_.elapsed();
+    return origen_ + reloj_.elapsed();
 }
 
 // Whatever the player does meanwhile is put in the queue by the widgets, each event with its place, and
@@ -98,8 +100,8 @@ void PlataformaQt::DuermeHasta(Milisegundos momento) {
         despertador_.start(static_cast<int>(falta - kRemate));
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }
-    const auto resto =
-        std::chrono::milliseconds(momento) - std::chrono::nanoseconds(reloj_.nsecsElapsed());
+    const auto resto = std::chrono::milliseconds(momento - origen_) -
+                       std::chrono::nanoseconds(reloj_.nsecsElapsed());
     if (resto > std::chrono::nanoseconds::zero())
         std::this_thread::sleep_for(resto);
 }

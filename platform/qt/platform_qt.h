@@ -87,6 +87,8 @@ private:
     QString carpeta_;
     ArchivosDisco archivos_;
     QElapsedTimer reloj_;
+    Milisegundos
+        origen_; // the clock starts at the day's time, so that no two runs are seeded alike
     QTimer despertador_;
     ColaEventos cola_;
     Imagenes imagenes_;
