@@ -29,6 +29,8 @@ Seguimiento GrupoDe(Integer palo, Integer valor) {
 }
 
 bool CartaLegalTute(int lugar) {
+    if (!SigueObligado())
+        return true;
     for (int puesto = 1; puesto <= bazas.NumJugables; ++puesto) {
         if (bazas.CartasJugables(puesto, 2) == lugar)
             return true;

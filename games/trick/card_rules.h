@@ -16,8 +16,8 @@ bool SigueObligado();
 // The group of a card against the card that JugadorSalida has on the table.
 Seguimiento GrupoDe(Integer palo, Integer valor);
 
-// Tute: whether the card at that place of the hand of JugadorActual stands in the legal part of
-// CartasJugables. False for a place that is none.
+// Tute: whether the card at that place of the hand of JugadorActual may be played: always for a seat that is
+// not bound, otherwise if it stands in the legal part of CartasJugables, which the seat's choice has left.
 bool CartaLegalTute(int lugar);
 
 // Who takes the trick on the table, and what it holds: writes GanadorBaza and TantosBaza.

@@ -15,6 +15,14 @@
 #include "games/common/hand_queries.h"
 #include "games/common/hands.h"
 #include "games/common/series.h"
+#include "games/trick/card_rules.h"
+#include "games/trick/choice_brisca.h"
+#include "games/trick/choice_tute.h"
+#include "games/trick/exact_search.h"
+#include "games/trick/exchange.h"
+#include "games/trick/hand_end.h"
+#include "games/trick/stock.h"
+#include "games/trick/trick_driver.h"
 #include "table/deck.h"
 #include "table/layout.h"
 #include "table/messages.h"
@@ -50,6 +58,11 @@ void CambiaCursorPorNombre(Control control, const std::string& nombre) {
             return CambiarCursor(control, 0, static_cast<Puntero>(i));
     }
     throw ErrorConsola("el cursor " + nombre + " no existe");
+}
+
+// The start of a hand of the active game: Tute and Brisca turn a card up.
+bool EmpiezaJuego() {
+    return estado.JuegoActivo == kCinquillo ? IniciarJuego() : IniciarJuego(DescubreTriunfo);
 }
 
 const std::unordered_map<std::string, Llamada>& LaTabla() {
@@ -129,10 +142,22 @@ const std::unordered_map<std::string, Llamada>& LaTabla() {
         {"CuentaPalo", Llama(&CuentaPalo)},
         {"BuscaCarta", Llama(&BuscaCarta)},
         {"PotenciaCarta", Llama(&PotenciaCarta)},
-        {"IniciarJuego", LlamaPasos(+[] { return IniciarJuego(); })},
+        {"IniciarJuego", LlamaPasos(&EmpiezaJuego)},
         {"FinalPartida", Llama(&FinalPartida)},
         {"ManoCinquillo", Llama(&ManoCinquillo)},
         {"EligeCartaCinquillo", Llama(&EligeCartaCinquillo)},
+
+        // Tute and Brisca.
+        {"ManoTute", Llama(&ManoTute)},
+        {"ManoBrisca", Llama(&ManoBrisca)},
+        {"EligeCartaTute", Llama(&EligeCartaTute)},
+        {"EligeCartaBrisca", Llama(&EligeCartaBrisca)},
+        {"ExploraBazas", Llama(&ExploraBazas)},
+        {"ValoraExploracion", Llama(&ValoraExploracion)},
+        {"ResuelveBaza", Llama(&ResuelveBaza)},
+        {"RobaCartas", Llama(&RobaCartas)},
+        {"CambiaTriunfo", Llama(&CambiaTriunfo)},
+        {"FinalMano", LlamaPasos(&FinalMano)},
     };
     return kTabla;
 }

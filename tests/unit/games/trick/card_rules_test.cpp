@@ -21,7 +21,7 @@ struct ReglasTute : testing::Test {
         TocaA(asiento);
         EligeCartaTute();
         std::vector<int> legales;
-        for (int lugar = 0; lugar <= estado.NumCartas(asiento, 1) + 1; ++lugar) {
+        for (int lugar = 1; lugar <= estado.NumCartas(asiento, 1); ++lugar) {
             if (CartaLegalTute(lugar))
                 legales.push_back(lugar);
         }

@@ -1,0 +1,105 @@
+#include "games/trick/trick_view.h"
+
+#include "core/game_state.h"
+#include "games/common/trick_state.h"
+#include "table/messages.h"
+#include "table/table_ops.h"
+
+namespace {
+
+constexpr int kSerie = 1;
+constexpr int kAsomaTriunfo = 18; // how far the turned card looks out at the pile's left
+constexpr int kBajadaTriunfo = 33;
+constexpr int kMedioAncho = 96,
+              kMedioAlto = 136; // half the box that the four cards of a trick take
+constexpr int kSonidoParpadeo = 26;
+
+bool triunfo_sin_mazo = false;
+
+// A trick lies on the table until its winner is written down.
+bool BazaEnMesa() {
+    return estado.ManoEnCurso && estado.NumBaza > 0 && bazas.GanadorDeBaza(estado.NumBaza) == 0;
+}
+
+bool TriunfoEnMesa() {
+    return estado.PaloTriunfo != kSinCarta && (estado.CartasEnMazo > 0 || triunfo_sin_mazo);
+}
+
+void PonCartas(Integer asiento, const std::vector<Integer>& lugares, Integer cara, Integer altura) {
+    for (const Integer lugar : lugares) {
+        estado.Mano(asiento, kSerie, lugar, kCara) = cara;
+        estado.Mano(asiento, kSerie, lugar, kAltura) = altura;
+    }
+    RedibujarAsiento(asiento);
+}
+
+} // namespace
+
+Punto LugarTriunfo() {
+    return {estado.MazoX - kAsomaTriunfo, estado.MazoY + kBajadaTriunfo};
+}
+
+void DejaTriunfoSinMazo(bool solo) {
+    triunfo_sin_mazo = solo;
+}
+
+void PintaTriunfo(int x, int y) {
+    if (TriunfoEnMesa()) {
+        DibujarCarta(Control::Mesa, x - kAsomaTriunfo, y + kBajadaTriunfo, kOrientacionTriunfo,
+                     estado.PaloTriunfo, estado.ValorTriunfo, kDescubierta, kEnLinea);
+    }
+}
+
+void PintaMazo() {
+    DibujarCaja(LugarTriunfo().x, LugarTriunfo().y, kAltoCarta, kAnchoCarta);
+    DibujarMazo(estado.MazoX, estado.MazoY, estado.CartasEnMazo);
+    PintaBaza();
+}
+
+void PintaBaza() {
+    PintaBazaSin(0);
+}
+
+void PintaBazaSin(Integer sin) {
+    if (!BazaEnMesa())
+        return;
+    Integer asiento = estado.JugadorSalida;
+    for (int turno = 1; turno <= 4; ++turno, SiguienteAsiento(asiento)) {
+        const Integer palo = bazas.CartaEnMesa(asiento, 1);
+        if (palo == kSinCarta || asiento == sin)
+            continue;
+        const Punto lugar = LugarCentro(asiento);
+        DibujarCarta(Control::Mesa, lugar.x, lugar.y, 1, palo, bazas.CartaEnMesa(asiento, 2),
+                     kDescubierta, kEnLinea);
+    }
+}
+
+void RecogeMesa() {
+    DibujarCaja(estado.CentroX - kMedioAncho, estado.CentroY - kMedioAlto, 2 * kMedioAncho,
+                2 * kMedioAlto);
+    DibujarMazo(estado.MazoX, estado.MazoY, estado.CartasEnMazo);
+}
+
+void ParpadeaBaza() {
+    Pausa(150);
+    for (int vez = 0; vez < 2; ++vez) {
+        Pausa(420);
+        RecogeMesa();
+        PintaBazaSin(estado.GanadorBaza);
+        Pausa(180);
+        PintaBaza();
+        Sonido(1, kSonidoParpadeo);
+    }
+    Pausa(500);
+}
+
+void ParpadeaCartas(Integer asiento, const std::vector<Integer>& lugares) {
+    for (int vez = 0; vez < 3; ++vez) {
+        PonCartas(asiento, lugares, kDescubierta, kLevantada);
+        Pausa(180);
+        Sonido(1, kSonidoParpadeo);
+        Pausa(420);
+        PonCartas(asiento, lugares, kDescubierta, kEnLinea);
+    }
+    PonCartas(asiento, lugares, estado.CartasJugador(asiento), kEnLinea);
+}
