@@ -68,7 +68,7 @@ private:
 
 // 0 or the system's error.
 int LeeTodo(int numero, std::string& contenido) {
-    std::array<char, 65536> trozo;
+    std::array<char, 65536> trozo{};
     for (;;) {
         const ssize_t n = ::read(numero, trozo.data(), trozo.size());
         if (n == 0)

@@ -17,7 +17,7 @@ namespace {
 
 constexpr const char* kGeneral = "ZOV31.INI";
 constexpr const char* kFinDeLinea = "\r\n";
-constexpr int kMaximoJuegos = 999; // what the three columns of the number hold
+constexpr Integer kMaximoJuegos = 999; // what the three columns of the number hold
 
 // Numbers of the errors that a file has inside.
 constexpr int kSinError = 0, kNoEsUnNumero = 13, kFaltanLineas = 62;
@@ -115,7 +115,7 @@ void LeeJuego(Lineas& lineas) {
     EntreManos entre_manos = ComoEsta();
     LeeCampos(lineas.Siguiente(), ini::Ajustes(entre_manos));
     const bool con_juegos = estado.PartidaEnCurso && entre_manos.juegos > 0;
-    entre_manos.juegos = con_juegos ? std::min<Integer>(entre_manos.juegos, kMaximoJuegos) : 0;
+    entre_manos.juegos = con_juegos ? std::min(entre_manos.juegos, kMaximoJuegos) : Integer{0};
     LeeCampos(lineas.Siguiente(), ini::Dinero(entre_manos));
     LeeCampos(lineas.Siguiente(), ini::Apuestas(entre_manos));
     LeeRegistros(lineas, entre_manos.juegos);

@@ -107,7 +107,8 @@ int TodasLasApuestas() {
 void RepartePorIgual() {
     AsignarResto(0, 0);
     for (int asiento = 1; asiento <= 4; ++asiento)
-        AsignarResto(asiento, estado.EstadoJugador(asiento) == kActivado ? estado.RestoInicial : 0);
+        AsignarResto(asiento,
+                     estado.EstadoJugador(asiento) == kActivado ? estado.RestoInicial : Integer{0});
     estado.Apuesta.Borra();
 }
 
