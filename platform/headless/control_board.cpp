@@ -47,6 +47,14 @@ bool TableroControles::EstaVisible(ControlMesa cual) const {
     return Mando(cual).visible && (padre == Control::Mesa || EstaVisible({padre, 0}));
 }
 
+void TableroControles::CopiaEn(Plataforma& otra) const {
+    for (const auto& [cual, mando] : mandos_) {
+        otra.Coloca(cual.control, cual.indice, mando.donde);
+        otra.Muestra(cual.control, cual.indice, mando.visible);
+        otra.PonPuntero(cual.control, cual.indice, mando.puntero);
+    }
+}
+
 ControlMesa TableroControles::BajoPunto(int x, int y) const {
     for (Control control : kDeArribaAbajo) {
         const auto desde = mandos_.lower_bound({control, 0});

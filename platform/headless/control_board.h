@@ -33,6 +33,9 @@ public:
     Puntero PunteroDe(ControlMesa cual) const { return Mando(cual).puntero; }
     std::string NombreDe(ControlMesa cual) const { return Mando(cual).nombre; }
 
+    // A board of another platform becomes as this one: what was placed, shown and pointed at.
+    void CopiaEn(Plataforma& otra) const;
+
     // The topmost control that shows at a point of the window; the felt where there is none.
     ControlMesa BajoPunto(int x, int y) const;
 

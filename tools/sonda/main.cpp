@@ -7,6 +7,7 @@
 
 #include "tools/common/program_files.h"
 #include "tools/sonda/console.h"
+#include "tools/sonda/picture_view.h"
 
 int main(int argc, char** argv) {
     CLI::App app{"Consola de líneas de la lógica de los juegos"};
@@ -18,7 +19,8 @@ int main(int argc, char** argv) {
     InstalaFicherosDelPrograma(mesa, CarpetaDelEjecutable());
     if (!carpeta.empty())
         mesa.UsaCarpeta(carpeta);
-    Consola consola(mesa, std::cout);
+    Consola consola(mesa, std::cout,
+                    [&mesa](const std::string& fichero) { PintaPantalla(mesa, fichero); });
     for (std::string linea; std::getline(std::cin, linea);)
         consola.Linea(linea);
     return consola.HuboErrores() ? 1 : 0;

@@ -1,0 +1,62 @@
+#include "tools/sonda/picture_view.h"
+
+#include <QGuiApplication>
+
+#include <algorithm>
+
+#include "games/state_blocks.h"
+#include "platform/qt/picture_platform.h"
+#include "table/table_ops.h"
+#include "tools/common/program_files.h"
+#include "tools/sonda/literal.h"
+
+namespace {
+
+// Letters need it; a console that paints nothing does without.
+void ArrancaLetras() {
+    static int argc = 1;
+    static char nombre[] = "sonda";
+    static char* argv[] = {nombre, nullptr};
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    static const QGuiApplication kAplicacion(argc, argv);
+}
+
+// Another platform and a state of its own, until the painting is done.
+class Prestamo {
+public:
+    explicit Prestamo(Plataforma& otra) : antes_(plataforma()) { UsaPlataforma(otra); }
+    ~Prestamo() {
+        estado_.Repon();
+        UsaPlataforma(antes_);
+    }
+    Prestamo(const Prestamo&) = delete;
+    Prestamo& operator=(const Prestamo&) = delete;
+
+private:
+    Plataforma& antes_;
+    Instantanea estado_ = Instantanea::Toma();
+};
+
+std::string RutaDeBaraja() {
+    const char* nombre = estado.TipoBaraja == kBarajaEspanola ? "Baraja02.bmp" : "Baraja01.bmp";
+    return CarpetaDelEjecutable() + "/" + nombre;
+}
+
+} // namespace
+
+void PintaPantalla(const PlataformaSinPantalla& mesa, const std::string& fichero) {
+    ArrancaLetras();
+    PlataformaCuadro cuadro;
+    cuadro.Mide(estado.AnchoPantalla, estado.AltoPantalla);
+    cuadro.CargaBaraja(RutaDeBaraja(), estado.ColumnasBaraja);
+    mesa.Tablero().CopiaEn(cuadro);
+    const Prestamo prestamo(cuadro);
+    // A script that ended in the middle of a hand has left the match; its cards still lie on the table.
+    const bool hay_cartas = std::any_of(estado.NumCartas.begin(), estado.NumCartas.end(),
+                                        [](Integer cartas) { return cartas > 0; });
+    estado.PartidaEnCurso = estado.PartidaEnCurso || hay_cartas;
+    PrepararImagenes();
+    RedibujarMesa();
+    if (!cuadro.Cuadro().save(QString::fromStdString(fichero)))
+        throw ErrorConsola("no se puede escribir " + fichero);
+}
