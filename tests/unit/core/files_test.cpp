@@ -45,7 +45,7 @@ protected:
 };
 
 TEST_F(ArchivosDiscoTest, SeLeeLoQueSeEscribioByteAByte) {
-    std::string contenido("uno\r\ndos\0\xE1\xFF\x1A tres", 18);
+    std::string contenido("uno\r\ndos\0\xE1\xFF\x1A tres", 17);
     ASSERT_EQ(archivos.Escribe(carpeta / "ZOV31.INI", contenido), ErrorArchivo::Ninguno);
     const Lectura lectura = archivos.Lee(carpeta / "ZOV31.INI");
     EXPECT_EQ(lectura.error, ErrorArchivo::Ninguno);

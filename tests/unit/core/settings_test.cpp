@@ -17,7 +17,6 @@
 namespace {
 
 using testing::ElementsAre;
-using testing::EndsWith;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::SizeIs;
@@ -37,7 +36,8 @@ std::string Columnas(const std::string& linea, int desde, int ancho) {
 std::vector<std::string> Lineas(const std::string& texto) {
     std::vector<std::string> lineas;
     std::size_t desde = 0;
-    for (std::size_t fin; (fin = texto.find("\r\n", desde)) != std::string::npos; desde = fin + 2)
+    for (std::size_t fin = 0; (fin = texto.find("\r\n", desde)) != std::string::npos;
+         desde = fin + 2)
         lineas.push_back(texto.substr(desde, fin - desde));
     EXPECT_EQ(desde, texto.size()) << "la última línea no acaba en CR LF";
     return lineas;
@@ -586,7 +586,7 @@ TEST_F(AjustesTest, UnArchivoSanoSeLeeEntero) {
 
 TEST_F(AjustesTest, LasLineasPuedenAcabarSoloEnLfYSinBlancosAlFinal) {
     std::string texto;
-    for (std::string linea : Lineas(ArchivoDeTute()))
+    for (const std::string& linea : Lineas(ArchivoDeTute()))
         texto += "  " + linea.substr(0, linea.find_last_not_of(' ') + 1) + "\n";
     texto.pop_back();
     LeeTute(texto);
