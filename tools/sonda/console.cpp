@@ -8,6 +8,7 @@
 #include "core/main_buttons.h"
 #include "core/match_driver.h"
 #include "core/random.h"
+#include "games/game_table.h"
 #include "table/deck.h"
 #include "table/table_ops.h"
 #include "table/trace.h"
@@ -125,6 +126,8 @@ void Consola::Mide(Lector& lector) {
 void Consola::Juego(Lector& lector) {
     const auto juego = Convierte<Integer>(lector.Numero());
     lector.ExigeFin();
+    if (FilaDe(juego) == nullptr)
+        throw ErrorConsola(fmt::format("el juego {} no existe", juego));
     estado.JuegoActivo = juego;
     ConstruirBaraja();
     Responde("ok");
