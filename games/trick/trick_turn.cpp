@@ -131,7 +131,7 @@ void JuegaCarta(Integer asiento) {
     const Punto hasta = LugarCentro(asiento);
     SacaDeLaMano(asiento, lugar);
     MoverCarta(palo, valor, desde.x, desde.y, OrientacionDe(asiento), kDescubierta, hasta.x,
-               hasta.y, 1, kDescubierta, 0);
+               hasta.y, OrientacionDe(asiento), kDescubierta, 0);
     AnotaCarta(asiento, lugar, palo, valor);
 }
 

@@ -10,7 +10,7 @@ namespace {
 constexpr int kSerie = 1;
 constexpr int kAsomaTriunfo = 18; // how far the turned card looks out at the pile's left
 constexpr int kBajadaTriunfo = 33;
-constexpr int kMedioAncho = 96,
+constexpr int kMedioAncho = 136,
               kMedioAlto = 136; // half the box that the four cards of a trick take
 constexpr int kSonidoParpadeo = 26;
 
@@ -69,8 +69,8 @@ void PintaBazaSin(Integer sin) {
         if (palo == kSinCarta || asiento == sin)
             continue;
         const Punto lugar = LugarCentro(asiento);
-        DibujarCarta(Control::Mesa, lugar.x, lugar.y, 1, palo, bazas.CartaEnMesa(asiento, 2),
-                     kDescubierta, kEnLinea);
+        DibujarCarta(Control::Mesa, lugar.x, lugar.y, OrientacionDe(asiento), palo,
+                     bazas.CartaEnMesa(asiento, 2), kDescubierta, kEnLinea);
     }
 }
 
