@@ -21,6 +21,7 @@ constexpr int kLetrasMensaje = 58; // characters of a line of the box
 constexpr int kAnchoSugerencia = 190;
 constexpr int kAltoSugerencia = 78;
 constexpr int kSonidoBoton = 9;
+constexpr Long kVueltaReloj = 0x7FFFFFFF; // the mark keeps so many bits of the clock
 constexpr Rectangulo kMasAyuda{4, 1, 76, 20};
 constexpr Rectangulo kCerrar{kAnchoSugerencia - 19, 2, 16, 16};
 
@@ -166,9 +167,9 @@ double FactorPausa(int velocidad) {
 }
 
 void MarcaPausaAhora() {
-    // 0 means "no mark", so a clock that stands at 0 is marked one millisecond late.
-    const auto ahora = static_cast<Long>(plataforma().Reloj() & 0x7FFFFFFF);
-    estado.MarcaPausa = ahora == 0 ? 1 : ahora;
+    // 0 means "no mark", so a clock that stands at 0 is marked one millisecond early.
+    const auto ahora = static_cast<Long>(plataforma().Reloj() & kVueltaReloj);
+    estado.MarcaPausa = ahora == 0 ? kVueltaReloj : ahora;
 }
 
 void Pausa(int unidades) {
@@ -178,7 +179,7 @@ void Pausa(int unidades) {
         const Milisegundos reloj = plataforma().Reloj();
         // The mark holds the low 31 bits of the clock: the time gone by since then is what counts.
         const Milisegundos gastado =
-            estado.MarcaPausa == 0 ? 0 : (reloj - estado.MarcaPausa) & 0x7FFFFFFF;
+            estado.MarcaPausa == 0 ? 0 : (reloj - estado.MarcaPausa) & kVueltaReloj;
         const auto espera = static_cast<Milisegundos>(std::ceil(unidades * factor));
         plataforma().DuermeHasta(reloj - gastado + espera);
     }
