@@ -1,0 +1,148 @@
+// A seat on the felt: cards, name, caption, the winner's mark.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "table/table_ops.h"
+#include "table/table_view.h"
+#include "tests/support/live_table.h"
+
+using namespace prueba;
+using testing::HasSubstr;
+
+namespace {
+
+struct AsientoEnMesa : MesaViva {
+    AsientoEnMesa() {
+        p.UsaLienzosRegistrados();
+        PonMano(4, {{kOros, 1}, {kCopas, 2}, {kBastos, 3}});
+    }
+    std::vector<std::string> Dibujado(const std::string& que) {
+        std::vector<std::string> suyas;
+        for (const std::string& llamada : p.Dibujado(Control::Mesa).Llamadas()) {
+            if (llamada.starts_with(que + "("))
+                suyas.push_back(llamada);
+        }
+        return suyas;
+    }
+    static void PonRotulo(Integer asiento, const std::string& texto, Color color,
+                          Integer parpadeos) {
+        estado.RotuloSerie(asiento, 1) = texto;
+        estado.ColorRotulo(asiento, 1) = color;
+        estado.ParpadeoRotulo(asiento, 1) = parpadeos;
+    }
+};
+
+} // namespace
+
+TEST_F(AsientoEnMesa, LimpiaSuZonaYPintaSusCartasDeLaPrimeraALaUltima) {
+    RedibujarAsiento(4);
+    EXPECT_EQ(Dibujado("Fieltro").front(), "Fieltro(230, 438, 251, 162)");
+    EXPECT_EQ(Dibujado("Carta"),
+              (std::vector<std::string>{"Carta(230, 441; palo 1 valor 1 cara 2 orientación 1)",
+                                        "Carta(304, 441; palo 2 valor 2 cara 2 orientación 1)",
+                                        "Carta(378, 441; palo 4 valor 3 cara 2 orientación 1)"}));
+}
+
+TEST_F(AsientoEnMesa, UnAsientoOcultoEnsenaElDorsoAcostado) {
+    PonMano(1, {{kOros, 1}});
+    RedibujarAsiento(1);
+    EXPECT_EQ(Dibujado("Carta"),
+              (std::vector<std::string>{"Carta(18, 250; palo 1 valor 1 cara 1 orientación 2)"}));
+}
+
+TEST_F(AsientoEnMesa, LaCartaQueSeArrastraNoSePinta) {
+    vista.asiento_arrastrado = 4;
+    estado.ArrastraCarta = true;
+    estado.CartaMovida = 2;
+    RedibujarAsiento(4);
+    EXPECT_EQ(Dibujado("Carta").size(), 2U);
+    EXPECT_THAT(Dibujado("Carta")[1], HasSubstr("palo 4 valor 3"));
+}
+
+TEST_F(AsientoEnMesa, UnaCartaLevantadaSePintaDentroDeLaMesa) {
+    estado.Mano(4, 1, 2, kAltura) = kLevantada;
+    RedibujarAsiento(4);
+    EXPECT_THAT(Dibujado("Carta")[1], HasSubstr("Carta(304, 421;"));
+}
+
+TEST_F(AsientoEnMesa, AlBajarLaCartaSeLimpiaTambienDondeLlegaba) {
+    estado.Mano(4, 1, 2, kAltura) = kLevantada;
+    RedibujarAsiento(4);
+    estado.Mano(4, 1, 2, kAltura) = kEnLinea;
+    p.Dibujado(Control::Mesa).Olvida();
+    RedibujarAsiento(4);
+    EXPECT_EQ(Dibujado("Fieltro").front(), "Fieltro(230, 418, 251, 182)");
+}
+
+TEST_F(AsientoEnMesa, UnRotuloVerdeParpadeaConSonidoYSeVa) {
+    PonRotulo(4, "Servido", color::kVerde, 2);
+    EmpiezaTraza();
+    RedibujarAsiento(4);
+    EXPECT_EQ(TrazaDe("Pausa"),
+              (std::vector<std::string>{"Pausa(250)", "Pausa(500)", "Pausa(250)", "Pausa(500)"}));
+    EXPECT_EQ(TrazaDe("Sonido"), (std::vector<std::string>{"Sonido(1, 12)", "Sonido(1, 12)"}));
+    EXPECT_EQ(estado.ParpadeoRotulo(4, 1), 0);
+    EXPECT_EQ(estado.RotuloSerie(4, 1), "");
+}
+
+TEST_F(AsientoEnMesa, UnRotuloDeOtroColorParpadeaEnSilencio) {
+    PonRotulo(4, "Paso", color::kBlanco, 1);
+    EmpiezaTraza();
+    RedibujarAsiento(4);
+    EXPECT_EQ(TrazaDe("Pausa").size(), 2U);
+    EXPECT_TRUE(TrazaDe("Sonido").empty());
+}
+
+TEST_F(AsientoEnMesa, UnRotuloQuietoSeQueda) {
+    PonRotulo(4, "Paso", color::kBlanco, 0);
+    EmpiezaTraza();
+    RedibujarAsiento(4);
+    EXPECT_EQ(TrazaDe("MostrarRotulo"), (std::vector<std::string>{"MostrarRotulo(4)"}));
+    EXPECT_TRUE(TrazaDe("Pausa").empty());
+    EXPECT_EQ(estado.RotuloSerie(4, 1), "Paso");
+    // One letter after the other: P, a, s and o.
+    EXPECT_EQ(Dibujado("Texto").size(), 4U);
+}
+
+TEST_F(AsientoEnMesa, ResaltarParpadeaDosVecesElAsientoDelTurno) {
+    estado.JugadorActual = 4;
+    EmpiezaTraza();
+    ResaltarAsiento();
+    EXPECT_EQ(TrazaDe("Pausa"),
+              (std::vector<std::string>{"Pausa(140)", "Pausa(340)", "Pausa(140)", "Pausa(340)"}));
+    EXPECT_EQ(TrazaDe("RedibujarAsiento"),
+              (std::vector<std::string>{"RedibujarAsiento(4)", "RedibujarAsiento(4)"}));
+}
+
+TEST_F(AsientoEnMesa, LosNombresSonLosDeQuienJuega) {
+    Desactiva({2});
+    estado.NombreJugador(1) = "Ana";
+    estado.NombreJugador(2) = "Luis";
+    estado.NombreJugador(3) = "Eva";
+    estado.NombreJugador(4) = "Íñigo";
+    p.Dibujado(Control::Mesa).Olvida();
+    MostrarNombres();
+    EXPECT_EQ(Dibujado("Texto").size(), 3U + 3U + 5U);
+    EXPECT_THAT(Dibujado("Texto").back(), HasSubstr("\"o\""));
+}
+
+TEST_F(AsientoEnMesa, LasLetrasDelNombreVanCadaOnceAloAnchoYCadaQuinceALoAlto) {
+    for (int asiento : {1, 2, 3, 4})
+        estado.NombreJugador(asiento) = asiento == 4 ? "Eva" : asiento == 1 ? "Ana" : "";
+    MostrarNombres();
+    const auto letras = Dibujado("Texto");
+    ASSERT_EQ(letras.size(), 6U);
+    EXPECT_THAT(letras[0], HasSubstr("Texto(9, 277, \"A\""));
+    EXPECT_THAT(letras[1], HasSubstr("Texto(9, 292, \"n\""));
+    EXPECT_THAT(letras[3], HasSubstr("Texto(344, 583, \"E\""));
+    EXPECT_THAT(letras[4], HasSubstr("Texto(355, 583, \"v\""));
+}
+
+TEST_F(AsientoEnMesa, LaMarcaDelGanadorSePoneYSeQuita) {
+    MarcaGanador(4, true);
+    EXPECT_EQ(Dibujado("Lamina").size(), 1U);
+    EmpiezaTraza();
+    MarcaGanador(4, false);
+    EXPECT_EQ(TrazaDe("RedibujarAsiento"), (std::vector<std::string>{"RedibujarAsiento(4)"}));
+}
