@@ -1,0 +1,83 @@
+#include "table/button_column.h"
+
+#include <gtest/gtest.h>
+
+#include "table/table_ops.h"
+#include "tests/support/live_table.h"
+
+using namespace prueba;
+
+namespace {
+
+struct Columna : MesaViva {
+    Columna() { p.UsaLienzosRegistrados(); }
+    std::string RotuloVerde() { return p.Tablero().NombreDe({Control::Pic_BotContinuar, 0}); }
+    // The lines of the green button: height and words.
+    std::vector<std::string> Renglones() {
+        std::vector<std::string> renglones;
+        for (const std::string& llamada : p.Dibujado(Control::Pic_BotContinuar).Llamadas()) {
+            if (llamada.starts_with("Texto("))
+                renglones.push_back(llamada.substr(0, llamada.find(';')));
+        }
+        return renglones;
+    }
+    Rectangulo Boton(int indice) { return p.Tablero().LugarDe({Control::Pic_Boton, indice}); }
+};
+
+} // namespace
+
+TEST_F(Columna, LosBotonesEstanEnSuLugar) {
+    EXPECT_EQ(p.Tablero().LugarDe({Control::Pic_Botonera, 0}), (Rectangulo{710, 0, 90, 600}));
+    const int y[] = {0, 5, 125, 65, 245, 305, 365, 425, 185};
+    for (int boton = 1; boton <= 8; ++boton) {
+        EXPECT_EQ(Boton(boton).x, 710 + (boton == 2 ? 24 : 20)) << boton;
+        EXPECT_EQ(Boton(boton).y, y[boton]) << boton;
+    }
+}
+
+TEST_F(Columna, DeshabilitarPoneElPunteroProhibido) {
+    HabilitaBoton(1, false);
+    EXPECT_EQ(p.PunteroDe(Control::Pic_Boton, 1), Puntero::Prohibido);
+    EXPECT_FALSE(BotonHabilitado(1));
+    HabilitaBoton(1, true);
+    EXPECT_EQ(p.PunteroDe(Control::Pic_Boton, 1), Puntero::ManoIndice);
+}
+
+TEST_F(Columna, UnBotonSinSuVentanaSigueDeshabilitado) {
+    HabilitaBoton(3, true);
+    EXPECT_FALSE(BotonHabilitado(3));
+    p.formas = {Forma::Normas};
+    HabilitaBoton(3, true);
+    EXPECT_TRUE(BotonHabilitado(3));
+}
+
+TEST_F(Columna, EntreManosElBotonVerdeDiceContinuar) {
+    PedirContinuar(1);
+    EXPECT_TRUE(estado.EsperandoJugada);
+    EXPECT_TRUE(p.EstaVisible(Control::Pic_BotContinuar, 0));
+    EXPECT_EQ(p.PunteroDe(Control::Pic_BotContinuar, 0), Puntero::ManoIndice);
+    EXPECT_EQ(RotuloVerde(), "Continuar");
+    EXPECT_EQ(Renglones(), (std::vector<std::string>{"Texto(43, 10, \"Continuar\""}));
+}
+
+TEST_F(Columna, EnElTurnoDeUnaPersonaOfreceJugarPorElla) {
+    ManoEmpezada(4);
+    estado.NombreJugador(4) = "Ana";
+    PedirContinuar(1);
+    EXPECT_EQ(Renglones(),
+              (std::vector<std::string>{"Texto(43, 3, \"Ana\"", "Texto(43, 18, \"automático\""}));
+}
+
+TEST_F(Columna, EnElTurnoAutomaticoDiceQuienJuega) {
+    ManoEmpezada(2);
+    estado.NombreJugador(2) = "Luis";
+    PedirContinuar(1);
+    EXPECT_EQ(RotuloVerde(), "Juega Luis");
+}
+
+TEST_F(Columna, OcultarQuitaElBotonYLaEspera) {
+    PedirContinuar(1);
+    OcultarContinuar();
+    EXPECT_FALSE(estado.EsperandoJugada);
+    EXPECT_FALSE(p.EstaVisible(Control::Pic_BotContinuar, 0));
+}
