@@ -24,6 +24,7 @@ Rectangulo ZonaConRealce(int asiento);
 // Where the seat's played card lands in the centre.
 struct Punto {
     int x = 0, y = 0;
+    friend bool operator==(const Punto&, const Punto&) = default;
 };
 Punto LugarCentro(int asiento);
 

@@ -103,9 +103,13 @@ void MesaViva::Clic(int x, int y, int boton) {
 }
 
 Punto MesaViva::SobreCarta(Integer asiento, int lugar) const {
-    constexpr int kOrilla = 5; // what shows of a card under ten others is wider than this
+    // What shows of a card under ten others is wider than the one; a raised card still lies in its zone by
+    // more than the other.
+    constexpr int kALoLargo = 5, kATraves = 25;
     ColocarCarta(asiento, lugar, estado.NumCartas(asiento, estado.SerieActual));
-    return {estado.CartaX + kOrilla, estado.CartaY + kOrilla};
+    const bool lateral = AsientoLateral(asiento);
+    return {estado.CartaX + (lateral ? kATraves : kALoLargo),
+            estado.CartaY + (lateral ? kALoLargo : kATraves)};
 }
 
 void MesaViva::EmpiezaTraza() {

@@ -51,36 +51,31 @@ struct Vuelo : MesaViva {
     Vuelos vuelos;
 };
 
-bool Iguales(const std::vector<Punto>& pasos, const std::vector<Punto>& debidos) {
-    return std::equal(pasos.begin(), pasos.end(), debidos.begin(), debidos.end(),
-                      [](const Punto& a, const Punto& b) { return a.x == b.x && a.y == b.y; });
-}
-
 } // namespace
 
 TEST_F(Vuelo, ElCaminoLargoAvanzaVeintiseisYElCortoEnProporcion) {
     Lleva(0, 0, 104, 52);
-    EXPECT_TRUE(Iguales(Pasos(), {{26, 13}, {52, 26}, {78, 39}, {104, 52}}));
+    EXPECT_EQ(Pasos(), (std::vector<Punto>{{26, 13}, {52, 26}, {78, 39}, {104, 52}}));
 }
 
 TEST_F(Vuelo, ElPasoCortoSeRedondea) {
     Lleva(100, 100, 48, 85); // 26 * 15 / 52 = 7.5, half to even
-    EXPECT_TRUE(Iguales(Pasos(), {{74, 92}, {48, 85}}));
+    EXPECT_EQ(Pasos(), (std::vector<Punto>{{74, 92}, {48, 85}}));
 }
 
 TEST_F(Vuelo, UnPasoQueSePasaSeQuedaEnElFin) {
     Lleva(0, 0, 60, 60);
-    EXPECT_TRUE(Iguales(Pasos(), {{26, 26}, {52, 52}, {60, 60}}));
+    EXPECT_EQ(Pasos(), (std::vector<Punto>{{26, 26}, {52, 52}, {60, 60}}));
 }
 
 TEST_F(Vuelo, UnCaminoDemasiadoCortoSeAndaDeUnaVez) {
     Lleva(0, 0, 60, 1);
-    EXPECT_TRUE(Iguales(Pasos(), {{26, 1}, {52, 1}, {60, 1}}));
+    EXPECT_EQ(Pasos(), (std::vector<Punto>{{26, 1}, {52, 1}, {60, 1}}));
 }
 
 TEST_F(Vuelo, HaciaAtrasVaIgual) {
     Lleva(60, 200, 0, 200);
-    EXPECT_TRUE(Iguales(Pasos(), {{34, 200}, {8, 200}, {0, 200}}));
+    EXPECT_EQ(Pasos(), (std::vector<Punto>{{34, 200}, {8, 200}, {0, 200}}));
 }
 
 TEST_F(Vuelo, DespegaYSePosaConSuSonido) {
