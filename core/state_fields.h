@@ -42,7 +42,7 @@ void RecorreCampos(E& bloque, V&& visita) {
 
 // One line a field: as long as the block is.
 template <MismoQue<EstadoJuego> E, class V>
-void RecorreCampos(E& bloque, V&& visita) {
+void RecorreCampos(E& bloque, V&& visita) { // NOLINT(readability-function-size)
     CAMPO(PasoSentido);
     CAMPO(OrientacionAsiento);
     CAMPO(ParejaAsiento);

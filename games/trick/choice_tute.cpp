@@ -252,7 +252,7 @@ private:
 
     // No card that is still about, of any suit, is stronger.
     bool Imbatible(Naipe n) const {
-        const auto fuerza = [this](Integer palo, Integer orden) {
+        const auto fuerza = [](Integer palo, Integer orden) {
             return orden + (palo == estado.PaloTriunfo ? 20 : 0);
         };
         const int propia = fuerza(n.palo, estado.OrdenCarta(n.valor));
