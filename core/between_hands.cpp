@@ -4,6 +4,7 @@
 
 #include "betting/chips.h"
 #include "core/game_state.h"
+#include "core/pending_rules.h"
 #include "core/session_state.h"
 #include "games/game_table.h"
 
@@ -26,10 +27,16 @@ void PonDineroPrevio(EntreManos& entre_manos) {
     }
 }
 
+// The hand start that deals it again steps forward in the direction of that moment.
+Integer AsientoDelQueSeAvanza(Integer asiento) {
+    const int anterior = asiento - PasoDeLaProximaMano();
+    return static_cast<Integer>(anterior < 1 ? 4 : anterior > 4 ? 1 : anterior);
+}
+
 EntreManos AntesDeLaMano() {
     EntreManos entre_manos = ComoEsta();
     if (entre_manos.juegos > 1)
-        AsientoAnterior(entre_manos.mano);
+        entre_manos.mano = AsientoDelQueSeAvanza(entre_manos.mano);
     --entre_manos.juegos;
     if (HabiaDinero())
         PonDineroPrevio(entre_manos);

@@ -88,6 +88,7 @@ void Anuncia(Integer asiento) {
 } // namespace
 
 bool SorteoInicial() {
+    const OrdenFirme orden;
     vista.mazo_centrado = true;
     MostrarNombres();
     bool salio = false;

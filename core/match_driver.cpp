@@ -4,6 +4,7 @@
 #include "core/game_state.h"
 #include "core/initial_draw.h"
 #include "core/main_buttons.h"
+#include "core/pending_rules.h"
 #include "core/random.h"
 #include "core/saving.h"
 #include "core/settings.h"
@@ -129,6 +130,7 @@ void IniciarSesion() {
     LimpiaTodo();
     BajaBanderas();
     BorraManos();
+    sesion.sentido_pendiente = sesion.baraja_pendiente = false;
     SiembraDelReloj(plataforma().Reloj());
     if (estado.PartidaEnCurso) {
         AnunciaContinuacion();
@@ -145,6 +147,7 @@ void IniciarSesion() {
 
 void NuevaPartida() {
     TomaJuegoJugable();
+    AplicaReglasPendientes();
     const FilaJuego& juego = JuegoEnMesa();
     estado.PartidaEnCurso = true;
     LimpiaTodo();

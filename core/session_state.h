@@ -15,9 +15,23 @@ struct Sesion {
     // The result of game JuegosJugados stands in the records: from then until the next hand start. What is
     // saved counts that game as finished.
     bool mano_apuntada = false;
+    // Rules that were changed while a hand was on: the direction and the deck follow at the next hand's start.
+    bool sentido_pendiente = false;
+    bool baraja_pendiente = false;
+    // Deals and draws under way, which walk the seats and the deck: neither may change below them.
+    int orden_firme = 0;
 };
 
 extern Sesion sesion;
+
+// Held by whoever deals or draws.
+class OrdenFirme {
+public:
+    OrdenFirme() { ++sesion.orden_firme; }
+    ~OrdenFirme() { --sesion.orden_firme; }
+    OrdenFirme(const OrdenFirme&) = delete;
+    OrdenFirme& operator=(const OrdenFirme&) = delete;
+};
 
 // True while the driver under way may go on: a match is on and nothing else has been asked for.
 [[nodiscard]] bool PartidaSigue();

@@ -92,6 +92,7 @@ void RepartaUna(Integer asiento, int lugar) {
 }
 
 [[nodiscard]] bool ReparteSolo() {
+    const OrdenFirme orden;
     if (!JuegoEnMesa().mazo_seguido || estado.CartasEnMazo == 0) {
         Barajar();
     }

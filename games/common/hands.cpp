@@ -2,6 +2,7 @@
 
 #include "core/game_state.h"
 #include "core/numeric.h"
+#include "core/pending_rules.h"
 #include "core/saving.h"
 #include "core/session_state.h"
 #include "games/common/trick_state.h"
@@ -124,6 +125,7 @@ void PonAltura(Integer altura) {
 } // namespace
 
 bool IniciarJuego(void (*al_descubrir)()) {
+    AplicaReglasPendientes();
     CuentaJuego();
     if (!RepartirHastaCompletar()) {
         return false;
