@@ -24,28 +24,15 @@ void BotonNueva() {
 }
 
 void BotonPersonal() {
-    estado.VentanaModal = true;
-    estado.JugadoresCambiados = false;
+    AntesDeLaForma();
     plataforma().Abre(Forma::Personal);
-    estado.VentanaModal = false;
-    if (estado.JugadoresCambiados) {
-        ConstruirBaraja();
-        sesion.peticion = Peticion::NuevaPartida;
-        return;
-    }
-    GuardarPartida();
+    TrasLaForma();
 }
 
 void BotonNormas() {
-    estado.JuegoPrevio = estado.JuegoActivo;
-    estado.VentanaModal = true;
+    AntesDeLaForma();
     plataforma().Abre(Forma::Normas);
-    estado.VentanaModal = false;
-    if (estado.JuegoActivo != estado.JuegoPrevio) {
-        sesion.peticion = Peticion::NuevaSesion;
-        return;
-    }
-    GuardarPartida();
+    TrasLaForma();
 }
 
 void BotonTutor() {
@@ -211,6 +198,24 @@ void PulsaBoton(int indice) {
     CambiarCursor(Control::Mesa, 0, Puntero::Flecha);
 }
 
+void AntesDeLaForma() {
+    estado.VentanaModal = true;
+    estado.JugadoresCambiados = false;
+    estado.JuegoPrevio = estado.JuegoActivo;
+}
+
+void TrasLaForma() {
+    estado.VentanaModal = false;
+    if (estado.JuegoActivo != estado.JuegoPrevio) {
+        sesion.peticion = Peticion::NuevaSesion;
+    } else if (estado.JugadoresCambiados) {
+        ConstruirBaraja();
+        sesion.peticion = Peticion::NuevaPartida;
+    } else {
+        GuardarPartida();
+    }
+}
+
 void PulsaContinuar() {
     Oculta(Control::Pic_SelOpciones);
     if (!estado.EsperandoJugada) {
@@ -249,16 +254,13 @@ bool ConfirmarSalida() {
 }
 
 void GuardarYSalir() {
-    if (estado.RepartoEnCurso) {
-        estado.RepartoEnCurso = false;
-        estado.ManoEnCurso = false;
-    }
-    const FilaJuego* juego = FilaDe(estado.JuegoActivo);
-    if (juego != nullptr && juego->restaura != nullptr && !sesion.mano_apuntada) {
-        juego->restaura();
-    }
+    // After a change of game both files are as they should be, and the state still holds the old game's match.
+    const bool ya_guardada = sesion.peticion == Peticion::NuevaSesion;
     sesion.fallo_contado = false;
-    if (!GuardarPartida()) {
+    if (!ya_guardada) {
+        AnulaMano();
+    }
+    if (!ya_guardada && !GuardarPartida()) {
         sesion.estado_salida = 1;
     }
     sesion.peticion = Peticion::Salir;

@@ -11,6 +11,11 @@ void DespachaEvento(const Evento& evento);
 void PulsaBoton(int indice);
 void PulsaContinuar();
 
+// What stands before and after Personal and Normas, whoever opens them. Afterwards a changed game asks for a new
+// session, changed seats for a new match, and anything else is saved.
+void AntesDeLaForma();
+void TrasLaForma();
+
 // True when no match is on or the player says yes.
 [[nodiscard]] bool ConfirmarNueva();
 [[nodiscard]] bool ConfirmarSalida();

@@ -3,24 +3,61 @@
 #include "core/game_state.h"
 #include "core/session_state.h"
 #include "core/settings.h"
+#include "games/game_table.h"
 #include "platform/platform.h"
 #include "table/messages.h"
+
+namespace {
+
+void CuentaFallo(const std::string& fichero) {
+    if (sesion.fallo_contado) {
+        return;
+    }
+    sesion.fallo_contado = true;
+    const std::string texto = "No se ha podido grabar el fichero " + fichero +
+                              ". Compruebe que se puede escribir en la carpeta " +
+                              estado.CarpetaPrograma + ".";
+    Mensaje("Error al guardar los datos", texto, LineasDe(texto), 1);
+}
+
+bool GuardaGeneral() {
+    const bool hecho = GrabarIniGeneral() == ErrorArchivo::Ninguno;
+    if (!hecho) {
+        CuentaFallo("ZOV31.INI");
+    }
+    return hecho;
+}
+
+bool GuardaJuego() {
+    const bool hecho = GrabarIniJuego() == ErrorArchivo::Ninguno;
+    if (!hecho) {
+        CuentaFallo(NombreIniJuego(estado.JuegoActivo));
+    }
+    return hecho;
+}
+
+} // namespace
 
 bool GuardarPartida() {
     if (!plataforma().GuardaPartidas())
         return true;
-    const bool general = GrabarIniGeneral() == ErrorArchivo::Ninguno;
-    const bool juego = GrabarIniJuego() == ErrorArchivo::Ninguno;
-    if (general && juego) {
-        return true;
+    const bool general = GuardaGeneral();
+    return GuardaJuego() && general;
+}
+
+void AnulaMano() {
+    if (estado.RepartoEnCurso) {
+        estado.RepartoEnCurso = false;
+        estado.ManoEnCurso = false;
     }
-    if (!sesion.fallo_contado) {
-        sesion.fallo_contado = true;
-        const std::string texto =
-            "No se ha podido grabar el fichero " +
-            (general ? NombreIniJuego(estado.JuegoActivo) : std::string("ZOV31.INI")) +
-            ". Compruebe que se puede escribir en la carpeta " + estado.CarpetaPrograma + ".";
-        Mensaje("Error al guardar los datos", texto, LineasDe(texto), 1);
+    const FilaJuego* juego = FilaDe(estado.JuegoActivo);
+    if (juego != nullptr && juego->restaura != nullptr && !sesion.mano_apuntada) {
+        juego->restaura();
     }
-    return false;
+}
+
+void GuardarYCambiar(Integer juego) {
+    GuardaJuego();
+    estado.JuegoActivo = juego;
+    GuardaGeneral();
 }
