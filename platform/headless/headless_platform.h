@@ -42,7 +42,7 @@ public:
     int minimizadas = 0;
 
     // Forms that this desktop has, and what opening one does.
-    std::set<Forma> formas;
+    std::set<Forma> formas{Forma::Personal, Forma::Normas};
     std::function<void(Forma)> al_abrir;
 
     // Size of the window, 800 by 600 at first. The game learns of a change by an event or a call of its own.

@@ -2,6 +2,8 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
+#include <array>
 #include <unordered_map>
 
 #include "core/game_state.h"
@@ -48,16 +50,32 @@ int CuantosDe(Control control) {
     }
 }
 
+// The controls of the forms, by name.
+void ExigeDeForma(const std::string& nombre) {
+    constexpr std::array kNombres{
+        "Pic_Selector", "Pic_Buleano",       "Pic_Spin",   "Pic_SpinSube", "Pic_SpinBaja",
+        "Tex_Spin",     "Pic_Potenciometro", "Txt_Nombre", "Pic_BotAyuda", "Pic_BotSalir"};
+    if (std::ranges::find(kNombres, nombre) == kNombres.end())
+        throw ErrorConsola(fmt::format("el control {} no existe", nombre));
+}
+
+void ExigeControl(bool hay, const std::string& nombre, int indice) {
+    if (!hay)
+        throw ErrorConsola(fmt::format("{}({}) no existe", nombre, indice));
+}
+
 } // namespace
 
 Consola::Consola(PlataformaSinPantalla& mesa, std::ostream& salida, Pintor pinta)
     : mesa_(mesa), salida_(salida), pinta_(std::move(pinta)) {
     UsaPlataforma(mesa_);
     RegistraDespacho(&DespachaEvento);
+    mesa_.al_abrir = [this](Forma forma) { forma_.AtiendeLoEncolado(forma); };
     Reinicia();
 }
 
 Consola::~Consola() {
+    mesa_.al_abrir = {};
     EscuchaTraza({});
 }
 
@@ -76,7 +94,9 @@ Consola::Orden Consola::OrdenDe(const std::string& nombre) {
         {"boton", &Consola::Boton},       {"contesta", &Consola::Contesta},
         {"siempre", &Consola::Siempre},   {"traviesa", &Consola::Traviesa},
         {"pasa", &Consola::Pasa},         {"traza", &Consola::Traza},
-        {"pantalla", &Consola::Pantalla},
+        {"pantalla", &Consola::Pantalla}, {"abre", &Consola::Abre},
+        {"cierra", &Consola::Cierra},     {"escribe", &Consola::Escribe},
+        {"desliza", &Consola::Desliza},
     };
     const auto sitio = kOrdenes.find(nombre);
     if (sitio == kOrdenes.end())
@@ -105,6 +125,7 @@ void Consola::Eco(Lector& lector) {
 void Consola::Reinicia() {
     EscuchaTraza({});
     mesa_.Limpia();
+    forma_.Olvida();
     PonMesaNueva();
 }
 
@@ -243,12 +264,46 @@ void Consola::Boton(Lector& lector) {
     const int indice = lector.Fin() ? 0 : lector.Entero();
     lector.ExigeFin();
     const auto control = ControlDe(nombre);
-    if (!control || *control == Control::Mesa)
-        throw ErrorConsola(fmt::format("el control {} no existe", nombre));
+    if (!control || *control == Control::Mesa) {
+        ExigeDeForma(nombre);
+        ExigeControl(forma_.Pulsa(nombre, indice), nombre, indice);
+        AtiendeLoPedido();
+        return;
+    }
     const int cuantos = CuantosDe(*control);
     if (indice > cuantos || indice < (cuantos > 0 ? 1 : 0))
         throw ErrorConsola(fmt::format("{}({}) no existe", nombre, indice));
     mesa_.guion.PulsaControl({*control, indice});
+}
+
+void Consola::Abre(Lector& lector) {
+    const std::string nombre = lector.Palabra();
+    lector.ExigeFin();
+    forma_.Abre(nombre);
+}
+
+void Consola::Cierra(Lector& lector) {
+    lector.ExigeFin();
+    forma_.Cierra();
+    AtiendeLoPedido();
+}
+
+void Consola::Escribe(Lector& lector) {
+    const std::string nombre = lector.Palabra();
+    const int indice = lector.Entero();
+    const auto texto = Convierte<std::string>(lector.Valor());
+    lector.ExigeFin();
+    ExigeDeForma(nombre);
+    ExigeControl(forma_.Escribe(nombre, indice, texto), nombre, indice);
+}
+
+void Consola::Desliza(Lector& lector) {
+    const std::string nombre = lector.Palabra();
+    const int indice = lector.Entero();
+    const int valor = lector.Entero();
+    lector.ExigeFin();
+    ExigeDeForma(nombre);
+    ExigeControl(forma_.Desliza(nombre, indice, valor), nombre, indice);
 }
 
 void Consola::Contesta(Lector& lector) {

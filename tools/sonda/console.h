@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "platform/headless/headless_platform.h"
+#include "tools/sonda/form_at_hand.h"
 #include "tools/sonda/line_reader.h"
 
 class Consola {
@@ -55,10 +56,15 @@ private:
     void Pasa(Lector& lector);
     void Traza(Lector& lector);
     void Pantalla(Lector& lector);
+    void Abre(Lector& lector);
+    void Cierra(Lector& lector);
+    void Escribe(Lector& lector);
+    void Desliza(Lector& lector);
 
     PlataformaSinPantalla& mesa_;
     std::ostream& salida_;
     Pintor pinta_;
+    FormaEnMano forma_;
     int linea_ = 0;
     bool hubo_errores_ = false;
 };

@@ -10,6 +10,7 @@
 #include "core/main_buttons.h"
 #include "core/match_driver.h"
 #include "core/settings.h"
+#include "forms/spin.h"
 #include "games/cinquillo/cinquillo.h"
 #include "games/cinquillo/cinquillo_choice.h"
 #include "games/common/hand_queries.h"
@@ -86,6 +87,10 @@ const std::unordered_map<std::string, Llamada>& LaTabla() {
         {"LeerIniJuego", Llama(&LeerIniJuego)},
         {"GrabarIniGeneral", LlamaPasos(&GrabarIniGeneral)},
         {"GrabarIniJuego", LlamaPasos(&GrabarIniJuego)},
+
+        // The numbers of Normas.
+        {"LimitesSpin", Llama(&LimitesSpin)},
+        {"ActualizaSpin", Llama(&ActualizaSpin)},
 
         // The deck.
         {"ConstruirBaraja", Llama(&ConstruirBaraja)},

@@ -1,0 +1,92 @@
+#include "tools/sonda/form_at_hand.h"
+
+#include <fmt/format.h>
+
+#include <unordered_map>
+
+#include "core/main_buttons.h"
+#include "tools/sonda/literal.h"
+
+namespace {
+
+Forma FormaDe(const std::string& nombre) {
+    static const std::unordered_map<std::string, Forma> kFormas{{"Personal", Forma::Personal},
+                                                                {"Normas", Forma::Normas},
+                                                                {"Marcador", Forma::Marcador},
+                                                                {"Historic", Forma::Historic},
+                                                                {"estadis", Forma::Estadis}};
+    const auto sitio = kFormas.find(nombre);
+    if (sitio == kFormas.end() || MandosDe(sitio->second) == nullptr)
+        throw ErrorConsola(fmt::format("la forma {} no existe", nombre));
+    return sitio->second;
+}
+
+bool CierraForma(const MandosForma& mandos) {
+    mandos.cierra();
+    return true;
+}
+
+} // namespace
+
+void FormaEnMano::Abre(const std::string& nombre) {
+    const Forma forma = FormaDe(nombre);
+    if (Abierta())
+        throw ErrorConsola("ya hay una forma abierta");
+    cambia_ajustes_ = forma == Forma::Personal || forma == Forma::Normas;
+    if (cambia_ajustes_)
+        AntesDeLaForma();
+    mandos_ = MandosDe(forma);
+    mandos_->abre();
+}
+
+void FormaEnMano::Olvida() {
+    mandos_ = nullptr;
+    encoladas_.clear();
+}
+
+// On the open form at once, and what comes after a closing; otherwise when a form opens.
+bool FormaEnMano::Haz(Accion accion) {
+    if (!Abierta()) {
+        encoladas_.push_back(std::move(accion));
+        return true;
+    }
+    const bool hay = accion(*mandos_);
+    if (!mandos_->abierta()) {
+        mandos_ = nullptr;
+        if (cambia_ajustes_)
+            TrasLaForma();
+    }
+    return hay;
+}
+
+void FormaEnMano::Cierra() {
+    Haz(CierraForma);
+}
+
+bool FormaEnMano::Pulsa(const std::string& control, int indice) {
+    if (control == "Pic_BotSalir")
+        return Haz(CierraForma);
+    return Haz([=](const MandosForma& mandos) { return mandos.pulsa(control, indice); });
+}
+
+bool FormaEnMano::Escribe(const std::string& control, int indice, const std::string& texto) {
+    return Haz([=](const MandosForma& mandos) { return mandos.escribe(control, indice, texto); });
+}
+
+bool FormaEnMano::Desliza(const std::string& control, int indice, int valor) {
+    return Haz([=](const MandosForma& mandos) { return mandos.desliza(control, indice, valor); });
+}
+
+void FormaEnMano::AtiendeLoEncolado(Forma forma) {
+    const MandosForma* mandos = MandosDe(forma);
+    if (mandos == nullptr)
+        return;
+    mandos->abre();
+    while (mandos->abierta() && !encoladas_.empty()) {
+        const Accion accion = std::move(encoladas_.front());
+        encoladas_.pop_front();
+        accion(*mandos);
+    }
+    if (mandos->abierta() && !mandos->cierra())
+        mandos->deja();
+}
