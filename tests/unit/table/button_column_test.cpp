@@ -44,6 +44,7 @@ TEST_F(Columna, DeshabilitarPoneElPunteroProhibido) {
 }
 
 TEST_F(Columna, UnBotonSinSuVentanaSigueDeshabilitado) {
+    p.formas.clear();
     HabilitaBoton(3, true);
     EXPECT_FALSE(BotonHabilitado(3));
     p.formas = {Forma::Normas};
