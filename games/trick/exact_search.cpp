@@ -184,11 +184,28 @@ private:
         ganado_[ganador] += tantos;
         if (hondura == horizonte_)
             CuentaSecuencia();
+        else if (hondura + 1 == cartas_)
+            UltimaBaza(baza.ganador);
         else
             Turno(hondura + 1, 1, baza.ganador, {});
         ganado_[ganador] -= tantos;
         if (hondura == 1)
             AnotaPrimeraBaza();
+    }
+
+    // Every hand holds one card: nothing is left to choose.
+    void UltimaBaza(int lider) {
+        BazaBuscada baza;
+        int asiento = lider;
+        for (int turno = 1; turno <= jugadores_; ++turno) {
+            const auto a = static_cast<std::size_t>(asiento);
+            if (quedan_[a] == 0)
+                return;
+            const auto lugar = static_cast<std::size_t>(std::countr_zero(quedan_[a]));
+            Pon(baza, asiento, naipes_[a][lugar], turno == 1);
+            asiento = siguiente_[a];
+        }
+        CierraBaza(cartas_, baza);
     }
 
     void CuentaSecuencia() {
@@ -258,9 +275,12 @@ public:
     void Valora() {
         Propuesta mejor;
         int entradas = 0;
+        Cuenta total;
         for (int lugar = 1; lugar <= cartas_; ++lugar) {
             Propuesta propuesta;
-            if (!Propone(lugar, propuesta))
+            if (lugar == 1 || turno_ == 1)
+                total = Totales(lugar);
+            if (!Propone(lugar, total, propuesta))
                 continue;
             ++entradas;
             if (entradas == 1 || propuesta > mejor) {
@@ -276,10 +296,9 @@ private:
     int turno_, cartas_;
     bool con_tantos_; // the share of the points counts, too
 
-    bool Propone(int lugar, Propuesta& propuesta) const {
+    bool Propone(int lugar, const Cuenta& total, Propuesta& propuesta) const {
         Cuenta propia;
         propia.Suma(ClaveHasta(lugar));
-        const Cuenta total = Totales(lugar);
         const bool gana = propia.conteo != 0 && total.conteo != 0;
         const bool puntua = propia.tantos != 0 && total.tantos != 0;
         if (!gana && !puntua)
@@ -318,8 +337,11 @@ private:
         return total;
     }
 
-    // The key and all longer ones under it; clave names the positions of the first players.
+    // The key and all longer ones under it; clave names the positions of the first players. Beyond the last
+    // key in use there is nothing to add.
     void SumaDesde(Cuenta& total, int puesto, int clave) const {
+        if (clave > busqueda.UltimaClaveUsada)
+            return;
         total.Suma(clave);
         if (puesto == kAsientos)
             return;
