@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "games/state_blocks.h"
+#include "tools/simula/trick_invariants.h"
 
 namespace {
 
@@ -97,6 +98,8 @@ struct Revision {
 };
 
 constexpr Revision kRevisiones[] = {
+    {kTute, RevisaManoBazas, RevisaPartidaBazas},
+    {kBrisca, RevisaManoBazas, RevisaPartidaBazas},
     {kCinquillo, RevisaManoCinquillo, RevisaPartidaCinquillo},
 };
 
