@@ -61,13 +61,13 @@ TEST_F(VistaDeTrick, LaBazaSePintaEnElOrdenEnQueCayo) {
     EnMesa(3, {kOros, 4});
     EnMesa(4, {kOros, 5});
     EnMesa(1, {kOros, 6});
-    EXPECT_EQ(Dibujadas(PintaBaza), (Cartas{"1-4 o1", "1-5 o1", "1-6 o1"}));
-    EXPECT_EQ(Dibujadas([] { PintaBazaSin(4); }), (Cartas{"1-4 o1", "1-6 o1"}));
+    EXPECT_EQ(Dibujadas(PintaBaza), (Cartas{"1-4 o4", "1-5 o1", "1-6 o2"}));
+    EXPECT_EQ(Dibujadas([] { PintaBazaSin(4); }), (Cartas{"1-4 o4", "1-6 o2"}));
 }
 
 TEST_F(VistaDeTrick, ElMazoNoTapaLaBaza) {
     EnMesa(3, {kOros, 4});
-    EXPECT_EQ(Dibujadas(PintaMazo), (Cartas{"4-12 o2", "1-4 o1"}));
+    EXPECT_EQ(Dibujadas(PintaMazo), (Cartas{"4-12 o2", "1-4 o4"}));
 }
 
 TEST_F(VistaDeTrick, LaBazaRecogidaNoVuelve) {
@@ -86,7 +86,7 @@ TEST_F(VistaDeTrick, FueraDeLaManoNoHayBaza) {
 TEST_F(VistaDeTrick, AlRepintarLaMesaEstaTodo) {
     PintaMazo();
     EnMesa(3, {kOros, 4});
-    EXPECT_EQ(Dibujadas(RedibujarMesa), (Cartas{"4-12 o2", "1-4 o1"}));
+    EXPECT_EQ(Dibujadas(RedibujarMesa), (Cartas{"4-12 o2", "1-4 o4"}));
 }
 
 // --- What the rows of the table say ---------------------------------------------------------------------
