@@ -193,10 +193,11 @@ void Banca(int vez) {
     const auto asiento = static_cast<Integer>((vez - 1) / 4 + 1);
     const bool es_banca = (vez - 1) % 4 >= 2;
     const int aspecto = 2 - vez % 2;
+    estado.JugadorBanca = es_banca ? asiento : static_cast<Integer>(asiento % 4 + 1);
     PonPartida(kSieteYMedia);
     PonChips();
+    DibujarMazo(estado.MazoX, estado.MazoY, 30);
     estado.JugadorActual = asiento;
-    estado.JugadorBanca = es_banca ? asiento : static_cast<Integer>(asiento % 4 + 1);
     for (Integer cual = 1; cual <= 4; ++cual) {
         PonCartas(cual, 3 + cual, 4 * cual, kDescubierta);
         estado.SerieTerminada(cual, 1) = cual != asiento;
@@ -211,8 +212,6 @@ void Banca(int vez) {
     }
     if (!es_banca)
         BotonDobSeg(asiento, aspecto, asiento % 2 == 0 ? "D o b l a r" : "S e g u r o");
-    ColocarMazo();
-    DibujarMazo(estado.MazoX, estado.MazoY, 30);
 }
 
 // Figures and frames on the board's ground.
