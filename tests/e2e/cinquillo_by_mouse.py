@@ -3,10 +3,10 @@ middle and continued."""
 
 import time
 
-from lib.table import COLUMN, Deck, expect, hand_at_the_bottom, run, wait_for, xdotool
+from lib.table import COLUMN, Deck, expect, hand_at_the_bottom, run, wait_for
 
-LIMIT_COLUMN = 119  # LimitePartida in the game's settings, three columns, counted from 1
-MATCH_ON_COLUMN = 90
+# Columns of the game's settings, counted from 1: PausaEntreJugadas, LimitePartida.
+PAUSE, LIMIT = 65, 119
 
 
 class Player:
@@ -24,6 +24,10 @@ class Player:
     def hand(self, picture):
         return hand_at_the_bottom(self.table, self.deck, picture)
 
+    def is_mine(self, picture):
+        """The tutor is there for the player's own turn only."""
+        return self.table.main_button_lit("tutor", picture)
+
     def my_turn(self):
         """A picture of the table in which the game waits for the player, or the title of a box."""
         def seen():
@@ -31,45 +35,46 @@ class Player:
             if box:
                 return box[0]
             picture = self.table.shot()
-            return picture if self.table.green_button(picture) else None
+            return picture if self.is_mine(picture) else None
         return wait_for(seen, 60, "the player's turn", every=0.25)
 
     def play_a_card(self, picture):
-        """Tries the cards of the hand from the right until the game takes one. False when it takes none."""
+        """Tries the cards of the hand from the right until the game takes one."""
         hand = self.hand(picture)
         expect(hand, "no card of the player's is found in the picture")
         for card, (x, y) in reversed(hand):
             corner = self.deck.corner_in(picture, x, y)
             self.table.click(x + 6, y + 90)
             time.sleep(0.3)
-            if not self.table.green_button(self.table.shot()):
-                self.sees_it_laid(card, corner, len(hand))
+            if not self.is_mine(self.table.shot()):
+                wait_for(lambda: self.is_laid(card, corner, len(hand)), 6,
+                         f"card {card} of {len(hand)} on the felt and out of the hand", every=0.2)
                 self.played.append(card)
-                print("played", card, "of", len(hand), flush=True)
-                return True
-        return False
+                print("laid", card, "of", len(hand), flush=True)
+                return
+        expect(False, "the game waits for a card and takes none")
 
-    def sees_it_laid(self, card, corner, before):
+    def is_laid(self, card, corner, before):
         x, y, width, height = self.felt()
-        wait_for(lambda: self.table.shot().find(corner, x, y, width, height), 6,
-                 f"card {card} in the middle of the table", every=0.2)
-        left = self.hand(self.table.shot())
-        expect(card not in [mine for mine, _ in left], f"card {card} is still in the hand")
-        expect(len(left) == before - 1, f"{before} cards in hand, then {len(left)}")
+        picture = self.table.shot()
+        left = self.hand(picture)
+        return (picture.find(corner, x, y, width, height) and len(left) == before - 1
+                and card not in [mine for mine, _ in left])
 
     def turn(self):
-        """Plays a turn, or goes on with the green button. Answers the title of a box, if one is open."""
+        """Lays a card when it is the player's turn. Answers the title of a box, if one is open."""
         seen = self.my_turn()
         if isinstance(seen, str):
             return seen
-        if not self.play_a_card(seen):
-            print("no card was taken", flush=True)
-            self.table.press_green()
-            time.sleep(0.6)
+        expect(self.table.green_button(seen), "the green button stands by in the player's turn")
+        self.play_a_card(seen)
         return None
 
     def play_until(self, done):
-        while not done():
+        """Plays until done, or to the end of the hand, which has ten turns of a seat at most."""
+        for _ in range(11):
+            if done():
+                return
             box = self.turn()
             if box == "Final de la mano":
                 self.table.shot("end-of-hand")
@@ -77,6 +82,7 @@ class Player:
                 self.hands += 1
                 return
             expect(box is None, f"an unexpected box «{box}»")
+        expect(False, "the hand does not end")
 
 
 def first_run(table):
@@ -93,11 +99,10 @@ def first_run(table):
     expect(table.wait_for_end() == 0, "leaving the empty table is no failure")
 
 
-def make_it_one_hand(table):
-    """A match that one hand decides, as Normas would set it."""
+def set_column(table, column, text):
     path = table.folder / "ZOV7031.INI"
     data = bytearray(path.read_bytes())
-    data[LIMIT_COLUMN - 1:LIMIT_COLUMN + 2] = b"001"
+    data[column - 1:column - 1 + len(text)] = text
     path.write_bytes(data)
 
 
@@ -119,7 +124,7 @@ def leave_in_the_middle(table, player):
     cards = len(player.played)
     player.play_until(lambda: len(player.played) >= cards + 3)
     expect(player.hands == 0, "the hand is still on")
-    expect(not isinstance(player.my_turn(), str), "it is the player's turn")
+    expect(not isinstance(player.my_turn(), str), "the game waits")
     table.shot("in-the-middle")
     table.press_main("salir")
     window = table.wait_for_box("Posponer la partida en curso", 5)
@@ -130,8 +135,7 @@ def leave_in_the_middle(table, player):
     table.press_main("salir")
     table.answer("Posponer la partida en curso", 0)
     expect(table.wait_for_end() == 0, "leaving is no failure")
-    line = table.settings("ZOV7031.INI").split("\r\n")[0]
-    expect(line[MATCH_ON_COLUMN - 1:MATCH_ON_COLUMN + 1] == "-1", "the match is kept")
+    expect(table.match_on(), "the match is kept")
 
 
 def go_on(table):
@@ -147,10 +151,11 @@ def finish_match(table, player):
     hands = player.hands
     player.play_until(lambda: False)
     expect(player.hands == hands + 1, "a hand was played to its end")
-    box = player.turn()
-    while box is None:
-        box = player.turn()
-    expect(box == "Final de Partida", f"the end of the match, not «{box}»")
+    time.sleep(0.5)
+    expect(table.green_button(table.shot("continue")), "the green button waits")
+    table.press_green()
+    box = "Final de Partida"
+    table.wait_for_box(box, 20)
     table.shot("end-of-match")
     table.answer(box, 0, count=1)
     table.answer("Histórico de partidas jugadas", 0, count=2)
@@ -168,16 +173,16 @@ def play_more(table, player):
 def close_the_window(table):
     wait_for(lambda: not table.box(), 5, "the idle table")
     time.sleep(0.5)
-    line = table.settings("ZOV7031.INI").split("\r\n")[0]
-    expect(line[MATCH_ON_COLUMN - 1:MATCH_ON_COLUMN + 1] == " 0", "no match is on")
-    expect((table.folder / "ZOV7031.HIS").exists(), "the history was written")
-    xdotool("windowactivate", "--sync", table.window, "key", "alt+F4")
+    expect(not table.match_on(), "no match is on")
+    table.close_window()
     expect(table.wait_for_end() == 0, "closing the window ends the program")
 
 
 def play(table):
     first_run(table)
-    make_it_one_hand(table)
+    # One hand decides the match; the green button waits for the player only.
+    set_column(table, LIMIT, b"001")
+    set_column(table, PAUSE, b" 0")
     player = Player(table)
     begin_match(table)
     leave_in_the_middle(table, player)

@@ -72,6 +72,21 @@ class Table:
         self.window = wait_for(found, seconds, "the table").split()[0]
         return self.window
 
+    def begin_empty(self):
+        """Starts the program in an empty folder and comes to the empty table."""
+        self.start()
+        self.answer("Error en la carga de datos iniciales", 0)
+        self.wait_for_window()
+        self.answer("Error en la carga de datos iniciales", 0)
+        self.answer("Descripción general", 1)
+
+    def close_window(self):
+        xdotool("windowactivate", "--sync", self.window, "key", "alt+F4")
+
+    def match_on(self, game="70"):
+        """Whether the game's file keeps an unfinished match: PartidaEnCurso in its columns 90 and 91."""
+        return self.settings(f"ZOV{game}31.INI")[89:91] == "-1"
+
     def wait_for_end(self, seconds=5):
         try:
             return self.process.wait(seconds)
@@ -97,10 +112,13 @@ class Table:
 
     def place(self, window=None):
         """Corner and size of a window's inside."""
-        said = xdotool("getwindowgeometry", window or self.window)
-        x, y = map(int, re.search(r"Position: (-?\d+),(-?\d+)", said).groups())
-        width, height = map(int, re.search(r"Geometry: (\d+)x(\d+)", said).groups())
-        return x, y, width, height
+        said = subprocess.run(["xwininfo", "-id", window or self.window], capture_output=True,
+                              text=True).stdout
+        fields = (r"Absolute upper-left X: +(-?\d+)", r"Absolute upper-left Y: +(-?\d+)",
+                  r"Width: (\d+)", r"Height: (\d+)")
+        found = [re.search(field, said) for field in fields]
+        expect(all(found), "the window is gone")
+        return tuple(int(value.group(1)) for value in found)
 
     def box(self):
         """The title of the box that is open, and its window."""
@@ -140,6 +158,15 @@ class Table:
         yellow = sum(words.data[i] > 220 and words.data[i + 1] > 220 and words.data[i + 2] < 90
                      for i in range(0, len(words.data), 3))
         return yellow > 20
+
+    def main_button_lit(self, button, picture):
+        """Whether a main button is drawn in colour: the others are grey and do nothing."""
+        x, y, width, _ = self.place()
+        across, down = BUTTONS[button]
+        drawn = picture.crop(x + width - COLUMN + across - 20, y + down - 20, 40, 40)
+        pixels = (drawn.data[i:i + 3] for i in range(0, len(drawn.data), 3))
+        coloured = sum(max(p) - min(p) > 60 and not is_felt(p) for p in pixels)
+        return coloured > 200
 
     # What the player does.
 
@@ -226,10 +253,10 @@ def hand_at_the_bottom(table, deck, picture):
 
 
 def _top_of_card(picture, x, low):
-    """The first row from above that is no felt, where a hand of upright cards can begin."""
-    for y in range(low - 185, low - 130):
-        if not is_felt(picture.pixel(x + 8, y)):
-            return y
+    """The upper edge of a card of the hand: up from its middle, the last row that is no felt."""
+    for y in range(low - 100, low - 185, -1):
+        if is_felt(picture.pixel(x + 8, y)):
+            return y + 1 if y < low - 130 else None
     return None
 
 
