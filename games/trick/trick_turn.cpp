@@ -8,7 +8,6 @@
 #include "games/trick/exchange.h"
 #include "games/trick/trick_rules.h"
 #include "table/deck.h"
-#include "table/hand_order.h"
 #include "table/layout.h"
 #include "table/messages.h"
 #include "table/table_input.h"
@@ -50,7 +49,7 @@ void PasaAlSiguiente() {
 // An automatic seat always exchanges; a manual one may, at the pile.
 void PreparaEleccion(Integer asiento) {
     const bool manual = EsManual(asiento);
-    DejaDeOrdenar();
+    estado.ModoOrdenar = false;
     estado.JugadaHecha = false;
     estado.EligeCarta = manual;
     HabilitaBoton(kBotonTutor, manual);
@@ -83,7 +82,7 @@ void EligeLegal() {
 
 void CierraEleccion() {
     estado.EligeCarta = false;
-    DejaDeOrdenar();
+    estado.ModoOrdenar = false;
     HabilitaBoton(kBotonTutor, false);
 }
 

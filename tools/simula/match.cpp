@@ -78,6 +78,9 @@ Simulacion::Simulacion(const OpcionesSimula& opciones) : opciones_(opciones) {
     Exige(opciones.asientos >= 2 && opciones.asientos <= 4, "los asientos son de 2 a 4");
     Exige(opciones.limite >= 1 && opciones.limite <= 999, "el límite va de 1 a 999");
     Exige(!opciones.parejas || opciones.asientos == 4, "las parejas son de cuatro asientos");
+    Exige(opciones.juego != kCinquillo || opciones.asientos == 4, "al Cinquillo juegan cuatro");
+    Exige(opciones.juego != kCinquillo || !opciones.parejas,
+          "al Cinquillo no se juega por parejas");
     UsaPlataforma(mesa_);
     RegistraDespacho(&DespachaEvento);
     if (opciones_.firma) {

@@ -169,8 +169,7 @@ void Consola::Di(Lector& lector) {
     std::string sola;
     const bool unica = VisitaCampo(ruta, [&](const std::string& nombre, Hoja hoja) {
         sola = fmt::format("{} = {}", nombre, Escrito(hoja));
-        if (!EstaVacia(hoja))
-            lineas += sola + '\n';
+        lineas += sola + '\n';
     });
     Responde(unica ? sola : lineas + "fin");
 }
@@ -179,8 +178,7 @@ void Consola::Vuelca(Lector& lector) {
     lector.ExigeFin();
     std::string lineas;
     VisitaEstado([&](const std::string& nombre, Hoja hoja) {
-        if (!EstaVacia(hoja))
-            lineas += fmt::format("{} = {}\n", nombre, Escrito(hoja));
+        lineas += fmt::format("{} = {}\n", nombre, Escrito(hoja));
     });
     Responde(lineas + "fin");
 }

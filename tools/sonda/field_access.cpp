@@ -90,7 +90,7 @@ bool BajaPorElemento(T& elemento, Resto resto, const std::string& nombre,
     }
 }
 
-// tramo: the part of the path that names this field, none when all of it is walked.
+// tramo: the part of the path that names this field, none where a walk passes by: it skips what is empty.
 template <class T>
 bool BajaPorCampo(T& campo, Tramo const* tramo, Resto resto, const std::string& nombre,
                   const VisitaHoja& visita) {
@@ -98,6 +98,8 @@ bool BajaPorCampo(T& campo, Tramo const* tramo, Resto resto, const std::string& 
     if constexpr (!Forma<T>::kTabla) {
         if (con_indices)
             throw ErrorConsola(fmt::format("{} no lleva índices", nombre));
+        if (tramo == nullptr && campo == T{})
+            return false;
         return BajaPorElemento(campo, resto, nombre, visita);
     } else {
         if (con_indices) {
@@ -107,9 +109,11 @@ bool BajaPorCampo(T& campo, Tramo const* tramo, Resto resto, const std::string& 
         }
         if (!resto.empty())
             throw ErrorConsola(fmt::format("{} necesita sus índices", nombre));
-        for (std::size_t i = 0; i < T::kTotal; ++i) {
-            BajaPorElemento(campo.begin()[static_cast<std::ptrdiff_t>(i)], {},
-                            ConIndices(nombre, IndicesDe<T>(i)), visita);
+        std::size_t celda = 0;
+        for (auto& elemento : campo) {
+            if (!(elemento == typename T::Valor{}))
+                BajaPorElemento(elemento, {}, ConIndices(nombre, IndicesDe<T>(celda)), visita);
+            ++celda;
         }
         return false;
     }
@@ -142,11 +146,6 @@ std::string Escrito(Hoja hoja) {
                 return Escrito(*valor);
         },
         hoja);
-}
-
-bool EstaVacia(Hoja hoja) {
-    return std::visit(
-        [](const auto* valor) { return *valor == std::remove_cvref_t<decltype(*valor)>{}; }, hoja);
 }
 
 bool VisitaCampo(const Ruta& ruta, const VisitaHoja& visita) {

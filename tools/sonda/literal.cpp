@@ -47,7 +47,10 @@ double Convierte<double>(const Literal& literal) {
 
 template <>
 float Convierte<float>(const Literal& literal) {
-    return static_cast<float>(NumeroDe(literal));
+    const double numero = NumeroDe(literal);
+    if (std::abs(numero) > std::numeric_limits<float>::max())
+        throw ErrorConsola(fmt::format("{} es demasiado grande", numero));
+    return static_cast<float>(numero);
 }
 
 template <>

@@ -93,6 +93,12 @@ TEST(Simula, SoloAdmiteOpcionesQueHaganUnaPartida) {
     opciones = Cinquillo(1);
     opciones.sentido = 0;
     EXPECT_THROW(Simula(opciones), std::invalid_argument);
+    opciones = Cinquillo(1);
+    opciones.asientos = 3;
+    EXPECT_THROW(Simula(opciones), std::invalid_argument);
+    opciones = Cinquillo(1);
+    opciones.parejas = true;
+    EXPECT_THROW(Simula(opciones), std::invalid_argument);
 }
 
 } // namespace

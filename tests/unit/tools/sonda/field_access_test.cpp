@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <map>
+#include <algorithm>
 
 #include "games/state_blocks.h"
 
@@ -20,8 +20,7 @@ struct CamposPorNombre : testing::Test {
     static std::vector<std::string> Di(std::string_view campo) {
         std::vector<std::string> lineas;
         VisitaCampo(De(campo), [&](const std::string& nombre, Hoja hoja) {
-            if (!EstaVacia(hoja))
-                lineas.push_back(nombre + " = " + Escrito(hoja));
+            lineas.push_back(nombre + " = " + Escrito(hoja));
         });
         return lineas;
     }
@@ -98,16 +97,22 @@ TEST_F(CamposPorNombre, LoQueNoExisteOSeSaleEsUnError) {
 }
 
 TEST_F(CamposPorNombre, ElEstadoEnteroVaEnElOrdenDeSuLista) {
-    std::map<std::string, std::size_t> sitio;
-    std::size_t cuantas = 0;
-    VisitaEstado([&](const std::string& nombre, Hoja) { sitio[nombre] = ++cuantas; });
+    estado.Juegos(2000).Total = 9;
+    estado.PartidaEnCurso = true;
+    estado.OrientacionAsiento(4) = 4;
+    estado.OrientacionAsiento(3) = 3;
+    estado.PasoSentido = -1;
+    bazas.CartaJugada(kOros, 5) = 2;
+    const std::vector<std::string> puestos{"PasoSentido",           "OrientacionAsiento(3)",
+                                           "OrientacionAsiento(4)", "PartidaEnCurso",
+                                           "Juegos(2000).Total",    "CartaJugada(1,5)"};
+    std::vector<std::string> nombres;
+    VisitaEstado([&](const std::string& nombre, Hoja) { nombres.push_back(nombre); });
 
-    EXPECT_EQ(sitio.size(), cuantas);
-    EXPECT_EQ(sitio["PasoSentido"], 1u);
-    EXPECT_LT(sitio["OrientacionAsiento(3)"], sitio["OrientacionAsiento(4)"]);
-    EXPECT_LT(sitio["OrientacionAsiento(4)"], sitio["PartidaEnCurso"]);
-    EXPECT_LT(sitio["PartidaEnCurso"], sitio["Juegos(2000).Total"]);
-    EXPECT_LT(sitio["Juegos(2000).Total"], sitio["CartaJugada(1,5)"]);
+    std::erase_if(nombres, [&](const std::string& nombre) {
+        return std::find(puestos.begin(), puestos.end(), nombre) == puestos.end();
+    });
+    EXPECT_EQ(nombres, puestos);
 }
 
 } // namespace

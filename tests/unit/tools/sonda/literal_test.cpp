@@ -31,6 +31,12 @@ TEST(Literal, CurrencyTieneCuatroDecimales) {
     EXPECT_EQ(Convierte<Currency>(Literal(0.00004)), Currency());
 }
 
+TEST(Literal, UnNumeroCortoNoAdmiteLosEnormes) {
+    EXPECT_EQ(Convierte<float>(Literal(0.25)), 0.25f);
+    EXPECT_THROW(Convierte<float>(Literal(1e39)), ErrorConsola);
+    EXPECT_THROW(Convierte<Currency>(Literal(1e300)), std::range_error);
+}
+
 TEST(Escrito, ElTextoMasCortoQueSeLeeIgual) {
     EXPECT_EQ(Escrito(12LL), "12");
     EXPECT_EQ(Escrito(true), "-1");
