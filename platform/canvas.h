@@ -34,6 +34,7 @@ struct Fuente {
     int alto = 13; // pixels of the letter's body
     bool negrita = false;
     bool fija = false; // all characters equally wide
+    int tope = 0;      // pixels: a wider text is drawn narrower to fit; 0 no limit
 };
 
 enum class Alineacion { Izquierda, Centro, Derecha };
@@ -58,8 +59,9 @@ public:
     // One line of text; y is the top of its line box, x the left, middle or right of the text.
     virtual void Texto(int x, int y, std::string_view texto, const Fuente& fuente, Color color,
                        Alineacion alineacion) = 0;
-    // A card at its upper left corner; its round corners stay clear. MiniCarta draws it made smaller, ancho
-    // by alto pixels (the manual spread, a card in the player's hand).
+    // A card at its upper left corner; its round corners stay clear. MiniCarta draws no more of it than its
+    // upper left, ancho by alto pixels at full size, as a small card of its own: number and suit stand there and
+    // stay legible (the manual spread, a card on the pointer). It is drawn upright; more than the card has is cut.
     virtual void Carta(int x, int y, const ImagenCarta& carta) = 0;
     virtual void MiniCarta(int x, int y, int ancho, int alto, const ImagenCarta& carta) = 0;
     virtual void Lamina(int x, int y, const lamina::Recorte& recorte) = 0;

@@ -16,7 +16,8 @@ namespace {
 constexpr int kLadoBoton = 50;
 constexpr int kAnchoContinuar = 86, kAltoContinuar = 36;
 constexpr int kMargenAbajo = 16;
-constexpr Fuente kLetraContinuar{.alto = 12, .negrita = true};
+// A long name with its serie is drawn narrower rather than over the button's rim.
+constexpr Fuente kLetraContinuar{.alto = 12, .negrita = true, .tope = 78};
 
 struct BotonPrincipal {
     int x, y;

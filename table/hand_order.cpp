@@ -149,3 +149,8 @@ void AbandonaArrastre() {
     Oculta(Control::Pic_Mover);
     RedibujarAsiento(vista.asiento_arrastrado);
 }
+
+void DejaDeOrdenar() {
+    AbandonaArrastre();
+    estado.ModoOrdenar = false;
+}

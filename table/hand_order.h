@@ -12,6 +12,9 @@ void MueveArrastrada(int x, int y);
 void SueltaArrastrada();
 // The taken card goes back to its own place (the match was left, the drag was broken).
 void AbandonaArrastre();
+// The end of putting in order, before a hand changes: a taken card would be put down by a place that may no
+// longer hold it. Clears ModoOrdenar.
+void DejaDeOrdenar();
 
 // The small card that follows the pointer, its corner at (x, y).
 void PonMover(Integer palo, Integer valor, int x, int y);

@@ -39,29 +39,53 @@ void CalculaZonas() {
     pon(4, frente, alto - kFondoZona - 2, frente + kLargoZona, alto - 1);
 }
 
-// The corner of the first stack of an area: areas 0..3 stand beside the zones of seats 1..4, 4..7 in front
-// of them, 8..11 next to those, 12 to 14 in the middle.
+// The box of an area: two columns of three stacks. A stack of eight chips grows upwards out of it.
+constexpr int kFicha = 33, kCreceFicha = 21, kAire = 4;
+constexpr int kAnchoFichas = kPasoFicha + kFicha, kAltoFichas = 2 * kPasoFicha + kFicha;
+
+// Beside the seat's zone, the first area or the second.
+Punto FichasJunto(int asiento, bool segunda) {
+    const int corrido = kAire + (segunda ? kAnchoFichas + kAire : 0);
+    switch (asiento) {
+    case 1:
+        return {corrido, estado.MesaArriba(1) - kAltoFichas - kAire};
+    case 2:
+        return {segunda ? estado.MesaDerecha(2) + 2 * kAire
+                        : estado.MesaIzquierda(2) - 2 * kAire - kAnchoFichas,
+                kAire + kCreceFicha};
+    case 3:
+        return {estado.AnchoMesa - kAnchoFichas - corrido,
+                estado.MesaArriba(3) - kAltoFichas - kAire};
+    default:
+        return {estado.MesaDerecha(4) + kAire + corrido, estado.AltoPantalla - kAire - kAltoFichas};
+    }
+}
+
+// On the table before the seat's zone, at its upper or left end.
+Punto FichasDelante(int asiento) {
+    constexpr int kDesdeLaZona = kBanda + kAire;
+    switch (asiento) {
+    case 1:
+        return {estado.MesaDerecha(1) + kDesdeLaZona, estado.MesaArriba(1) + kCreceFicha};
+    case 2:
+        return {estado.MesaIzquierda(2), estado.MesaAbajo(2) + kDesdeLaZona + kCreceFicha};
+    case 3:
+        return {estado.MesaIzquierda(3) - kDesdeLaZona - kAnchoFichas,
+                estado.MesaArriba(3) + kCreceFicha};
+    default:
+        return {estado.MesaIzquierda(4), estado.MesaArriba(4) - kDesdeLaZona - kAltoFichas};
+    }
+}
+
+// The corner of the first stack of an area: areas 0..3 and 4..7 stand beside the zones of seats 1..4, 8..11 before
+// them, 12 to 14 in the middle.
 Punto EsquinaFichas(int area) {
-    constexpr int kSeparacion = 8;
-    const int asiento = area % 4 + 1;
-    const int corrido = area < 4 ? 0 : 2 * kPasoFicha + kSeparacion;
     if (area >= 12) {
         return {estado.CentroX - kPasoFicha + (area - 13) * 3 * kPasoFicha,
                 estado.CentroY - kPasoFicha};
     }
-    const int lejos = area < 8 ? 0 : 3 * kPasoFicha;
-    switch (asiento) {
-    case 1:
-        return {corrido, estado.MesaAbajo(1) + kSeparacion + lejos};
-    case 2:
-        return {estado.MesaIzquierda(2) - 2 * kPasoFicha - kSeparacion - lejos, corrido};
-    case 3:
-        return {estado.AnchoMesa - 2 * kPasoFicha - corrido,
-                estado.MesaArriba(3) - 3 * kPasoFicha - kSeparacion - lejos};
-    default:
-        return {estado.MesaDerecha(4) + kSeparacion + lejos,
-                estado.AltoPantalla - 3 * kPasoFicha - corrido};
-    }
+    const int asiento = area % 4 + 1;
+    return area >= 8 ? FichasDelante(asiento) : FichasJunto(asiento, area >= 4);
 }
 
 void CalculaFichas() {

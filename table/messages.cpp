@@ -17,11 +17,13 @@ constexpr int kTipAviso = 0; // says how to bring the panel back; the next close
 constexpr int kTemaAviso = 2149;
 constexpr int kRenglonesTip = 5;
 constexpr int kLetrasTip = 29;
-constexpr int kLetrasMensaje = 58; // characters of a line of the box
-constexpr int kAnchoSugerencia = 190;
+constexpr int kLetrasMensaje = 58;    // characters of a line of the box
+constexpr int kAnchoSugerencia = 217; // 29 letters and their margins
 constexpr int kAltoSugerencia = 78;
 constexpr int kSonidoBoton = 9;
 constexpr Long kVueltaReloj = 0x7FFFFFFF; // the mark keeps so many bits of the clock
+// The largest letter whose lines, 10 pixels apart, do not run into each other.
+constexpr Fuente kLetraTip{.alto = 11, .fija = true};
 constexpr Rectangulo kMasAyuda{4, 1, 76, 20};
 constexpr Rectangulo kCerrar{kAnchoSugerencia - 19, 2, 16, 16};
 
@@ -65,7 +67,7 @@ void PintaPanel() {
         panel.Texto(
             7, 10 * k + 10,
             Medio(estado.Sugerencias(estado.TipActual).Texto, kLetrasTip * (k - 1) + 1, kLetrasTip),
-            {.alto = 10, .fija = true}, color::kAzul, Alineacion::Izquierda);
+            kLetraTip, color::kAzul, Alineacion::Izquierda);
     }
 }
 

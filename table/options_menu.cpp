@@ -11,7 +11,7 @@
 namespace {
 
 constexpr int kAltoEntrada = 18, kMargen = 4;
-constexpr int kAncho = 226;
+constexpr int kAncho = 244; // the longer entry, in whatever letters the desktop has
 constexpr int kEntradaManual = 4, kEntradaSola = 5;
 
 // The number of the n-th entry on show, 0 for none.

@@ -18,7 +18,7 @@ namespace {
 
 constexpr int kLargoRotulo = 250;
 constexpr int kPasoLetraAlLado = 11, kPasoLetraAbajo = 15;
-constexpr Fuente kLetraNombre{.alto = 14, .negrita = true};
+constexpr int kAltoLetra = 14;
 constexpr int kAltoRenglon = 18;
 constexpr int kSonidoParpadeo = 12;
 
@@ -56,18 +56,22 @@ Rectangulo BandaDelRotulo(int asiento) {
     }
 }
 
-// One letter after the other along the band, paso pixels apart, centred on it.
+// One letter after the other along the band, paso pixels apart, centred on it. Where letters are closer than they
+// are large, those beside each other are drawn narrower, those below each other smaller.
 void LetraALetra(int asiento, const Rectangulo& banda, const std::string& texto, int paso,
                  Color color) {
     const int letras = Longitud(texto);
     const bool columna = AsientoLateral(asiento);
     const int largo = (letras - 1) * paso;
+    const Fuente letra{.alto = columna ? std::min(kAltoLetra, paso * 4 / 3) : kAltoLetra,
+                       .negrita = true,
+                       .tope = columna ? 0 : paso};
     const int centro = columna ? banda.y + banda.alto / 2 : banda.x + banda.ancho / 2;
     for (int i = 0; i < letras; ++i) {
         const int punto = centro - largo / 2 + i * paso;
         const int x = columna ? banda.x + banda.ancho / 2 : punto;
-        const int y = columna ? punto - kLetraNombre.alto / 2 - 1 : banda.y + 1;
-        Mesa().Texto(x, y, Medio(texto, i + 1, 1), kLetraNombre, color, Alineacion::Centro);
+        const int y = columna ? punto - letra.alto / 2 - 1 : banda.y + 1;
+        Mesa().Texto(x, y, Medio(texto, i + 1, 1), letra, color, Alineacion::Centro);
     }
 }
 

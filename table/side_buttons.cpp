@@ -14,7 +14,9 @@ namespace {
 constexpr int kSeparacion = 4; // between a button and its neighbours
 constexpr int kBandaRotulo =
     22; // the caption's strip and the raised cards stand nearer to the zone
-constexpr int kMasAdentroBanca = 38;
+constexpr int kLargoZona = 250;
+// The pile lies before the bank: its buttons stand on both sides of it, 38 and more further apart.
+constexpr int kMitadMazo = 56, kMitadMazoAlto = 84;
 constexpr Fuente kLetraBoton{.alto = 12, .negrita = true};
 
 // A control of ancho by alto on the inner side of the seat's zone, a lo largo pixels along its edge.
@@ -56,16 +58,26 @@ bool EsBanca(int asiento) {
     return estado.JuegoConBanca && asiento == estado.JugadorBanca;
 }
 
+// Along the zone's edge to Pic_BotSuperior(index): the two stand on both sides of the zone's middle.
+int PrincipioSuperior(int asiento, int index) {
+    const bool vertical = AsientoLateral(asiento);
+    const lamina::Recorte& recorte = lamina::kBotonSuperiorArriba;
+    const int largo = vertical ? recorte.alto : recorte.ancho;
+    const int mitad_mazo = vertical ? kMitadMazoAlto : kMitadMazo;
+    const int del_medio = EsBanca(asiento) ? mitad_mazo + kSeparacion : kSeparacion / 2;
+    return kLargoZona / 2 + (index == 1 ? -del_medio - largo : del_medio);
+}
+
 } // namespace
 
 void BotonLateral(int asiento, int state, int index) {
     Traza("BotonLateral", asiento, state, index);
     const bool vertical = AsientoLateral(asiento);
     const lamina::Recorte recorte = lamina::BotonLateral(index, vertical, state == 2);
-    // One at each end of the zone.
-    const int lado = vertical ? recorte.alto : recorte.ancho;
-    const int a_lo_largo = index == 1 ? -lado - kSeparacion : 250 + kSeparacion;
-    const int adentro = -recorte.alto - kSeparacion;
+    // One off each inner corner of the zone, clear of the caption, the score plates and the bank's other buttons.
+    const int fuera = vertical ? recorte.alto / 2 + 2 : recorte.ancho + kSeparacion + kBandaRotulo;
+    const int adentro = vertical ? kBandaRotulo : kSeparacion;
+    const int a_lo_largo = index == 1 ? -fuera : kLargoZona + fuera - recorte.ancho;
     Pon(Control::Pic_BotLateral, index,
         JuntoAlAsiento(asiento, a_lo_largo, adentro, recorte.ancho, recorte.alto), recorte, "",
         index == 1 ? "Serie anterior" : "Serie siguiente");
@@ -75,12 +87,9 @@ void BotonSuperior(int asiento, int state, int index) {
     Traza("BotonSuperior", asiento, state, index);
     const lamina::Recorte& recorte =
         state == 2 ? lamina::kBotonSuperiorPulsado : lamina::kBotonSuperiorArriba;
-    const int adentro = kBandaRotulo + (EsBanca(asiento) ? kMasAdentroBanca : 0);
-    const int paso = AsientoLateral(asiento) ? recorte.alto : recorte.ancho;
-    const int principio = (250 - 2 * paso - kSeparacion) / 2;
     Pon(Control::Pic_BotSuperior, index,
-        JuntoAlAsiento(asiento, principio + (index - 1) * (paso + kSeparacion), adentro,
-                       recorte.ancho, recorte.alto),
+        JuntoAlAsiento(asiento, PrincipioSuperior(asiento, index), kBandaRotulo, recorte.ancho,
+                       recorte.alto),
         recorte, index == 1 ? "  C a r t a" : "S e r v i d o", index == 1 ? "Carta" : "Servido");
 }
 
@@ -88,12 +97,15 @@ void BotonDobSeg(int asiento, int state, const std::string& texto) {
     Traza("BotonDobSeg", asiento, state, texto);
     const lamina::Recorte& recorte =
         state == 2 ? lamina::kBotonDobSegPulsado : lamina::kBotonDobSegArriba;
-    constexpr int kBajoLosOtros = 24 + kSeparacion;
-    const int adentro = kBandaRotulo + (AsientoLateral(asiento) ? 90 + kSeparacion : kBajoLosOtros);
-    const int largo = AsientoLateral(asiento) ? recorte.alto : recorte.ancho;
+    // Below the other two.
+    const bool vertical = AsientoLateral(asiento);
+    const int bajo_los_otros = lamina::kBotonSuperiorArriba.alto + kSeparacion;
+    const int a_lo_largo = vertical ? PrincipioSuperior(asiento, 2) + bajo_los_otros
+                                    : (kLargoZona - recorte.ancho) / 2;
+    const int adentro = kBandaRotulo + (vertical ? 0 : bajo_los_otros);
     Pon(Control::Pic_BotDobSeg, 0,
-        JuntoAlAsiento(asiento, (250 - largo) / 2, adentro, recorte.ancho, recorte.alto), recorte,
-        texto, texto == "D o b l a r" ? "Doblar" : "Seguro");
+        JuntoAlAsiento(asiento, a_lo_largo, adentro, recorte.ancho, recorte.alto), recorte, texto,
+        texto == "D o b l a r" ? "Doblar" : "Seguro");
 }
 
 void MostrarPuntos(int asiento) {
@@ -107,7 +119,7 @@ void MostrarPuntos(int asiento) {
     const double puntos = juego.puntos(asiento, estado.SerieActual);
     const bool medios = puntos != static_cast<int>(puntos);
     Pon(Control::Pic_Tantos, asiento,
-        JuntoAlAsiento(asiento, 250 + kSeparacion,
+        JuntoAlAsiento(asiento, kLargoZona + kSeparacion,
                        AsientoLateral(asiento) ? -placa.ancho : -placa.alto, placa.ancho,
                        placa.alto),
         placa, "", "Puntos de " + estado.NombreJugador(asiento));

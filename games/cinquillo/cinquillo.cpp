@@ -46,12 +46,6 @@ void SugiereAlEmpezar() {
     }
 }
 
-// A card that is being put at another place would be moved by a place that no longer holds it.
-void DejaDeOrdenar() {
-    AbandonaArrastre();
-    estado.ModoOrdenar = false;
-}
-
 void PreparaEleccion(Integer asiento) {
     DejaDeOrdenar();
     estado.JugadaHecha = false;

@@ -8,6 +8,7 @@
 #include "games/trick/exchange.h"
 #include "games/trick/trick_rules.h"
 #include "table/deck.h"
+#include "table/hand_order.h"
 #include "table/layout.h"
 #include "table/messages.h"
 #include "table/table_input.h"
@@ -49,7 +50,7 @@ void PasaAlSiguiente() {
 // An automatic seat always exchanges; a manual one may, at the pile.
 void PreparaEleccion(Integer asiento) {
     const bool manual = EsManual(asiento);
-    estado.ModoOrdenar = false;
+    DejaDeOrdenar();
     estado.JugadaHecha = false;
     estado.EligeCarta = manual;
     HabilitaBoton(kBotonTutor, manual);
@@ -82,7 +83,7 @@ void EligeLegal() {
 
 void CierraEleccion() {
     estado.EligeCarta = false;
-    estado.ModoOrdenar = false;
+    DejaDeOrdenar();
     HabilitaBoton(kBotonTutor, false);
 }
 

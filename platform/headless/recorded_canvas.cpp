@@ -44,8 +44,9 @@ void LienzoRegistrado::Linea(int x1, int y1, int x2, int y2, Color color, int gr
 void LienzoRegistrado::Texto(int x, int y, std::string_view texto, const Fuente& fuente,
                              Color color, Alineacion alineacion) {
     if (graba_) {
-        Anota(fmt::format("Texto({}, {}, \"{}\"; {}{}{}, {:06X}, {})", x, y, texto, fuente.alto,
-                          fuente.negrita ? " negrita" : "", fuente.fija ? " fija" : "", color,
+        Anota(fmt::format("Texto({}, {}, \"{}\"; {}{}{}{}, {:06X}, {})", x, y, texto, fuente.alto,
+                          fuente.negrita ? " negrita" : "", fuente.fija ? " fija" : "",
+                          fuente.tope > 0 ? fmt::format(" hasta {}", fuente.tope) : "", color,
                           kAlineaciones[static_cast<int>(alineacion)]));
     }
 }

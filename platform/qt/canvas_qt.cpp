@@ -110,19 +110,23 @@ void LienzoQt::Texto(int x, int y, std::string_view texto, const Fuente& fuente,
     const QFont letra = LetraDe(fuente);
     const QFontMetricsF medida(letra);
     const double ancho = medida.horizontalAdvance(letras);
-    const QPointF base(Izquierda(x, ancho, alineacion), y + medida.ascent());
+    const double estrecho = fuente.tope > 0 && ancho > fuente.tope ? fuente.tope / ancho : 1;
+    const QPointF base(Izquierda(x, ancho * estrecho, alineacion), y + medida.ascent());
     const double r = imagenes_.Ratio();
+    const QTransform sitio = QTransform::fromScale(estrecho, 1) *
+                             QTransform::fromTranslate(base.x(), base.y()) *
+                             QTransform::fromScale(r, r);
 
     QPainter& p = Pintor();
     p.save();
-    p.scale(r, r);
+    p.setTransform(sitio, true);
     p.setFont(letra);
     p.setPen(ColorQt(color));
-    p.drawText(base, letras);
+    p.drawText(QPointF(0, 0), letras);
     p.restore();
 
-    const QRectF tinta = medida.boundingRect(letras).translated(base).adjusted(-1, -1, 1, 1);
-    Tocado(QRectF(tinta.topLeft() * r, tinta.size() * r).toAlignedRect());
+    const QRectF tinta = medida.boundingRect(letras).adjusted(-1, -1, 1, 1);
+    Tocado(sitio.mapRect(tinta).toAlignedRect());
 }
 
 void LienzoQt::Carta(int x, int y, const ImagenCarta& carta) {

@@ -16,6 +16,8 @@ namespace {
 
 constexpr int kFilas = 4;
 constexpr Integer kSegundoComodin = 92;
+constexpr double kRadioMiniCarta = 3;
+constexpr QColor kCantoMiniCarta(70, 58, 44);
 
 [[noreturn]] void FallaBaraja(const QString& ruta, const QString& motivo) {
     throw FalloGrave(QStringLiteral("No se puede usar la imagen de la baraja «%1»: %2.")
@@ -189,7 +191,19 @@ QImage Imagenes::Carta(const ImagenCarta& carta) const {
 }
 
 QImage Imagenes::MiniCarta(const ImagenCarta& carta, const QSize& tamano) const {
-    const QImage entera = Carta(carta);
-    return entera.isNull() ? entera
-                           : entera.scaled(tamano, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    const QImage entera = Derecha(carta);
+    if (entera.isNull())
+        return entera;
+    QImage esquina = entera.copy(QRect({0, 0}, tamano.boundedTo(entera.size())));
+    const double grueso = ratio_;
+    const double radio = kRadioMiniCarta * ratio_;
+    QPainter p(&esquina);
+    p.setCompositionMode(QPainter::CompositionMode_DestinationIn);
+    p.drawImage(0, 0, Molde(esquina.size(), radio));
+    p.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setPen(QPen(kCantoMiniCarta, grueso));
+    const double medio = grueso / 2;
+    p.drawRoundedRect(QRectF(esquina.rect()).adjusted(medio, medio, -medio, -medio), radio, radio);
+    return esquina;
 }

@@ -24,7 +24,7 @@ public:
     // The card as it stands on the table, turned, in device pixels, its corners clear. A null image for a
     // card that the deck does not have.
     QImage Carta(const ImagenCarta& carta) const;
-    // The same, made ancho by alto device pixels.
+    // The upper left of the upright card, so many device pixels of it, as a small card with a rim of its own.
     QImage MiniCarta(const ImagenCarta& carta, const QSize& tamano) const;
 
     // A device pixel's felt is this tile's pixel at the same place, the tile repeated from (0, 0).

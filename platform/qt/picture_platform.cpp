@@ -29,6 +29,10 @@ void PlataformaCuadro::CargaBaraja(const std::string& ruta, int columnas) {
     imagenes_.CargaBaraja(QString::fromStdString(ruta), columnas);
 }
 
+void PlataformaCuadro::Vuela(int x, int y, const ImagenCarta& carta) {
+    en_vuelo_ = {{imagenes_.Px(x), imagenes_.Px(y)}, carta};
+}
+
 void PlataformaCuadro::PintaControl(QPainter& pintor, ControlMesa cual, LienzoRetenido& lienzo) {
     if (!Tablero().EstaVisible(cual))
         return;
@@ -40,13 +44,16 @@ QImage PlataformaCuadro::Cuadro() {
     LienzoDe(Control::Mesa, 0);
     QImage cuadro = Retenido({Control::Mesa, 0}).Cuadro().copy();
     QPainter pintor(&cuadro);
-    // A control's number comes after that of what it stands on; the pop-up and the held card lie on top.
-    const auto arriba = [](Control control) {
-        return control == Control::Pic_SelOpciones || control == Control::Pic_Mover;
+    // A control's number comes after that of what it stands on; the pop-up lies over the controls, the card in
+    // flight over everything, the held card over both.
+    const auto altura = [](Control control) {
+        return control == Control::Pic_Mover ? 2 : control == Control::Pic_SelOpciones ? 1 : 0;
     };
-    for (const bool capa : {false, true}) {
+    for (const int capa : {0, 1, 2}) {
+        if (capa == 2 && en_vuelo_)
+            pintor.drawImage(en_vuelo_->donde, imagenes_.Carta(en_vuelo_->carta));
         for (auto& [cual, lienzo] : retenidos_) {
-            if (cual.control != Control::Mesa && arriba(cual.control) == capa)
+            if (cual.control != Control::Mesa && altura(cual.control) == capa)
                 PintaControl(pintor, cual, lienzo);
         }
     }

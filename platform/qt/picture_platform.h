@@ -3,6 +3,7 @@
 // table comes out as one.
 
 #include <map>
+#include <optional>
 
 #include "platform/headless/headless_platform.h"
 #include "platform/qt/canvas_qt.h"
@@ -20,12 +21,20 @@ public:
     bool HayPantalla() const override { return pinta; }
     Lienzo& LienzoDe(Control control, int indice) override;
     void Coloca(Control control, int indice, const Rectangulo& donde) override;
+    void Vuela(int x, int y, const ImagenCarta& carta) override;
+    void Posa() override { en_vuelo_.reset(); }
     void CargaBaraja(const std::string& ruta, int columnas) override;
 
 private:
+    struct EnVuelo {
+        QPoint donde;
+        ImagenCarta carta;
+    };
+
     LienzoRetenido& Retenido(ControlMesa cual);
     void PintaControl(QPainter& pintor, ControlMesa cual, LienzoRetenido& lienzo);
 
     Imagenes imagenes_;
     std::map<ControlMesa, LienzoRetenido> retenidos_;
+    std::optional<EnVuelo> en_vuelo_;
 };

@@ -5,6 +5,7 @@
 #include <QDialog>
 #include <QScreen>
 #include <QStandardPaths>
+#include <QWindow>
 #include <chrono>
 #include <cmath>
 #include <thread>
@@ -21,6 +22,9 @@ namespace {
 
 // The last stretch of a pause is slept without the event loop, which wakes to the millisecond only.
 constexpr Milisegundos kRemate = 2;
+
+// The desktop settles size and place of a new window when it shows it; one that never does is not waited for.
+constexpr Milisegundos kEsperaVentana = 500;
 
 // The table pixels that hold the given device pixels; one more all round where pixels do not coincide.
 QRegion ALaMesa(const QRegion& dispositivo, double ratio) {
@@ -133,6 +137,9 @@ void PlataformaQt::MuestraCareta() {
 void PlataformaQt::MuestraMesa() {
     ventana_->Aparece();
     mesa_->setFocus();
+    const Milisegundos tope = Reloj() + kEsperaVentana;
+    while (!ventana_->windowHandle()->isExposed() && Reloj() < tope)
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
     QCoreApplication::processEvents();
     careta_.reset();
 }

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <initializer_list>
 #include <string>
 #include <vector>
@@ -20,6 +21,17 @@ namespace prueba {
 // Random numbers that put a shuffled deck in the given order: each card, as the shuffle walks them, gets the
 // place that follows. Cards that are not named come behind, in the walk's order.
 std::vector<double> AzarParaBaraja(const std::vector<Carta>& orden);
+
+// The desktop without a screen, with someone who looks on when a box opens.
+struct MesaVigilada : PlataformaSinPantalla {
+    std::function<void(const CajaMensaje&)> al_preguntar;
+
+    Boton Pregunta(const CajaMensaje& caja) override {
+        if (al_preguntar)
+            al_preguntar(caja);
+        return PlataformaSinPantalla::Pregunta(caja);
+    }
+};
 
 class MesaViva : public testing::Test {
 protected:
@@ -54,7 +66,7 @@ protected:
     static std::vector<Carta> ManoDe(Integer asiento);
     static Puntero PunteroEnMesa() { return plataforma().PunteroDe(Control::Mesa, 0); }
 
-    PlataformaSinPantalla p;
+    MesaVigilada p;
     std::vector<std::string> traza;
 };
 

@@ -148,13 +148,17 @@ def round_button(number, state):
 
 
 COLOURS = {  # light, middle, dark
-    "verde": ("#8fe08a", "#2f9a45", "#0f5526"),
+    "verde": ("#8fe08a", "#1a6e30", "#0c4a20"),
     "azul": ("#9cc3ee", "#2f63ad", "#12305f"),
     "rojo": ("#f2958a", "#bf2d30", "#6a0f18"),
     "oro": ("#fdeca8", "#d79a28", "#80500c"),
     "gris": ("#eef1f4", "#9aa3ae", "#4d5560"),
     "marfil": ("#fffdf4", "#ecdfbd", "#b49f6c"),
 }
+
+
+# Faces that carry light letters: only a breath of gloss, so that the letters keep their contrast.
+DARK_FACES = {"verde", "azul", "rojo"}
 
 
 def plain_button(width, height, colour, down, r=5.0):
@@ -164,11 +168,12 @@ def plain_button(width, height, colour, down, r=5.0):
     g = Drawing(width, height, (0, 0, w, h))
     bezel = g.linear("bezel", [(0, "#fff1b8"), (0.5, GOLD), (1, "#8a560c")] if not down else
                      [(0, "#7c4c0a"), (0.5, "#b98220"), (1, "#f2d27c")])
-    face = g.linear("face", [(0, light), (0.18, middle), (1, dark)] if not down else [(0, dark), (0.85, middle), (1, middle)])
+    face = g.linear("face", [(0, light), (0.08, middle), (1, dark)] if not down else [(0, dark), (0.85, middle), (1, middle)])
     k = 3 * r
     g.rect(0.8, 0.8, w - 1.6, h - 1.6, INK, None, r=k + 2)
     g.rect(3, 3, w - 6, h - 6, bezel, None, r=k)
     g.rect(8.5, 8.5, w - 17, h - 17, face, INK, 2.4, r=k - 5)
     if not down:
-        g.rect(12.5, 12, w - 25, (h - 24) * 0.36, WHITE, None, r=k - 8, opacity=0.22)
+        g.rect(12.5, 12, w - 25, (h - 24) * 0.36, WHITE, None, r=k - 8,
+               opacity=0.1 if colour in DARK_FACES else 0.22)
     return g

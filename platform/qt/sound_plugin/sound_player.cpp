@@ -21,7 +21,7 @@ QString RutaDe(int id) {
 int DuracionDe(const QString& ruta) {
     QFile fichero(ruta);
     QWaveDecoder cabecera(&fichero);
-    if (!fichero.exists() || !cabecera.open(QIODevice::ReadOnly))
+    if (!fichero.open(QIODevice::ReadOnly) || !cabecera.open(QIODevice::ReadOnly))
         return 0;
     return cabecera.duration();
 }

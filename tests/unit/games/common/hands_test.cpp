@@ -1,0 +1,250 @@
+#include "games/common/hands.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "core/session_state.h"
+#include "games/common/trick_state.h"
+#include "table/table_ops.h"
+#include "tests/support/live_table.h"
+
+using namespace prueba;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+struct Manos : MesaViva {
+    Manos() {
+        p.formas = {Forma::Personal, Forma::Normas, Forma::Marcador, Forma::Estadis};
+        estado.PartidaEnCurso = true;
+        estado.JugadorMano = 2;
+        estado.NombreJugador(1) = "Ana";
+        estado.NombreJugador(2) = "Luis";
+        estado.NombreJugador(3) = "Eva";
+        estado.NombreJugador(4) = "Iñigo";
+    }
+    static void PorParejas() { estado.ModalidadJuego = kDosParejas; }
+    static bool Empieza() { return IniciarJuego(); }
+};
+
+} // namespace
+
+TEST_F(Manos, ElPrimerJuegoLoEmpiezaElDelSorteo) {
+    ASSERT_TRUE(Empieza());
+    EXPECT_EQ(estado.JuegosJugados, 1);
+    EXPECT_EQ(estado.JugadorMano, 2);
+    EXPECT_TRUE(estado.ManoEnCurso);
+}
+
+TEST_F(Manos, DespuesLaManoPasaAlSiguiente) {
+    ASSERT_TRUE(Empieza());
+    ASSERT_TRUE(Empieza());
+    EXPECT_EQ(estado.JuegosJugados, 2);
+    EXPECT_EQ(estado.JugadorMano, 3);
+}
+
+TEST_F(Manos, EnSentidoInversoPasaAlDeAntes) {
+    estado.SentidoJuego = kInverso;
+    estado.PasoSentido = -1;
+    ASSERT_TRUE(Empieza());
+    ASSERT_TRUE(Empieza());
+    EXPECT_EQ(estado.JugadorMano, 1);
+}
+
+TEST_F(Manos, QuienNoJuegaNoEsMano) {
+    estado.JuegoActivo = kBrisca;
+    Desactiva({3, 4});
+    ASSERT_TRUE(Empieza());
+    ASSERT_TRUE(Empieza());
+    EXPECT_EQ(estado.JugadorMano, 1);
+}
+
+TEST_F(Manos, LaManoAnteriorSeBorra) {
+    estado.SerieActual = estado.SerieEnJuego = 3;
+    estado.NumBaza = 9;
+    estado.PaloTriunfo = kCopas;
+    estado.RotuloSerie(1, 1) = "Paso";
+    estado.Apuesta(1, 1, 2) = 50;
+    bazas.CartaJugada(kOros, 5) = 2;
+    bazas.RegistroBazas(6, 1) = 1;
+    bazas.TantosJugador(2) = 30;
+    bazas.PaloCantado(kOros) = 2;
+    bazas.FallaPalo(kOros, 3) = true;
+    bazas.TuteCantado = true;
+    bazas.CartaCambio = 7;
+    bazas.Arrastre = true;
+    ASSERT_TRUE(Empieza());
+    EXPECT_EQ(estado.SerieActual, 1);
+    EXPECT_EQ(estado.SerieEnJuego, 1);
+    EXPECT_EQ(estado.SeriesJugador(3), 1);
+    EXPECT_EQ(estado.NumBaza, 0);
+    EXPECT_EQ(estado.PaloTriunfo, 0);
+    EXPECT_EQ(estado.RotuloSerie(1, 1), "");
+    EXPECT_EQ(estado.Apuesta(1, 1, 2), 0);
+    EXPECT_EQ(bazas.CartaJugada(kOros, 5), 0);
+    EXPECT_EQ(bazas.RegistroBazas(6, 1), 0);
+    EXPECT_EQ(bazas.TantosJugador(2), Currency(0));
+    EXPECT_EQ(bazas.PaloCantado(kOros), 0);
+    EXPECT_FALSE(bazas.FallaPalo(kOros, 3));
+    EXPECT_FALSE(bazas.TuteCantado);
+    EXPECT_EQ(bazas.CartaCambio, 0);
+    EXPECT_FALSE(bazas.Arrastre);
+}
+
+TEST_F(Manos, ElGanadorDeLaUltimaBazaNoSeOlvida) {
+    estado.GanadorBaza = 3;
+    ASSERT_TRUE(Empieza());
+    EXPECT_EQ(estado.GanadorBaza, 3);
+}
+
+TEST_F(Manos, RepartidoSeHabilitanLosBotones) {
+    for (int boton = 1; boton <= 8; ++boton)
+        HabilitaBoton(boton, false);
+    ASSERT_TRUE(Empieza());
+    for (int boton = 1; boton <= 8; ++boton) {
+        const bool debe = boton == 2 || boton == 3 || boton == 7 || boton == 8;
+        EXPECT_EQ(BotonHabilitado(boton), debe) << boton;
+    }
+}
+
+TEST_F(Manos, ElTriunfoSeDescubreTrasElRepartoYAntesDeLaMano) {
+    EXPECT_TRUE(IniciarJuego([] {
+        EXPECT_EQ(estado.NumCartas(2, 1), 10);
+        EXPECT_FALSE(estado.ManoEnCurso);
+        estado.PaloTriunfo = kBastos;
+    }));
+    EXPECT_EQ(estado.PaloTriunfo, kBastos);
+    EXPECT_TRUE(estado.ManoEnCurso);
+}
+
+TEST_F(Manos, LaPartidaQueSeDejaEnElRepartoNoEmpiezaLaMano) {
+    p.traviesa = true;
+    p.guion.Encola({.tipo = TipoEvento::Termina});
+    EXPECT_FALSE(Empieza());
+    EXPECT_FALSE(estado.ManoEnCurso);
+}
+
+TEST_F(Manos, ElPrimerPasoCaeEnElMano) {
+    for (Integer mano = 1; mano <= 4; ++mano) {
+        estado.JugadorMano = mano;
+        PonAntesDelMano();
+        SiguienteAsiento(estado.JugadorActual);
+        EXPECT_EQ(estado.JugadorActual, mano);
+    }
+}
+
+TEST_F(Manos, ElJuegoMilSueltaElPrimero) {
+    estado.JuegosJugados = 1000;
+    for (int juego = 1; juego <= 1000; ++juego)
+        estado.Juegos(juego).Total = static_cast<Integer>(juego);
+    ASSERT_TRUE(Empieza());
+    EXPECT_EQ(estado.JuegosJugados, 1000);
+    EXPECT_EQ(estado.Juegos(1).Total, 2);
+    EXPECT_EQ(estado.Juegos(999).Total, 1000);
+    EXPECT_EQ(estado.Juegos(1000).Total, 0);
+}
+
+TEST_F(Manos, LasPalabrasDelGanador) {
+    EXPECT_EQ(TextoGana(1, "la mano"), "Ha ganado la mano Ana");
+    EXPECT_EQ(TextoGana(4, "la mano"), "Iñigo, has ganado la mano. ");
+    EXPECT_EQ(TextoGana(3, "la partida"), "Ha ganado la partida Eva");
+    PorParejas();
+    EXPECT_EQ(TextoGana(1, "la mano"), "Han ganado la mano Ana y Eva");
+    EXPECT_EQ(TextoGana(2, "la partida"), "Luis y Iñigo, habéis ganado la partida. ");
+}
+
+TEST_F(Manos, LaMarcaDelGanadorParpadeaCuatroVeces) {
+    estado.GanadorMano = 3;
+    EmpiezaTraza();
+    ParpadeaGanador();
+    EXPECT_EQ(traza.front(), "Sonido(1, 14)");
+    EXPECT_THAT(TrazaDe("Pausa"),
+                ElementsAre("Pausa(490)", "Pausa(200)", "Pausa(490)", "Pausa(200)", "Pausa(490)",
+                            "Pausa(200)", "Pausa(490)", "Pausa(200)"));
+    EXPECT_EQ(TrazaDe("MarcaGanador").size(), 8U);
+    EXPECT_EQ(TrazaDe("MarcaGanador")[0], "MarcaGanador(3, 1)");
+}
+
+TEST_F(Manos, PorParejasParpadeanLosDos) {
+    PorParejas();
+    estado.GanadorMano = 2;
+    EmpiezaTraza();
+    ParpadeaGanador();
+    EXPECT_EQ(TrazaDe("MarcaGanador")[0], "MarcaGanador(2, 1)");
+    EXPECT_EQ(TrazaDe("MarcaGanador")[1], "MarcaGanador(4, 1)");
+    EXPECT_EQ(TrazaDe("MarcaGanador").size(), 16U);
+}
+
+TEST_F(Manos, AlFinalSeEsperaSiHayAlguienAMano) {
+    estado.PausaEntreJugadas = false;
+    EmpiezaTraza();
+    EXPECT_FALSE(CuentaFinalMano("x"));
+    EXPECT_TRUE(sesion.sin_eventos);
+    EXPECT_EQ(traza.front(), "Pausa(750)");
+    EXPECT_EQ(TrazaDe("PedirContinuar").size(), 1U);
+}
+
+TEST_F(Manos, AlFinalSeEsperaConPausaEntreJugadas) {
+    TodoSolo();
+    estado.PausaEntreJugadas = true;
+    p.siempre_continua = true;
+    EmpiezaTraza();
+    EXPECT_TRUE(CuentaFinalMano("x"));
+    EXPECT_EQ(TrazaDe("PedirContinuar").front(), "PedirContinuar(1)");
+}
+
+TEST_F(Manos, SiNadieEsperaHayUnaPausaDeQuinientos) {
+    TodoSolo();
+    EmpiezaTraza();
+    EXPECT_TRUE(CuentaFinalMano("una\r\ndos"));
+    EXPECT_THAT(TrazaDe("Pausa"), ElementsAre("Pausa(750)", "Pausa(500)"));
+    EXPECT_THAT(TrazaDe("PedirContinuar"), IsEmpty());
+    EXPECT_EQ(p.mensajes[0].titulo, "Final de la mano");
+    EXPECT_EQ(p.mensajes[0].lineas, 2);
+}
+
+TEST_F(Manos, QuienJuegaAManoPeroNoEstaEnLaMesaNoHaceEsperar) {
+    estado.PausaEntreJugadas = false;
+    Desactiva({4});
+    EXPECT_TRUE(CuentaFinalMano("x"));
+}
+
+TEST_F(Manos, LaManoGanadaCuentaYSeGuarda) {
+    estado.JuegosJugados = 1;
+    estado.GanadorMano = 3;
+    sesion.mano_apuntada = false;
+    ApuntaMano();
+    EXPECT_EQ(estado.JuegosGanados(3), 1);
+    EXPECT_TRUE(sesion.mano_apuntada);
+    EXPECT_TRUE(p.EnMemoria().contenidos.contains("./ZOV7031.INI"));
+}
+
+TEST_F(Manos, GanaLaPartidaQuienLlegaAlLimite) {
+    estado.LimitePartida = 3;
+    estado.JuegosGanados(2) = 2;
+    EXPECT_FALSE(HayGanadorPartida());
+    estado.JuegosGanados(2) = 3;
+    EXPECT_TRUE(HayGanadorPartida());
+    EXPECT_EQ(estado.GanadorPartida, 2);
+    estado.JuegosGanados(2) = 7;
+    EXPECT_TRUE(HayGanadorPartida());
+}
+
+TEST_F(Manos, ElFinalDeLaPartida) {
+    estado.GanadorPartida = 4;
+    for (int asiento = 1; asiento <= 4; ++asiento)
+        p.Muestra(Control::Pic_Tantos, asiento, true);
+    for (int boton = 1; boton <= 8; ++boton)
+        HabilitaBoton(boton, false);
+    FinalPartida();
+    EXPECT_THAT(Titulos(), ElementsAre("Final de Partida", "Histórico de partidas jugadas"));
+    EXPECT_EQ(p.mensajes[0].texto, "Iñigo, has ganado la partida. ");
+    EXPECT_EQ(p.mensajes[1].texto, "¿Se actualiza el Histórico de partidas?");
+    EXPECT_EQ(p.mensajes[1].modo, 2);
+    EXPECT_FALSE(estado.PartidaEnCurso);
+    for (int asiento = 1; asiento <= 4; ++asiento)
+        EXPECT_FALSE(p.EstaVisible(Control::Pic_Tantos, asiento));
+    for (int boton = 1; boton <= 8; ++boton)
+        EXPECT_EQ(BotonHabilitado(boton), boton == 1 || boton == 3 || boton == 7) << boton;
+}

@@ -1,0 +1,367 @@
+#include "tools/table_states/states.h"
+
+#include <array>
+#include <string>
+
+#include "betting/chips.h"
+#include "core/game_state.h"
+#include "games/game_table.h"
+#include "games/state_blocks.h"
+#include "platform/platform.h"
+#include "table/button_column.h"
+#include "table/hand_order.h"
+#include "table/layout.h"
+#include "table/manual_deal.h"
+#include "table/messages.h"
+#include "table/options_menu.h"
+#include "table/side_buttons.h"
+#include "table/table_ops.h"
+#include "table/table_view.h"
+#include "table/tips.h"
+#include "tools/table_states/hands.h"
+
+namespace {
+
+constexpr const char* kNombreLargo = "Maximilia"; // as wide as nine letters come
+constexpr int kMargen = 6;
+
+Rectangulo ConMargen(const Rectangulo& r) {
+    return {r.x - kMargen, r.y - kMargen, r.ancho + 2 * kMargen, r.alto + 2 * kMargen};
+}
+
+void RedibujaAsientos() {
+    for (int asiento = 1; asiento <= 4; ++asiento)
+        RedibujarAsiento(asiento);
+}
+
+// The column of buttons, all of them enabled or none.
+void Columna(int vez) {
+    for (int boton = 1; boton <= 8; ++boton)
+        HabilitaBoton(boton, vez == 1);
+    PintaColumna();
+}
+
+Rectangulo TrozoColumna(int) {
+    return {estado.AnchoMesa - 10, 0, kAnchoBotonera + 10, 600};
+}
+
+// Every caption of the green button.
+struct CasoVerde {
+    Integer juego;
+    bool mano;
+    Integer control, fase, series;
+    bool levantada;
+};
+constexpr std::array kVerdes{
+    CasoVerde{kCinquillo, false, kAutomatico, 0, 1, false},
+    CasoVerde{kCinquillo, true, kAutomatico, 0, 1, false},
+    CasoVerde{kCinquillo, true, kManual, 0, 1, false},
+    CasoVerde{kPoker, true, kAutomatico, 3, 1, false},
+    CasoVerde{kPoker, true, kAutomatico, 4, 1, false},
+    CasoVerde{kPoker, true, kManual, 4, 1, true},
+    CasoVerde{kBlackJack, true, kAutomatico, 2, 1, false},
+    CasoVerde{kBlackJack, true, kAutomatico, 4, 3, false},
+};
+constexpr int kVerdesEnTotal = static_cast<int>(kVerdes.size()) * 2;
+
+void BotonVerde(int vez) {
+    const CasoVerde& caso = kVerdes[static_cast<std::size_t>(vez - 1) / 2];
+    PonPartida(caso.juego);
+    estado.ManoEnCurso = caso.mano;
+    estado.NombreJugador(4) = kNombreLargo;
+    estado.ControlJugador(4) = caso.control;
+    estado.FaseApuesta = caso.fase;
+    estado.SeriesJugador(4) = caso.series;
+    estado.SerieActual = caso.series;
+    PonCartas(4, 5, 0, kDescubierta);
+    estado.Mano(4, 1, 2, kAltura) = caso.levantada ? kLevantada : kEnLinea;
+    PintaColumna();
+    PedirContinuar(2 - vez % 2);
+}
+
+Rectangulo TrozoVerde(int) {
+    return {estado.AnchoMesa, estado.AltoMesa - 60, kAnchoBotonera, 60};
+}
+
+void Manos(int vez) {
+    const bool espanola = vez % 2 == 0;
+    PonPartida(espanola ? kCinquillo : kPoker);
+    for (Integer asiento = 1; asiento <= 4; ++asiento)
+        PonCartas(asiento, vez, 7 * asiento, kDescubierta);
+    RedibujaAsientos();
+}
+
+void ManosOcultas(int vez) {
+    PonPartida(kSieteYMedia);
+    for (Integer asiento = 1; asiento <= 4; ++asiento)
+        PonCartas(asiento, vez, 0, kDorso);
+    RedibujaAsientos();
+}
+
+void Levantadas(int) {
+    PonPartida(kCinquillo);
+    for (Integer asiento = 1; asiento <= 4; ++asiento) {
+        PonCartas(asiento, 10, 10 * (asiento - 1), kDescubierta);
+        for (int lugar = asiento; lugar <= 10; lugar += 3)
+            estado.Mano(asiento, 1, lugar, kAltura) = kLevantada;
+    }
+    RedibujaAsientos();
+}
+
+// Captions in every colour that the games give them, short, long and too long.
+constexpr Color kCian = 0xFFFF00;
+constexpr std::array kColores{color::kBlanco, color::kVerde, kCian};
+constexpr std::array kRotulos{"Paso", "Descarto 3 cartas", "Ir con el resto de 125", "Black Jack",
+                              "Canto las cuarenta en bastos"};
+
+void Rotulos(int vez) {
+    PonPartida(kSieteYMedia);
+    for (Integer asiento = 1; asiento <= 4; ++asiento) {
+        const auto cual = static_cast<std::size_t>(asiento + vez) % kRotulos.size();
+        PonCartas(asiento, 4 + asiento, 3 * asiento, kDescubierta);
+        estado.RotuloSerie(asiento, 1) = kRotulos[cual];
+        estado.ColorRotulo(asiento, 1) = kColores[static_cast<std::size_t>(vez - 1)];
+    }
+    RedibujaAsientos();
+}
+
+// The names at the edges: short, long, with letters that hang and letters that stand.
+void Nombres(int) {
+    PonPartida(kCinquillo);
+    const char* nombres[] = {"", "Begoña Q.", "Íñigo", "Jugador3", kNombreLargo};
+    for (Integer asiento = 1; asiento <= 4; ++asiento) {
+        estado.NombreJugador(asiento) = nombres[asiento];
+        PonCartas(asiento, 14, 0, kDescubierta);
+    }
+    RedibujaAsientos();
+}
+
+// The pile from full to empty.
+constexpr std::array kAlturasMazo{40, 30, 20, 10, 4, 1, 0};
+
+void Mazo(int vez) {
+    PonPartida(kCinquillo);
+    DibujarMazo(estado.MazoX, estado.MazoY, kAlturasMazo[static_cast<std::size_t>(vez - 1)]);
+}
+
+Rectangulo TrozoMazo(int) {
+    return ConMargen({estado.MazoX - 18, estado.MazoY - 6, 140, 167});
+}
+
+// A card in the air over hands, a plate and the panel.
+void Vuelo(int) {
+    PonPartida(kSieteYMedia);
+    for (Integer asiento = 1; asiento <= 4; ++asiento) {
+        PonCartas(asiento, 8, 5 * asiento, kDescubierta);
+        MostrarPuntos(asiento);
+    }
+    RedibujaAsientos();
+    DibujarMazo(estado.MazoX, estado.MazoY, 20);
+    const Rectangulo zona = ZonaDe(4);
+    plataforma().Vuela(zona.x + zona.ancho - 60, zona.y - 70,
+                       {.palo = kCopas, .valor = 12, .cara = kDescubierta, .orientacion = 1});
+}
+
+void Ganador(int) {
+    PonPartida(kCinquillo);
+    for (Integer asiento = 1; asiento <= 4; ++asiento) {
+        PonCartas(asiento, 2 * asiento - 2, 8 * asiento, kDescubierta);
+        RedibujarAsiento(asiento);
+        MarcaGanador(asiento, true);
+    }
+}
+
+void PonChips() {
+    constexpr Integer kRestos[] = {380, 200, 35, 1250, 487};
+    for (int asiento = 0; asiento <= 4; ++asiento)
+        AsignarResto(asiento, kRestos[asiento]);
+}
+
+void Fichas(int) {
+    PonPartida(kPoker);
+    PonChips();
+    for (Integer asiento = 1; asiento <= 4; ++asiento)
+        PonCartas(asiento, 5, 9 * asiento, kDescubierta);
+    RedibujaAsientos();
+    for (int area = 4; area <= 14; ++area)
+        PintarFichas(area % 5, area);
+}
+
+// What stands beside the seats in the games with a bank: each seat on its turn, as a player and as the bank, its
+// buttons up and pressed.
+void Banca(int vez) {
+    const auto asiento = static_cast<Integer>((vez - 1) / 4 + 1);
+    const bool es_banca = (vez - 1) % 4 >= 2;
+    const int aspecto = 2 - vez % 2;
+    estado.JugadorBanca = es_banca ? asiento : static_cast<Integer>(asiento % 4 + 1);
+    PonPartida(kSieteYMedia);
+    PonChips();
+    DibujarMazo(estado.MazoX, estado.MazoY, 30);
+    estado.JugadorActual = asiento;
+    for (Integer cual = 1; cual <= 4; ++cual) {
+        PonCartas(cual, 3 + cual, 4 * cual, kDescubierta);
+        estado.SerieTerminada(cual, 1) = cual != asiento;
+        MostrarPuntos(cual);
+    }
+    estado.RotuloSerie(asiento, 1) = "Serie 2";
+    estado.ColorRotulo(asiento, 1) = kCian;
+    RedibujaAsientos();
+    for (int indice = 1; indice <= 2; ++indice) {
+        BotonLateral(asiento, aspecto, indice);
+        BotonSuperior(asiento, aspecto, indice);
+    }
+    if (!es_banca)
+        BotonDobSeg(asiento, aspecto, asiento % 2 == 0 ? "D o b l a r" : "S e g u r o");
+}
+
+// Figures and frames on the board's ground.
+void Cifras(int) {
+    const auto tablero = Control::Pic_Apostadora;
+    plataforma().Coloca(tablero, 0, {20, 20, 300, 120});
+    plataforma().Muestra(tablero, 0, true);
+    plataforma().LienzoDe(tablero, 0).Caja({0, 0, 300, 120}, color::kVerdeOscuro);
+    PintarNumero(tablero, 0, 10, 10, "1234567890", 10);
+    PintarNumero(tablero, 0, 10, 35, "75", 5);
+    PintarNumero(tablero, 0, 10, 60, "", 3);
+    PintarMarco(tablero, 0, 130, 10, 150);
+    PintarMarco(tablero, 0, 130, 40, 40);
+    PintarMarco(tablero, 0, 10, 90, 280);
+}
+
+Rectangulo TrozoCifras(int) {
+    return {10, 10, 320, 140};
+}
+
+void Sugerencia(int vez) {
+    estado.VentanaInfo = 1;
+    MostrarSugerencia(Consejos()[static_cast<std::size_t>(vez - 1)].indice);
+}
+
+Rectangulo TrozoSugerencia(int) {
+    return {0, estado.AltoMesa - 84, 200, 84};
+}
+
+// The pop-up, its second entry with the cross that says it is on, and each of them pointed at.
+void Menu(int vez) {
+    PonPartida(kCinquillo);
+    PonCartas(4, 10, 0, kDescubierta);
+    RedibujaAsientos();
+    estado.ModoOrdenar = vez > 3;
+    estado.RatonX = static_cast<Integer>(ZonaDe(4).x + 20);
+    estado.RatonY = static_cast<Integer>(ZonaDe(4).y + 60);
+    PonOpciones(true);
+    MuestraOpciones();
+    Opciones_MouseMove((vez - 1) % 3 * 18);
+}
+
+Rectangulo TrozoMenu(int) {
+    return ConMargen({ZonaDe(4).x, ZonaDe(4).y + 50, 260, 60});
+}
+
+// At the corners the pop-up moves back into the table.
+void MenuEnEsquina(int vez) {
+    PonPartida(kCinquillo);
+    estado.RatonX = vez == 1 ? Integer{0} : estado.AnchoMesa;
+    estado.RatonY = vez == 1 ? Integer{0} : estado.AltoMesa;
+    PonOpciones(true);
+    MuestraOpciones();
+}
+
+struct CasoReparto {
+    Integer juego, comodines;
+    bool colgada;
+};
+constexpr std::array kRepartos{
+    CasoReparto{kCinquillo, 1, false}, CasoReparto{kCinquillo, 1, true},
+    CasoReparto{kPoker, 1, false},     CasoReparto{kPoker, 2, true},
+    CasoReparto{kPoker, 3, false},
+};
+
+// The spread of a manual deal, with a few cards dealt and one on the pointer.
+void Reparto(int vez) {
+    const CasoReparto& caso = kRepartos[static_cast<std::size_t>(vez - 1)];
+    estado.ComodinesJuego = caso.comodines;
+    PonPartida(caso.juego);
+    estado.RepartoEnCurso = true;
+    estado.FilasReparto = caso.comodines > 1 ? Integer{5} : Integer{4};
+    for (auto& queda : estado.CartaEnReparto)
+        queda = true;
+    for (Integer asiento = 1; asiento <= 4 && caso.colgada; ++asiento) {
+        PonCartas(asiento, asiento, 5 * asiento, kDescubierta);
+        for (int lugar = 1; lugar <= asiento; ++lugar) {
+            const CartaDeBaraja carta = NesimaCarta(5 * asiento + lugar - 1);
+            estado.CartaEnReparto(carta.palo, carta.valor) = false;
+        }
+    }
+    RedibujarMesa();
+    if (!caso.colgada)
+        return;
+    estado.FilaReparto = kEspadas;
+    estado.ColumnaReparto = 11;
+    TomaDelReparto();
+    PonMover(kEspadas, 11, estado.ReparteX + 150, estado.ReparteY - 60);
+}
+
+// The draw for the first player.
+void Sorteo(int) {
+    PonPartida(kCinquillo);
+    vista.mazo_centrado = true;
+    vista.cartas_mazo = 34;
+    for (Integer asiento = 1; asiento <= 4; ++asiento) {
+        const CartaDeBaraja carta = NesimaCarta(11 * asiento);
+        vista.sorteada(asiento) = {.palo = carta.palo,
+                                   .valor = carta.valor,
+                                   .cara = kDescubierta,
+                                   .orientacion = OrientacionDe(asiento)};
+    }
+    RedibujarMesa();
+    MostrarNombres();
+}
+
+// Cinquillo: the whole deck laid, with hands that are still full, so that everything meets that can.
+void Cinquillo(int vez) {
+    PonPartida(kCinquillo);
+    for (Integer asiento = 1; asiento <= 4; ++asiento) {
+        PonCartas(asiento, vez == 1 ? 10 : 3, 9 * asiento, kDescubierta);
+        if (vez == 1)
+            estado.Mano(asiento, 1, 4, kAltura) = kLevantada;
+    }
+    for (Integer palo = kOros; palo <= kBastos; ++palo) {
+        for (Integer valor = 1; valor <= 12; ++valor) {
+            const bool tendida =
+                estado.ValorEnBaraja(valor) && (vez == 1 || (valor + palo) % 3 > 0);
+            bazas.CartaJugada(palo, valor) = tendida ? palo : Integer{0};
+        }
+    }
+    estado.VentanaInfo = 1;
+    MostrarSugerencia(50);
+    PedirContinuar(1);
+    RedibujarMesa();
+}
+
+} // namespace
+
+const std::vector<Estampa>& Estampas() {
+    static const std::vector<Estampa> kEstampas{
+        {"columna", Columna, 2, TrozoColumna},
+        {"verde", BotonVerde, kVerdesEnTotal, TrozoVerde},
+        {"manos", Manos, 14},
+        {"ocultas", ManosOcultas, 14},
+        {"levantadas", Levantadas},
+        {"rotulos", Rotulos, static_cast<int>(kColores.size())},
+        {"nombres", Nombres},
+        {"mazo", Mazo, static_cast<int>(kAlturasMazo.size()), TrozoMazo},
+        {"vuelo", Vuelo},
+        {"ganador", Ganador},
+        {"fichas", Fichas},
+        {"banca", Banca, 16},
+        {"cifras", Cifras, 1, TrozoCifras},
+        {"sugerencia", Sugerencia, static_cast<int>(Consejos().size()), TrozoSugerencia},
+        {"menu", Menu, 6, TrozoMenu},
+        {"esquina", MenuEnEsquina, 2},
+        {"reparto", Reparto, static_cast<int>(kRepartos.size())},
+        {"sorteo", Sorteo},
+        {"cinquillo", Cinquillo, 2},
+    };
+    return kEstampas;
+}

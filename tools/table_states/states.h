@@ -1,0 +1,18 @@
+#pragma once
+// The states in which the table can be seen, to be looked at by a person: each lays a new table out and draws
+// through the table operations on the platform in use.
+
+#include <vector>
+
+#include "platform/canvas.h"
+
+struct Estampa {
+    const char* nombre;
+    void (*prepara)(int vez); // vez from 1; the table is new
+    int veces = 1;            // so many states
+    Rectangulo (*trozo)(int) =
+        nullptr; // what of the table is kept of each, the states then stand in one
+                 // picture; empty: all of it, a picture each
+};
+
+const std::vector<Estampa>& Estampas();
