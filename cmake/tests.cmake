@@ -76,7 +76,7 @@ if(Python3_FOUND)
   set_tests_properties(structure.drawings PROPERTIES LABELS structure TIMEOUT 60)
 endif()
 
-# Real widgets, real events, no screen: one Qt Test program a file.
+# Real widgets, real events, no screen: one Qt Test program a file. Serial: some of them measure time.
 zovin_sources(gui_sources PATTERNS tests/gui/*_test.cpp)
 if(gui_sources AND TARGET zovin_qt)
   find_package(Qt6 REQUIRED COMPONENTS Test)
@@ -87,7 +87,7 @@ if(gui_sources AND TARGET zovin_qt)
       AUTOMOC ON RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
     target_link_libraries(gui_${name} PRIVATE zovin_qt Qt6::Test)
     add_test(NAME gui.${name} COMMAND gui_${name} WORKING_DIRECTORY "${test_scratch}")
-    set_tests_properties(gui.${name} PROPERTIES LABELS gui TIMEOUT 240
+    set_tests_properties(gui.${name} PROPERTIES LABELS gui RUN_SERIAL TRUE TIMEOUT 240
       ENVIRONMENT "${test_environment_offscreen}")
   endforeach()
 endif()
