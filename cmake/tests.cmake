@@ -138,7 +138,7 @@ if(TARGET zovin)
     cmake_path(GET script STEM name)
     add_test(NAME e2e.${name}
       COMMAND "${CMAKE_SOURCE_DIR}/cmake/under_xvfb.sh" "${script}")
-    set_tests_properties(e2e.${name} PROPERTIES LABELS e2e RUN_SERIAL TRUE TIMEOUT 300
+    set_tests_properties(e2e.${name} PROPERTIES LABELS e2e RUN_SERIAL TRUE TIMEOUT 600
       WORKING_DIRECTORY "${test_scratch}"
       ENVIRONMENT "${test_environment}")
   endforeach()

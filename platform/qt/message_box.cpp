@@ -19,7 +19,9 @@ constexpr int kMargen = 28;
 constexpr int kAltoLinea = 17;
 constexpr int kAltoBase = 136, kAltoPorLinea = 16;
 // What stands above and below the text: frame, band, air, buttons.
-constexpr int kAltoSinTexto = 4 + estilo::kAltoBanda + 2 + 18 + 18 + 34 + 18;
+constexpr int kAire = 18, kAltoBoton = 34;
+constexpr int kAltoSinTexto =
+    2 * estilo::kReborde + estilo::kAltoBanda + 2 + kAire + kAire + kAltoBoton + kAire - 2;
 constexpr Fuente kLetra{.alto = 14};
 
 // Breaks the text into lines of the given width and answers their height.
@@ -105,8 +107,9 @@ CajaQt::CajaQt(const CajaMensaje& caja, QWidget* padre)
     setAccessibleDescription(QString::fromStdString(caja.texto).simplified());
 
     auto* columna = new QVBoxLayout(this);
-    columna->setContentsMargins(kMargen, 4 + estilo::kAltoBanda + 2 + 18, kMargen, 18 + 4);
-    columna->setSpacing(18);
+    columna->setContentsMargins(kMargen, estilo::kReborde + estilo::kAltoBanda + 2 + kAire, kMargen,
+                                kAire - 2 + estilo::kReborde);
+    columna->setSpacing(kAire);
     auto* texto = new TextoMensaje(caja.texto, this);
     texto->setObjectName(QStringLiteral("Tex_Mensaje"));
     const int alto_texto = texto->heightForWidth(kAnchoTexto);
@@ -114,8 +117,7 @@ CajaQt::CajaQt(const CajaMensaje& caja, QWidget* padre)
     columna->addWidget(texto, 1, Qt::AlignTop);
     PonBotones(caja);
 
-    const int alto =
-        std::max(kAltoPorLinea * caja.lineas + kAltoBase, kAltoSinTexto + alto_texto + 4);
+    const int alto = std::max(kAltoPorLinea * caja.lineas + kAltoBase, kAltoSinTexto + alto_texto);
     setFixedSize(kAnchoTexto + 2 * kMargen, alto);
 }
 

@@ -130,7 +130,10 @@ void PlataformaQt::MuestraCareta() {
     careta_ = std::make_unique<Careta>();
     careta_->Aparece();
     // The sheet takes its time to read: the splash's pause has it to spare.
-    QTimer::singleShot(0, this, [this] { PreparaLamina(imagenes_.Ratio()); });
+    QTimer::singleShot(0, careta_.get(), [this] {
+        PreparaLamina(imagenes_.Ratio());
+        careta_->PonEmblema();
+    });
     QCoreApplication::processEvents(QEventLoop::AllEvents, 0);
 }
 
@@ -186,7 +189,15 @@ void PlataformaQt::Coloca(Control control, int indice, const Rectangulo& donde) 
 
 void PlataformaQt::Muestra(Control control, int indice, bool visible) {
     if (control != Control::Mesa)
-        Vista(control, indice).setVisible(visible);
+        MuestraVista(Vista(control, indice), visible);
+}
+
+// The focus of a control that goes must not come down on the next button, whose click would be another.
+void PlataformaQt::MuestraVista(VistaControl& vista, bool visible) {
+    const QWidget* foco = QApplication::focusWidget();
+    if (!visible && (foco == &vista || vista.isAncestorOf(foco)))
+        mesa_->setFocus();
+    vista.setVisible(visible);
 }
 
 bool PlataformaQt::EstaVisible(Control control, int indice) const {
@@ -260,6 +271,8 @@ void PlataformaQt::CargaBaraja(const std::string& ruta, int columnas) {
 }
 
 QWidget* PlataformaQt::Padre() {
+    if (QWidget* forma = QApplication::activeModalWidget())
+        return forma;
     if (ventana_->isVisible())
         return ventana_.get();
     return careta_ && careta_->isVisible() ? careta_.get() : nullptr;

@@ -78,10 +78,12 @@ public:
 private:
     VistaControl& Vista(Control control, int indice);
     const VistaControl* VistaSiHay(Control control, int indice) const;
+    void MuestraVista(VistaControl& vista, bool visible);
     void OrdenaCapas();
     QRegion Sucio();
     void CambiaRatio();
-    // The window that a dialog belongs to: the table, or before it is shown the splash or none.
+    // The window that a dialog belongs to: the form that is open, the table, or before it is shown the
+    // splash or none.
     QWidget* Padre();
 
     QString carpeta_;

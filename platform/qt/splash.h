@@ -7,10 +7,15 @@ class Careta : public QWidget {
     Q_OBJECT
 public:
     Careta();
-    // Centred on the screen and painted when this returns.
+    // Centred on the screen and painted when this returns, still without the emblem.
     void Aparece();
+    // The sheet is ready: the emblem too.
+    void PonEmblema();
 
 protected:
     void paintEvent(QPaintEvent* evento) override;
     void mousePressEvent(QMouseEvent* evento) override;
+
+private:
+    bool con_emblema_ = false;
 };

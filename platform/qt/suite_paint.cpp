@@ -6,8 +6,10 @@
 #include <QPalette>
 #include <QWindow>
 #include <algorithm>
+#include <qdrawutil.h>
 
 #include "platform/qt/canvas_qt.h"
+#include "platform/qt/sheet_images.h"
 
 namespace estilo {
 
@@ -26,36 +28,31 @@ QPalette Paleta() {
     return paleta;
 }
 
+void PintaPieza(QPainter& p, const QRect& donde, const lamina::Recorte& pieza, int borde) {
+    const double ratio = p.device()->devicePixelRatioF();
+    const QPixmap dibujo = QPixmap::fromImage(PiezaDe(pieza, ratio));
+    const int grueso = qRound(borde * ratio);
+    const QMargins alrededor(borde, borde, borde, borde);
+    const QMargins cortado(grueso, grueso, grueso, grueso);
+    qDrawBorderPixmap(&p, donde, alrededor, dibujo, dibujo.rect(), cortado);
+}
+
 void PintaPanel(QPainter& p, const QRect& donde, const QString& titulo) {
-    p.fillRect(donde, kMarco);
-    p.fillRect(donde.adjusted(2, 2, -2, -2), kMarcoClaro);
-    const QRect dentro = donde.adjusted(4, 4, -4, -4);
-    p.fillRect(dentro, kPapel);
+    p.fillRect(donde, kCanto);
+    PintaPieza(p, donde, lamina::kPanelPergamino, lamina::kBordePanel);
+    const QRect dentro = donde.adjusted(kReborde, kReborde, -kReborde, -kReborde);
     const QRect banda(dentro.topLeft(), QSize(dentro.width(), kAltoBanda));
     QLinearGradient brillo(banda.topLeft(), banda.bottomLeft());
-    brillo.setColorAt(0, kBanda.lighter(125));
+    brillo.setColorAt(0, kBanda.lighter(135));
     brillo.setColorAt(1, kBanda);
     p.fillRect(banda, brillo);
-    p.fillRect(QRect(banda.left(), banda.bottom() + 1, banda.width(), 2), kMarcoClaro);
+    p.fillRect(QRect(banda.left(), banda.bottom() + 1, banda.width(), 2), QColor(214, 158, 40));
     p.setFont(LetraDe({.alto = 16, .negrita = true}));
     p.setPen(kTitulo);
     p.drawText(banda, Qt::AlignCenter, titulo);
 }
 
 } // namespace estilo
-
-namespace {
-
-QLinearGradient VerdeBoton(const QRectF& sitio, bool hundido, bool encima) {
-    const QColor arriba = encima ? QColor(36, 150, 62) : QColor(28, 128, 52);
-    const QColor abajo(8, 72, 26);
-    QLinearGradient verde(sitio.topLeft(), sitio.bottomLeft());
-    verde.setColorAt(0, hundido ? abajo : arriba);
-    verde.setColorAt(1, hundido ? arriba : abajo);
-    return verde;
-}
-
-} // namespace
 
 BotonSuite::BotonSuite(const QString& texto, QWidget* padre) : QPushButton(texto, padre) {
     setFont(LetraDe({.alto = 14, .negrita = true}));
@@ -70,19 +67,25 @@ QSize BotonSuite::sizeHint() const {
 }
 
 void BotonSuite::paintEvent(QPaintEvent*) {
+    constexpr int kBorde = 10;
     QPainter p(this);
+    if (!isEnabled())
+        p.setOpacity(0.45);
+    estilo::PintaPieza(p, rect(), isDown() ? lamina::kMensajePulsado : lamina::kMensajeArriba,
+                       kBorde);
     p.setRenderHint(QPainter::Antialiasing);
-    const QRectF sitio = QRectF(rect()).adjusted(1, 1, -1, -1);
-    p.setBrush(VerdeBoton(sitio, isDown(), underMouse() && isEnabled()));
-    p.setPen(QPen(hasFocus() ? QColor(255, 214, 64) : QColor(4, 44, 14), hasFocus() ? 2 : 1));
-    p.drawRoundedRect(sitio, 8, 8);
-    p.setPen(isEnabled() ? estilo::kTitulo : QColor(150, 170, 150));
+    if (underMouse() && isEnabled() && !isDown()) {
+        p.setPen(Qt::NoPen);
+        p.setBrush(QColor(255, 255, 255, 90));
+        p.drawRoundedRect(QRectF(rect()).adjusted(4, 4, -4, -4), 5, 5);
+    }
+    p.setPen(estilo::kBanda);
     p.drawText(rect().translated(0, isDown() ? 1 : 0), Qt::AlignCenter, text());
     if (!hasFocus())
         return;
     p.setBrush(Qt::NoBrush);
-    p.setPen(QPen(QColor(255, 255, 255, 150), 1, Qt::DotLine));
-    p.drawRoundedRect(sitio.adjusted(4, 4, -4, -4), 5, 5);
+    p.setPen(QPen(estilo::kBanda, 1, Qt::DotLine));
+    p.drawRoundedRect(QRectF(rect()).adjusted(6.5, 6.5, -6.5, -6.5), 4, 4);
 }
 
 void BotonSuite::keyPressEvent(QKeyEvent* evento) {
@@ -122,6 +125,7 @@ void DialogoSuite::paintEvent(QPaintEvent*) {
 }
 
 void DialogoSuite::mousePressEvent(QMouseEvent* evento) {
-    if (evento->button() == Qt::LeftButton && evento->position().y() < estilo::kAltoBanda + 4)
+    if (evento->button() == Qt::LeftButton &&
+        evento->position().y() < estilo::kAltoBanda + estilo::kReborde)
         windowHandle()->startSystemMove();
 }

@@ -1,9 +1,11 @@
 #pragma once
-// The look that the program's dialogs share: ivory paper in a frame of the table's reds, a green band for
-// the title, green buttons with yellow words.
+// The look that the program's dialogs share: parchment in a golden rim, a green band for the title, the
+// sheet's buttons.
 
 #include <QDialog>
 #include <QPushButton>
+
+#include "table/sheet_layout.h"
 
 class QPainter;
 
@@ -12,14 +14,18 @@ inline constexpr QColor kPapel(253, 245, 225), kTinta(34, 34, 34);
 inline constexpr QColor kMarco(224, 64, 32), kMarcoClaro(224, 128, 96);
 inline constexpr QColor kBanda(12, 78, 30), kTitulo(255, 238, 130);
 inline constexpr int kAltoBanda = 34;
+inline constexpr QColor kCanto(40, 28, 8); // what the rim's round corners leave free
+inline constexpr int kReborde = 5;         // the panel's rim
 
 // Colours of the dialogs for the standard widgets in them, the same on a dark desktop as on a light one.
 QPalette Paleta();
-// Paper, frame and title band over the whole of donde.
+// A piece of the sheet drawn out to donde: its rim of borde pixels stays, the rest stretches.
+void PintaPieza(QPainter& pintor, const QRect& donde, const lamina::Recorte& pieza, int borde);
+// Parchment, rim and title band over the whole of donde.
 void PintaPanel(QPainter& pintor, const QRect& donde, const QString& titulo);
 } // namespace estilo
 
-// A green button. It is pressed by mouse, Space or Enter; any other key is its parent's.
+// A button of the sheet. It is pressed by mouse, Space or Enter; any other key is its parent's.
 class BotonSuite : public QPushButton {
     Q_OBJECT
 public:

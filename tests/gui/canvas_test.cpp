@@ -293,6 +293,22 @@ private Q_SLOTS:
         QCOMPARE(QColor(carta.pixel(carta.rect().center())), ColorDeCarta(3, 7));
     }
 
+    void OtroRatioEstiraElCuadro() {
+        Imagenes imagenes(1);
+        LienzoRetenido mesa(imagenes, Fondo::Fieltro);
+        mesa.PonTamano(kMesa, false);
+        mesa.Caja({100, 80, 40, 20}, color::kRojo);
+        imagenes.CambiaRatio(1.5);
+        mesa.AdaptaRatio();
+        QCOMPARE(mesa.Cuadro().size(), QSize(450, 360));
+        QCOMPARE(QColor(mesa.Cuadro().pixel(180, 135)), QColor(Qt::red));
+        QCOMPARE(mesa.TomaSucio().boundingRect(), QRect(0, 0, 450, 360));
+        mesa.Fieltro({0, 0, kMesa.width(), kMesa.height()});
+        LienzoRetenido nueva(imagenes, Fondo::Fieltro);
+        nueva.PonTamano(kMesa, false);
+        QCOMPARE(Diferencia(mesa.Cuadro(), nueva.Cuadro()), QRect());
+    }
+
     void ElLienzoDePapelEsBlanco() {
         QImage hoja(200, 100, QImage::Format_RGB32);
         hoja.fill(Qt::red);

@@ -187,6 +187,20 @@ private Q_SLOTS:
         QVERIFY(eventos[0].tipo == TipoEvento::Tecla);
     }
 
+    void UnBotonQueSeEscondeDevuelveElFocoALaMesa() {
+        PonContinuar();
+        mesa_->Coloca(Control::Pic_Boton, 1, {20, 5, 50, 50});
+        mesa_->Muestra(Control::Pic_Boton, 1, true);
+        Boton("Pic_BotContinuar")->setFocus();
+        mesa_->Muestra(Control::Pic_BotContinuar, 0, false);
+        QCOMPARE(QApplication::focusWidget(), Tapete());
+        mesa_->Muestra(Control::Pic_Sugerencia, 0, true);
+        mesa_->Muestra(Control::Bot_CerrarSuge, 0, true);
+        Boton("Bot_CerrarSuge")->setFocus();
+        mesa_->Muestra(Control::Pic_Sugerencia, 0, false);
+        QCOMPARE(QApplication::focusWidget(), Tapete());
+    }
+
     void UnClicNoSeLlevaElFoco() {
         PonContinuar();
         QTest::mouseClick(Boton("Pic_BotContinuar"), Qt::LeftButton);
@@ -350,6 +364,20 @@ private Q_SLOTS:
                 Boton::Salir);
         const auto tipos = Tipos();
         QVERIFY(std::ranges::find(tipos, TipoEvento::Termina) != tipos.end());
+    }
+
+    void UnaCajaSobreUnaFormaEsSuya() {
+        QDialog forma(&mesa_->Ventana());
+        forma.setModal(true);
+        forma.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&forma));
+        QWidget* duenio = nullptr;
+        QTimer::singleShot(50, Tapete(), [&duenio] {
+            duenio = QApplication::activeModalWidget()->parentWidget();
+            QApplication::activeModalWidget()->close();
+        });
+        mesa_->Pregunta({.titulo = "Una", .texto = "Hola", .lineas = 1, .modo = 1});
+        QCOMPARE(duenio, &forma);
     }
 
     void UnaFormaSinVistaNoSeOfrece() {

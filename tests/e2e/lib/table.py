@@ -62,8 +62,8 @@ class Table:
 
     # The program.
 
-    def start(self):
-        self.process = subprocess.Popen([self.folder / "zovin"])
+    def start(self, **how):
+        self.process = subprocess.Popen([self.folder / "zovin"], **how)
 
     def wait_for_window(self, seconds=10):
         def found():
@@ -136,18 +136,19 @@ class Table:
         return wait_for(found, seconds, f"the box «{title}»")[1]
 
     def box_buttons(self, window):
-        """Centres of the green buttons near the lower edge of a box, from left to right."""
+        """Centres of the buttons near the lower edge of a box, from left to right."""
         x, y, width, height = self.place(window)
-        row = self.shot().row(x, y + height - 45, width)
-        green = [at for at in range(width) if row[3 * at + 1] > row[3 * at] + 30
-                 and row[3 * at + 1] > row[3 * at + 2] + 20]
-        # Letters and the line of the focus interrupt the green by less than the gap between buttons.
+        margin = 12  # the rim
+        row = self.shot().row(x + margin, y + height - 29, width - 2 * margin)
+        x, width = x + margin, width - 2 * margin
+        tan = [at for at in range(width) if row[3 * at] > row[3 * at + 2] + 35]
+        # Letters and the line of the focus interrupt the colour by less than the gap between buttons.
         buttons, start = [], None
-        for at, after in zip(green, green[1:] + [width + 99]):
+        for at, after in zip(tan, tan[1:] + [width + 99]):
             start = at if start is None else start
             if after - at > 12:
                 if at - start > 60:
-                    buttons.append((x + (start + at) // 2, y + height - 39))
+                    buttons.append((x + (start + at) // 2, y + height - 38))
                 start = None
         return buttons
 
