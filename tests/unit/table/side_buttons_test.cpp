@@ -50,12 +50,19 @@ TEST_F(BotonesDeAsiento, LosDosSuperioresEstanALaVistaYNoSePisan) {
     EXPECT_EQ(p.Tablero().NombreDe({Control::Pic_BotSuperior, 2}), "Servido");
 }
 
-TEST_F(BotonesDeAsiento, EnLaBancaVanTreintaYOchoMasAdentro) {
-    BotonSuperior(2, 1, 1);
-    const int de_la_banca = Donde(Control::Pic_BotSuperior, 1).y;
-    estado.JugadorBanca = 4;
-    BotonSuperior(2, 1, 1);
-    EXPECT_EQ(de_la_banca - Donde(Control::Pic_BotSuperior, 1).y, 38);
+TEST_F(BotonesDeAsiento, EnLaBancaVanTreintaYOchoOMasAParteParaDejarSitioAlMazo) {
+    for (int indice = 1; indice <= 2; ++indice) {
+        estado.JugadorBanca = 2;
+        ColocarMazo();
+        BotonSuperior(2, 1, indice);
+        const Rectangulo de_la_banca = Donde(Control::Pic_BotSuperior, indice);
+        const Rectangulo mazo{estado.MazoX, estado.MazoY, kAnchoCarta, kAltoCarta};
+        EXPECT_FALSE(SePisan(de_la_banca, mazo)) << indice;
+        estado.JugadorBanca = 4;
+        BotonSuperior(2, 1, indice);
+        const int aparte = de_la_banca.x - Donde(Control::Pic_BotSuperior, indice).x;
+        EXPECT_GE(indice == 1 ? -aparte : aparte, 38) << indice;
+    }
 }
 
 TEST_F(BotonesDeAsiento, LosLateralesVanUnoACadaLado) {
