@@ -37,6 +37,11 @@ QFont LetraDe(const Fuente& fuente) {
     return letra;
 }
 
+Fondo FondoDe(Control control) {
+    const bool propio = control == Control::Mesa || control == Control::Pic_Botonera;
+    return propio ? Fondo::Fieltro : Fondo::Claro;
+}
+
 QColor ColorQt(Color color) {
     return QColor(color & 0xFF, color >> 8 & 0xFF, color >> 16 & 0xFF);
 }

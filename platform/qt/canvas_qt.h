@@ -8,10 +8,13 @@
 #include <memory>
 
 #include "platform/canvas.h"
+#include "platform/platform.h"
 #include "platform/qt/card_images.h"
 
 // What bare felt is on a canvas: the felt itself, the table behind a control, or white paper.
 enum class Fondo { Fieltro, Claro, Papel };
+// The button column has felt of its own: what lies on the table behind it does not show through.
+Fondo FondoDe(Control control);
 
 // Text is set in DejaVu Sans, its sizes in pixels of the table.
 QFont LetraDe(const Fuente& fuente);

@@ -87,7 +87,7 @@ VistaControl::VistaControl(Control control, int indice, QWidget* padre, Imagenes
       indice_(indice),
       cola_(cola),
       imagenes_(imagenes),
-      lienzo_(imagenes, Fondo::Claro) {
+      lienzo_(imagenes, FondoDe(control)) {
     setObjectName(QString::fromUtf8(NombreDe(control)));
     setVisible(false);
     setFocusPolicy(EsBoton() ? Qt::TabFocus : Qt::NoFocus);

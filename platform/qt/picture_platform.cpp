@@ -5,8 +5,7 @@
 PlataformaCuadro::PlataformaCuadro(double ratio) : imagenes_(ratio) {}
 
 LienzoRetenido& PlataformaCuadro::Retenido(ControlMesa cual) {
-    const Fondo fondo = cual.control == Control::Mesa ? Fondo::Fieltro : Fondo::Claro;
-    return retenidos_.try_emplace(cual, imagenes_, fondo).first->second;
+    return retenidos_.try_emplace(cual, imagenes_, FondoDe(cual.control)).first->second;
 }
 
 Lienzo& PlataformaCuadro::LienzoDe(Control control, int indice) {

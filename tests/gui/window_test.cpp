@@ -276,6 +276,16 @@ private Q_SLOTS:
         QVERIFY(qAbs(QColor(cuadro.pixel(1090, 750)).green() - 128) < 8);
     }
 
+    void LaColumnaTapaLoQueQuedaDetras() {
+        mesa_->LienzoDe(Control::Mesa, 0).Caja({700, 100, 100, 100}, color::kRojo);
+        mesa_->Coloca(Control::Pic_Botonera, 0, {710, 0, 90, 600});
+        mesa_->LienzoDe(Control::Pic_Botonera, 0).Fieltro({0, 0, 90, 600});
+        mesa_->Repinta();
+        const QImage cuadro = Tapete()->grab().toImage();
+        QCOMPARE(QColor(cuadro.pixel(705, 150)), QColor(Qt::red));
+        QVERIFY(QColor(cuadro.pixel(760, 150)).red() < 8);
+    }
+
     void PorDebajoDe800x600LaMesaSeDesplaza() {
         mesa_->Ventana().resize(640, 480);
         Toma();
