@@ -29,7 +29,7 @@ T Cabe(double valor) {
 } // namespace
 
 Integer Redondea(double valor) {
-    return Cabe<Integer>(AlPar(valor));
+    return Cabe<Integer>(std::nearbyint(valor)); // the processor's own rounding: halves to the even
 }
 
 Long ParteEntera(double valor) {

@@ -66,18 +66,21 @@ void PreparaEleccion(Integer asiento) {
 
 // The search may propose a place of a hand that has been put in another order since: no card falls against the
 // rules for that.
-void EligeLegal() {
-    ReglasEnMesa().elige();
+void EvitaIlegal() {
     if (ReglasEnMesa().obliga && !CartaLegalTute(estado.CartaElegida))
         estado.CartaElegida = bazas.CartasJugables(1, 2);
 }
 
 // The seat's card stands in CartaElegida. False when the match was left.
 [[nodiscard]] bool EsperaEleccion(Integer asiento) {
-    if ((EsManual(asiento) || estado.PausaEntreJugadas) && !EsperaContinuar())
+    const bool espera = EsManual(asiento) || estado.PausaEntreJugadas;
+    if (espera && !EsperaContinuar())
         return false;
-    if (!estado.JugadaHecha)
-        EligeLegal();
+    if (estado.JugadaHecha)
+        return true;
+    if (espera)
+        ReglasEnMesa().elige(); // the hand may have changed during the wait
+    EvitaIlegal();
     return true;
 }
 
