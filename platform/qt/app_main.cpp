@@ -13,6 +13,8 @@
 #include <exception>
 
 #include "core/entry.h"
+#include "forms/normas_view.h"
+#include "forms/personal_view.h"
 #include "platform/qt/demo.h"
 #include "platform/qt/places.h"
 #include "platform/qt/platform_qt.h"
@@ -79,6 +81,8 @@ bool QuiereDemo(const QApplication& programa) {
 int JuegaEnVentana(const QString& carpeta) {
     PlataformaQt escritorio(carpeta);
     UsaPlataforma(escritorio);
+    escritorio.PonForma(Forma::Personal, AbreVistaPersonal);
+    escritorio.PonForma(Forma::Normas, AbreVistaNormas);
     const AvisoDeFin fin([&escritorio] { escritorio.PideTermina(); });
     return ArrancaPrograma();
 }

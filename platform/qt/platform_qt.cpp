@@ -68,12 +68,9 @@ void PlataformaQt::PideTermina() {
     Evento fin;
     fin.tipo = TipoEvento::Termina;
     cola_.Pon(fin);
-    for (QWidget* modal = QApplication::activeModalWidget(); modal != nullptr;
-         modal = QApplication::activeModalWidget()) {
-        modal->close();
-        if (modal == QApplication::activeModalWidget())
-            break;
-    }
+    // A form would ask before it closes; there is nobody left to answer.
+    while (auto* modal = qobject_cast<QDialog*>(QApplication::activeModalWidget()))
+        modal->done(QDialog::Rejected);
 }
 
 void PlataformaQt::Bombea() {
