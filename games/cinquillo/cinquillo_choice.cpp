@@ -1,7 +1,7 @@
 #include "games/cinquillo/cinquillo_choice.h"
 
 #include <algorithm>
-#include <array>
+#include <bit>
 #include <cstdlib>
 
 #include "core/game_state.h"
@@ -10,32 +10,58 @@
 
 namespace {
 
-constexpr Integer kCinco = 5, kAs = 1, kRey = 12;
+constexpr Integer kCinco = 5, kRey = 12;
 constexpr Integer kNivelVeSiguiente =
     60; // from here on the next card outward is not reckoned as waiting
 constexpr Integer kNivelCuentaPropias = 75;
 constexpr Integer kNivelSinRuido = 90;
 constexpr double kPesoAjenoAgresivo = 0.8;
 
-struct Cuenta {
-    int suma = 0, cuantas = 0;
+// Ranks of one suit, a bit each; what is no rank of the deck is in no set.
+using Rangos = unsigned;
 
-    void Anade(int distancia) {
-        suma += distancia;
-        ++cuantas;
+constexpr Rangos Bit(int valor) {
+    return valor >= 1 && valor <= kRey ? 1U << valor : 0;
+}
+
+constexpr Rangos kBajos = Bit(1) | Bit(2) | Bit(3) | Bit(4);
+constexpr Rangos kAltos = Bit(6) | Bit(7) | Bit(10) | Bit(11) | Bit(12);
+
+// The ranks that lie farther out than a card, on its side of the 5; on both for the 5 itself.
+constexpr Rangos MasFuera(Integer valor) {
+    if (valor == kCinco) {
+        return kBajos | kAltos;
     }
-    // Ten times the mean distance.
-    Integer Media() const { return cuantas == 0 ? Integer{0} : Redondea(suma * 10.0 / cuantas); }
-};
+    return valor < kCinco ? kBajos & (Bit(valor) - 1) : kAltos & ~((Bit(valor) << 1U) - 1);
+}
 
-// Which ranks of one suit the seat holds.
-using Rangos = std::array<bool, kRey + 1>;
-
-Integer HaciaFuera(Integer valor) {
-    if (valor < kCinco) {
-        return static_cast<Integer>(valor - 1);
+// The ranks that may be laid right after a card; none beyond the As and the Rey.
+constexpr Rangos Siguientes(Integer valor) {
+    if (valor == kCinco) {
+        return Bit(4) | Bit(6);
     }
-    return static_cast<Integer>(valor == 7 ? 10 : valor + 1);
+    return valor < kCinco ? Bit(valor - 1) : Bit(valor == 7 ? 10 : valor + 1);
+}
+
+// What the seat keeps from the others, once the card is laid, by holding the next one outward.
+Rangos Cerrados(Rangos propios, Integer valor) {
+    if (valor == kCinco) {
+        return ((propios & Bit(4)) != 0 ? kBajos : 0) | ((propios & Bit(6)) != 0 ? kAltos : 0);
+    }
+    return (propios & Siguientes(valor)) != 0 ? MasFuera(valor) : 0;
+}
+
+// Ten times the mean distance of some ranks from a card, 0 without any.
+Integer DistanciaMedia(Integer valor, Rangos rangos) {
+    if (rangos == 0) {
+        return 0;
+    }
+    int suma = 0;
+    for (Rangos quedan = rangos; quedan != 0; quedan &= quedan - 1) {
+        const auto otra = static_cast<Integer>(std::countr_zero(quedan));
+        suma += std::abs(RangoSeguido(valor) - RangoSeguido(otra));
+    }
+    return Redondea(suma * 10.0 / std::popcount(rangos));
 }
 
 Integer HaciaElCinco(Integer valor) {
@@ -45,67 +71,39 @@ Integer HaciaElCinco(Integer valor) {
     return static_cast<Integer>(valor == 10 ? 7 : valor - 1);
 }
 
-bool EsDeLaBaraja(int valor) {
-    return valor <= 7 || valor >= 10;
-}
-
-bool MasFuera(Integer carta, int otra) {
-    if (carta == kCinco) {
-        return otra != kCinco;
-    }
-    return carta < kCinco ? otra < carta : otra > carta;
-}
-
-Rangos RangosDe(Integer asiento, Integer palo) {
-    Rangos tiene{};
-    for (int lugar = 1; lugar <= estado.NumCartas(asiento, 1); ++lugar) {
-        if (estado.Mano(asiento, 1, lugar, kPalo) == palo) {
-            tiene[static_cast<std::size_t>(estado.Mano(asiento, 1, lugar, kValor))] = true;
-        }
-    }
-    return tiene;
-}
-
-bool Tiene(const Rangos& rangos, int valor) {
-    return rangos[static_cast<std::size_t>(valor)];
-}
-
-// Laying the card opens the way of a card of the seat's own at once.
-bool AbreASuSiguiente(Integer valor, int otra) {
-    return valor == kCinco ? otra == 4 || otra == 6 : otra == HaciaFuera(valor);
-}
-
-// The seat itself holds the card that the foreign one waits for.
-bool CierraElPaso(const Rangos& propias, Integer valor, int otra) {
-    if (valor == kCinco) {
-        return Tiene(propias, otra < kCinco ? 4 : 6);
-    }
-    const Integer siguiente = HaciaFuera(valor);
-    return siguiente >= kAs && siguiente <= kRey && Tiene(propias, siguiente);
-}
-
-Integer Valora(Integer asiento, Integer palo, Integer valor) {
+// propios: what the seat holds of the card's suit.
+Integer Valora(Integer asiento, Rangos propios, Integer valor) {
     const Integer nivel = estado.NivelJugador(asiento);
-    const Rangos propias = RangosDe(asiento, palo);
-    Cuenta propio, ajeno;
-    for (Integer otra = kAs; otra <= kRey; ++otra) {
-        if (!EsDeLaBaraja(otra) || !MasFuera(valor, otra)) {
-            continue;
-        }
-        const int distancia = std::abs(RangoSeguido(valor) - RangoSeguido(otra));
-        if (Tiene(propias, otra)) {
-            if (nivel < kNivelVeSiguiente || !AbreASuSiguiente(valor, otra)) {
-                propio.Anade(distancia);
-            }
-        } else if (nivel < kNivelCuentaPropias || !CierraElPaso(propias, valor, otra)) {
-            ajeno.Anade(distancia);
-        }
+    Rangos mios = MasFuera(valor) & propios;
+    Rangos ajenos = MasFuera(valor) & ~propios;
+    if (nivel >= kNivelVeSiguiente) {
+        mios &= ~Siguientes(valor);
     }
-    Integer contra = ajeno.Media();
+    if (nivel >= kNivelCuentaPropias) {
+        ajenos &= ~Cerrados(propios, valor);
+    }
+    Integer contra = DistanciaMedia(valor, ajenos);
     if (estado.CaracterJugador(asiento) == kAgresivo) {
         contra = Redondea(contra * kPesoAjenoAgresivo);
     }
-    return EnteroDe(propio.Media() * 100 + 28 - contra);
+    return EnteroDe(DistanciaMedia(valor, mios) * 100 + 28 - contra);
+}
+
+// The fields of a place of the seat's hand.
+const Integer* CamposDe(Integer asiento, int lugar) {
+    return &estado.Mano(asiento, 1, lugar, 0);
+}
+
+// What the seat holds, by suit.
+using RangosPorPalo = Tabla<Rangos, kBastos>;
+
+RangosPorPalo RangosDeLaMano(Integer asiento) {
+    RangosPorPalo rangos;
+    for (int lugar = 1; lugar <= estado.NumCartas(asiento, 1); ++lugar) {
+        const Integer* carta = CamposDe(asiento, lugar);
+        rangos(carta[kPalo]) |= Bit(carta[kValor]);
+    }
+    return rangos;
 }
 
 // The card enters the list behind those of its value, so that equal cards keep the order of the hand.
@@ -144,11 +142,14 @@ void EligeCartaCinquillo() {
     }
     bazas.CartasJugables.Borra();
     bazas.NumJugables = 0;
-    for (int lugar = 1; lugar <= estado.NumCartas(asiento, 1); ++lugar) {
-        const Integer palo = estado.Mano(asiento, 1, lugar, kPalo);
-        const Integer valor = estado.Mano(asiento, 1, lugar, kValor);
+    const RangosPorPalo rangos = RangosDeLaMano(asiento);
+    const Integer cartas = estado.NumCartas(asiento, 1);
+    for (int lugar = 1; lugar <= cartas; ++lugar) {
+        const Integer* carta = CamposDe(asiento, lugar);
+        const Integer palo = carta[kPalo];
+        const Integer valor = carta[kValor];
         if (EsJugable(palo, valor)) {
-            MeteJugable(Valora(asiento, palo, valor), lugar);
+            MeteJugable(Valora(asiento, rangos(palo), valor), lugar);
         }
     }
     estado.CartaElegida = bazas.NumJugables == 0

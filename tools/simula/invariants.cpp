@@ -33,8 +33,10 @@ void RevisaCartasCinquillo() {
     for (int palo = kOros; palo <= kBastos; ++palo) {
         for (int valor = 1; valor <= 12; ++valor) {
             const int debidas = estado.ValorEnBaraja(valor) ? 1 : 0;
-            Exige(veces(palo, valor) == debidas, fmt::format("la carta {} de palo {} está {} veces",
-                                                             valor, palo, veces(palo, valor)));
+            const int cuantas = veces(palo, valor);
+            if (cuantas != debidas)
+                throw InvarianteRoto(
+                    fmt::format("la carta {} de palo {} está {} veces", valor, palo, cuantas));
         }
     }
 }
@@ -45,8 +47,9 @@ void RevisaTendido() {
     for (int palo = kOros; palo <= kBastos; ++palo) {
         for (int valor = 1; valor <= 12; ++valor) {
             const Integer vecina = kHaciaElCinco[valor];
-            Exige(bazas.CartaJugada(palo, valor) == 0 || bazas.CartaJugada(palo, vecina) != 0,
-                  fmt::format("la carta {} de palo {} se tendió sin su vecina", valor, palo));
+            if (bazas.CartaJugada(palo, valor) != 0 && bazas.CartaJugada(palo, vecina) == 0)
+                throw InvarianteRoto(
+                    fmt::format("la carta {} de palo {} se tendió sin su vecina", valor, palo));
         }
     }
 }
