@@ -31,7 +31,7 @@ Integer GanadorIndividual() {
             ganador = asiento;
     }
     const Currency tope = bazas.TantosJugador(ganador);
-    for (int baza = bazas.GanadorDeBaza.kTopes[0]; baza >= 1; --baza) {
+    for (int baza = decltype(bazas.GanadorDeBaza)::kTopes[0]; baza >= 1; --baza) {
         const Integer asiento = bazas.GanadorDeBaza(baza);
         if (asiento != 0 && bazas.TantosJugador(asiento) == tope)
             return asiento;

@@ -46,7 +46,7 @@ MesaDeTrick::~MesaDeTrick() {
     VaciaColaAzar();
 }
 
-void MesaDeTrick::Escucha(std::vector<std::string> nombres) {
+void MesaDeTrick::Escucha(const std::vector<std::string>& nombres) {
     traza.clear();
     EscuchaTraza([this, nombres](const std::string& linea) {
         if (std::ranges::find(nombres, NombreDeLlamada(linea)) != nombres.end())

@@ -22,7 +22,7 @@ public:
     std::vector<std::string> traza; // the calls of table operations since the last Escucha
 
     // Records the calls whose name is one of these.
-    void Escucha(std::vector<std::string> nombres);
+    void Escucha(const std::vector<std::string>& nombres);
 
     // What the last box said, and how many boxes there were.
     std::string TextoMensaje() const;
