@@ -4,7 +4,7 @@
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
-#include <QTimer>
+#include <QTimerEvent>
 #include <cmath>
 #include <utility>
 
@@ -74,11 +74,14 @@ void Tapete::paintEvent(QPaintEvent* evento) {
     if (ratio_pedido_ || devicePixelRatioF() == imagenes_.Ratio())
         return;
     ratio_pedido_ = true;
-    QTimer::singleShot(0, this, [this] {
-        ratio_pedido_ = false;
-        if (al_cambiar_ratio)
-            al_cambiar_ratio();
-    });
+    startTimer(0);
+}
+
+void Tapete::timerEvent(QTimerEvent* evento) {
+    killTimer(evento->timerId());
+    ratio_pedido_ = false;
+    if (al_cambiar_ratio)
+        al_cambiar_ratio();
 }
 
 void Tapete::resizeEvent(QResizeEvent*) {

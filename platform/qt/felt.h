@@ -53,6 +53,7 @@ protected:
     void mouseMoveEvent(QMouseEvent* evento) override;
     void mouseDoubleClickEvent(QMouseEvent* evento) override;
     void keyPressEvent(QKeyEvent* evento) override;
+    void timerEvent(QTimerEvent* evento) override;
 
 private:
     void Avisa(TipoEvento tipo, const QMouseEvent& evento);

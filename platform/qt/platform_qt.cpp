@@ -13,7 +13,6 @@
 #include "platform/qt/help_viewer.h"
 #include "platform/qt/message_box.h"
 #include "platform/qt/places.h"
-#include "platform/qt/sheet_images.h"
 #include "platform/qt/sound.h"
 #include "platform/qt/splash.h"
 #include "table/layout.h"
@@ -126,12 +125,6 @@ int PlataformaQt::AltoEscritorio() const {
 void PlataformaQt::MuestraCareta() {
     careta_ = std::make_unique<Careta>();
     careta_->Aparece();
-    // The sheet takes its time to read: the splash's pause has it to spare.
-    QTimer::singleShot(0, careta_.get(), [this] {
-        PreparaLamina(imagenes_.Ratio());
-        careta_->PonEmblema();
-    });
-    QCoreApplication::processEvents(QEventLoop::AllEvents, 0);
 }
 
 void PlataformaQt::MuestraMesa() {

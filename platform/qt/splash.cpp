@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 #include <QPainter>
 #include <QScreen>
+#include <QTimerEvent>
 
 #include "platform/qt/canvas_qt.h"
 #include "platform/qt/sheet_images.h"
@@ -35,9 +36,13 @@ void Careta::Aparece() {
     move(sitio.topLeft());
     show();
     repaint();
+    startTimer(0);
 }
 
-void Careta::PonEmblema() {
+// The sheet takes its time to read: the splash's pause has it to spare.
+void Careta::timerEvent(QTimerEvent* evento) {
+    killTimer(evento->timerId());
+    PreparaLamina(devicePixelRatioF());
     con_emblema_ = true;
     update();
 }

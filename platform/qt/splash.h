@@ -7,14 +7,13 @@ class Careta : public QWidget {
     Q_OBJECT
 public:
     Careta();
-    // Centred on the screen and painted when this returns, still without the emblem.
+    // Centred on the screen and painted when this returns; the emblem follows with the event loop.
     void Aparece();
-    // The sheet is ready: the emblem too.
-    void PonEmblema();
 
 protected:
     void paintEvent(QPaintEvent* evento) override;
     void mousePressEvent(QMouseEvent* evento) override;
+    void timerEvent(QTimerEvent* evento) override;
 
 private:
     bool con_emblema_ = false;
