@@ -52,6 +52,18 @@ std::optional<Control> ControlDe(std::string_view nombre) {
     return std::nullopt;
 }
 
+const char* NombreDe(Puntero puntero) {
+    static constexpr std::array kPunteros{"Flecha",      "ManoIndice", "ManoVerde",
+                                          "ManoRoja",    "Ordenar",    "Cambiar",
+                                          "ManoCerrada", "Voltear",    "Abrirse"};
+    if (puntero == Puntero::RelojArena)
+        return "RelojArena";
+    if (puntero == Puntero::Prohibido)
+        return "Prohibido";
+    const auto codigo = static_cast<std::size_t>(puntero);
+    return kPunteros[codigo < kPunteros.size() ? codigo : 0];
+}
+
 Control PadreDe(Control control) {
     switch (control) {
     case Control::Pic_Boton:

@@ -59,6 +59,9 @@ enum class Puntero : Integer {
     Prohibido = 12,
 };
 
+// "ManoIndice"; "Flecha" for a value that is none.
+const char* NombreDe(Puntero puntero);
+
 enum class TipoEvento {
     RatonMueve,  // x, y; on Mesa, Pic_SelOpciones or Pic_Botonera, in the control's own pixels
     RatonPulsa,  // x, y, boton

@@ -6,6 +6,7 @@
 #include "core/numeric.h"
 #include "games/game_table.h"
 #include "platform/platform.h"
+#include "table/trace.h"
 
 namespace {
 
@@ -135,6 +136,7 @@ Integer OrientacionDe(int asiento) {
 }
 
 void ColocarCarta(int asiento, int lugar, int cartas) {
+    Traza("ColocarCarta", asiento, lugar, cartas);
     const int n = std::max(cartas, 1);
     const bool levantada = estado.Mano(asiento, estado.SerieActual, lugar, kAltura) == kLevantada;
     const int adentro = kBanda + (levantada ? kRealce : 0);

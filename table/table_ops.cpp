@@ -87,6 +87,7 @@ void DibujarCaja(int x, int y, int ancho, int alto) {
 }
 
 void CambiarCursor(Control control, int indice, Puntero puntero) {
+    Traza("CambiarCursor", NombreDe(control), NombreDe(puntero));
     plataforma().PonPuntero(control, indice, puntero);
 }
 

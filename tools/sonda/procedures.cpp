@@ -1,6 +1,5 @@
 #include "tools/sonda/procedures.h"
 
-#include <array>
 #include <unordered_map>
 
 #include "betting/chips.h"
@@ -52,10 +51,8 @@ void Tecla(int tecla) {
 
 // A pointer by the name of its cursor.
 void CambiaCursorPorNombre(Control control, const std::string& nombre) {
-    constexpr std::array kNombres{"",        "ManoIndice",  "ManoVerde", "ManoRoja", "Ordenar",
-                                  "Cambiar", "ManoCerrada", "Voltear",   "Abrirse"};
-    for (std::size_t i = 1; i < kNombres.size(); ++i) {
-        if (nombre == kNombres[i])
+    for (int i = 1; i <= static_cast<int>(Puntero::Abrirse); ++i) {
+        if (nombre == NombreDe(static_cast<Puntero>(i)))
             return CambiarCursor(control, 0, static_cast<Puntero>(i));
     }
     throw ErrorConsola("el cursor " + nombre + " no existe");
