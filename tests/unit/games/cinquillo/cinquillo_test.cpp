@@ -269,11 +269,11 @@ TEST_F(ManoDeCinquillo, ElTurnoAutomaticoPasoAPaso) {
     const Punto lugar = LugarTendido(kOros, 5);
     const std::string vuelo = "MoverCarta(1, 5, 38, 242, 2, 2, " + std::to_string(lugar.x) + ", " +
                               std::to_string(lugar.y) + ", 1, 2, 0)";
-    EXPECT_THAT(turno,
-                ElementsAre("ResaltarAsiento()", "Pausa(140)", "RedibujarAsiento(1)", "Pausa(340)",
-                            "Pausa(140)", "RedibujarAsiento(1)", "Pausa(340)", "Pausa(300)",
-                            "RedibujarAsiento(1)", "Pausa(500)", "RedibujarAsiento(1)", vuelo,
-                            "Sonido(1, 24)", "Sonido(0, 25)", "Pausa(500)"));
+    EXPECT_THAT(turno, ElementsAre("ResaltarAsiento()", "Pausa(140)", "RedibujarAsiento(1)",
+                                   "Pausa(340)", "Pausa(140)", "RedibujarAsiento(1)", "Pausa(340)",
+                                   "Pausa(300)", "RedibujarAsiento(1)", "Pausa(500)",
+                                   "ColocarCarta(1, 5, 10)", "RedibujarAsiento(1)", vuelo,
+                                   "Sonido(1, 24)", "Sonido(0, 25)", "Pausa(500)"));
 }
 
 TEST_F(ManoDeCinquillo, LaPersonaEligeConElRaton) {
