@@ -1,5 +1,6 @@
 #include "core/random.h"
 
+#include <algorithm>
 #include <deque>
 #include <random>
 #include <stdexcept>
@@ -27,6 +28,11 @@ double Azar() {
         return primero;
     }
     return static_cast<double>(g.motor() >> 11) * 0x1.0p-53;
+}
+
+float AzarDeTurno() {
+    constexpr float kCasiUno = 0x1.fffffep-1F;
+    return std::min(static_cast<float>(Azar()), kCasiUno);
 }
 
 int AzarEntre(int n) {

@@ -7,6 +7,9 @@
 // The next number, uniform on [0, 1): from the queue while it holds any, then from the generator.
 double Azar();
 
+// The number of a turn: the next draw in single precision, below 1 still.
+float AzarDeTurno();
+
 // A whole number 1..n: Int(n x r + 1) of the next draw.
 int AzarEntre(int n);
 

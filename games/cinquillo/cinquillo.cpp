@@ -126,7 +126,7 @@ void ExtiendeCarta(Integer asiento) {
     if (asiento == estado.JugadorMano) {
         ++estado.NumBaza;
     }
-    estado.AzarTurno = static_cast<float>(Azar());
+    estado.AzarTurno = AzarDeTurno();
     EligeCartaCinquillo();
     if (bazas.NumJugables == 0) {
         return true;

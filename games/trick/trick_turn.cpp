@@ -43,7 +43,7 @@ void PasaAlSiguiente() {
     Pausa(400);
     ++estado.CartasEnBaza;
     ResaltarAsiento();
-    estado.AzarTurno = static_cast<float>(Azar());
+    estado.AzarTurno = AzarDeTurno();
     return true;
 }
 

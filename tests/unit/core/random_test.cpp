@@ -51,6 +51,16 @@ TEST_F(AzarTest, TodosCaenEntreCeroYUnoYPorIgual) {
         EXPECT_NEAR(caja, 1000, 150);
 }
 
+// The nearest number of single precision is 1, which is no number of a turn.
+TEST_F(AzarTest, ElNumeroDeUnTurnoNoLlegaAUno) {
+    EncolaAzar({kCasiUno, 0.25, 0});
+    const float casi_uno = AzarDeTurno();
+    EXPECT_LT(casi_uno, 1.0F);
+    EXPECT_GT(casi_uno, 0.999999F);
+    EXPECT_EQ(AzarDeTurno(), 0.25F);
+    EXPECT_EQ(AzarDeTurno(), 0.0F);
+}
+
 TEST_F(AzarTest, LaColaVaPorDelanteYEnSuOrden) {
     FijaSemilla(7);
     const double siguiente = Azar();

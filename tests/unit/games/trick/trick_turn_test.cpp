@@ -82,6 +82,16 @@ TEST_F(TurnoDeTrick, UnSoloNumeroAlAzarPorTurno) {
     EXPECT_EQ(Azar(), 0.75);
 }
 
+TEST_F(TurnoDeTrick, ElNumeroMasAltoNoPasaDeLaUltimaCarta) {
+    for (const Integer juego : {kTute, kBrisca}) {
+        Mesa(juego);
+        PonMano(1, {{kOros, kAs}});
+        EncolaAzar({0.99999999999});
+        ASSERT_TRUE(TurnoDeBaza());
+        EXPECT_EQ(EnLaMesa(1), Carta(kOros, kAs));
+    }
+}
+
 TEST_F(TurnoDeTrick, ElAutomaticoCambiaSiempre) {
     Mesa(kBrisca);
     PonMano(1, {{kOros, kAs}, {kBastos, 2}});
