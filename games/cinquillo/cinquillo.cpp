@@ -268,12 +268,7 @@ void RotuloContinuar(std::string& primera, std::string& segunda) {
 } // namespace
 
 void ManoCinquillo() {
-    while (!HayGanadorPartida()) {
-        if (!JuegaMano()) {
-            return;
-        }
-    }
-    FinalPartida();
+    JuegaPartida(JuegaMano);
 }
 
 const FilaJuego& FilaCinquillo() {

@@ -113,6 +113,18 @@ bool AlguienManual() {
     return false;
 }
 
+bool GanaLaPartida(Integer ganador) {
+    if (estado.JuegosGanados(ganador) < estado.LimitePartida) {
+        return false;
+    }
+    estado.GanadorPartida = ganador;
+    return true;
+}
+
+bool YaGanada() {
+    return GanaLaPartida(1) || GanaLaPartida(2) || GanaLaPartida(3) || GanaLaPartida(4);
+}
+
 std::string Equipo(int uno) {
     return estado.NombreJugador(uno) + " y " + estado.NombreJugador(uno + 2);
 }
@@ -185,16 +197,6 @@ void ApuntaMano() {
     GuardarPartida();
 }
 
-bool HayGanadorPartida() {
-    for (Integer ganador = 1; ganador <= 4; ++ganador) {
-        if (estado.JuegosGanados(ganador) >= estado.LimitePartida) {
-            estado.GanadorPartida = ganador;
-            return true;
-        }
-    }
-    return false;
-}
-
 void FinalPartida() {
     Mensaje("Final de Partida", TextoGana(estado.GanadorPartida, "la partida"), 1, 1);
     Mensaje("Histórico de partidas jugadas", "¿Se actualiza el Histórico de partidas?", 1, 2);
@@ -205,6 +207,17 @@ void FinalPartida() {
     for (int boton : {7, 1, 3}) {
         HabilitaBoton(boton, true);
     }
+}
+
+void JuegaPartida(bool (*mano)()) {
+    bool ganada = YaGanada();
+    while (!ganada) {
+        if (!mano()) {
+            return;
+        }
+        ganada = GanaLaPartida(estado.GanadorMano);
+    }
+    FinalPartida();
 }
 
 void AconsejaCarta(void (*elige)()) {

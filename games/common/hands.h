@@ -29,11 +29,12 @@ std::string TextoGana(Integer ganador, const std::string& que);
 // The hand counts: one more in JuegosGanados(GanadorMano), the game is in the records, the files are written.
 void ApuntaMano();
 
-// A seat (or team) has LimitePartida hands: GanadorPartida takes it.
-[[nodiscard]] bool HayGanadorPartida();
-
 // The end of a match: the winner is told, the history asked for, the table put to rest. Clears PartidaEnCurso.
 void FinalPartida();
+
+// A match: hands, each played by mano (false when the match was left), until GanadorMano has LimitePartida of them
+// and so is GanadorPartida; then the end of the match. A saved match that somebody has already won only ends.
+void JuegaPartida(bool (*mano)());
 
 // The tutor's advice: runs elige for JugadorActual and raises CartaElegida twice without playing it.
 void AconsejaCarta(void (*elige)());

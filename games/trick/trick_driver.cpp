@@ -55,20 +55,12 @@ void CantaTuteDeSalida() {
     return JuegaBazas() && FinalMano();
 }
 
-void JuegaPartida() {
-    while (!HayGanadorPartida()) {
-        if (!JuegaMano())
-            return;
-    }
-    FinalPartida();
-}
-
 } // namespace
 
 void ManoTute() {
-    JuegaPartida();
+    JuegaPartida(JuegaMano);
 }
 
 void ManoBrisca() {
-    JuegaPartida();
+    JuegaPartida(JuegaMano);
 }

@@ -220,15 +220,52 @@ TEST_F(Manos, LaManoGanadaCuentaYSeGuarda) {
     EXPECT_TRUE(p.EnMemoria().contenidos.contains("./ZOV7031.INI"));
 }
 
+namespace {
+
+// A hand that goes to GanadorMano at once.
+bool ManoCorta() {
+    ++estado.JuegosJugados;
+    ApuntaMano();
+    return true;
+}
+
+bool ManoQueSeDeja() {
+    ++estado.JuegosJugados;
+    return false;
+}
+
+} // namespace
+
 TEST_F(Manos, GanaLaPartidaQuienLlegaAlLimite) {
     estado.LimitePartida = 3;
-    estado.JuegosGanados(2) = 2;
-    EXPECT_FALSE(HayGanadorPartida());
-    estado.JuegosGanados(2) = 3;
-    EXPECT_TRUE(HayGanadorPartida());
+    estado.JuegosGanados(2) = 1;
+    estado.GanadorMano = 2;
+    JuegaPartida(ManoCorta);
+    EXPECT_EQ(estado.JuegosJugados, 2);
     EXPECT_EQ(estado.GanadorPartida, 2);
-    estado.JuegosGanados(2) = 7;
-    EXPECT_TRUE(HayGanadorPartida());
+    EXPECT_FALSE(estado.PartidaEnCurso);
+}
+
+// A limit that was lowered in the middle of a hand: who has the hands does not win by another seat's hand.
+TEST_F(Manos, SoloGanaLaPartidaQuienGanaLaMano) {
+    estado.LimitePartida = 5;
+    estado.JuegosGanados(1) = 3;
+    estado.JuegosGanados(3) = 0;
+    estado.GanadorMano = 3;
+    JuegaPartida([] {
+        estado.LimitePartida = 2;
+        return ManoCorta();
+    });
+    EXPECT_EQ(estado.JuegosJugados, 2);
+    EXPECT_EQ(estado.GanadorPartida, 3);
+}
+
+TEST_F(Manos, LaManoQueSeDejaNoCierraLaPartida) {
+    estado.LimitePartida = 3;
+    JuegaPartida(ManoQueSeDeja);
+    EXPECT_EQ(estado.JuegosJugados, 1);
+    EXPECT_TRUE(p.mensajes.empty());
+    EXPECT_TRUE(estado.PartidaEnCurso);
 }
 
 TEST_F(Manos, ElFinalDeLaPartida) {
