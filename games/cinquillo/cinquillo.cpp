@@ -125,7 +125,9 @@ void ExtiendeCarta(Integer asiento) {
     }
     if (asiento == estado.JugadorMano) {
         ++estado.NumBaza;
+        estado.CartasEnBaza = 0;
     }
+    ++estado.CartasEnBaza;
     estado.AzarTurno = AzarDeTurno();
     EligeCartaCinquillo();
     if (bazas.NumJugables == 0) {

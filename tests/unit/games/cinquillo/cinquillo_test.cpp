@@ -164,6 +164,7 @@ TEST_F(ManoDeCinquillo, ElQueSaleSinCincoPasaSinSenalYLaRondaCuenta) {
     ManoCinquillo(); // stops in seat 2's wait
     EXPECT_EQ(estado.JugadorActual, 2);
     EXPECT_EQ(estado.NumBaza, 1);
+    EXPECT_EQ(estado.CartasEnBaza, 2); // who passes has had a turn, too
     EXPECT_EQ(Tendida(1, 1), kNada);
     // Only seat 2 has flashed, and no pause of an automatic seat was made.
     EXPECT_THAT(TrazaDe("ResaltarAsiento"), testing::SizeIs(1));
@@ -195,6 +196,16 @@ TEST_F(ManoDeCinquillo, TresAsientosPuedenPasarSeguidos) {
     for (Integer asiento = 1; asiento <= 3; ++asiento)
         pasan += Tendida(asiento, 2) == kNada ? 1 : 0;
     EXPECT_GE(pasan, 2);
+}
+
+TEST_F(ManoDeCinquillo, SeCuentanLosTurnosDeLaVuelta) {
+    ReparteMitades();
+    std::vector<Integer> turnos;
+    Cuando("ResaltarAsiento()", [&] { turnos.push_back(estado.CartasEnBaza); });
+    ManoCinquillo();
+    ASSERT_GE(turnos.size(), 6U);
+    turnos.resize(6);
+    EXPECT_THAT(turnos, ElementsAre(1, 2, 3, 4, 1, 2));
 }
 
 TEST_F(ManoDeCinquillo, UnCincoSePuedeTenderConOtroPaloSinAbrir) {
