@@ -75,11 +75,14 @@ void Roba(Integer asiento) {
 void RobanTodos() {
     DejaTriunfoSinMazo(true);
     Integer asiento = estado.GanadorBaza;
+    bool primero = true;
     for (int paso = 0; paso < 4; ++paso, SiguienteAsiento(asiento)) {
         if (estado.EstadoJugador(asiento) != kActivado)
             continue;
+        if (!primero)
+            Pausa(80);
+        primero = false;
         Roba(asiento);
-        Pausa(80);
     }
     DejaTriunfoSinMazo(false);
 }

@@ -159,6 +159,20 @@ TEST(Robo, EmpiezaElGanadorYSigueElSentido) {
     EXPECT_EQ(estado.JugadorActual, 2);
 }
 
+TEST(Robo, EntreCartaYCartaHayUnaPausa) {
+    MesaDeTrick mesa(kBrisca, 3);
+    PonMazo({{kOros, 4}, {kOros, 5}, {kOros, 6}, {kOros, 7}});
+    estado.GanadorBaza = 3;
+    mesa.Escucha({"Pausa", "MoverCarta"});
+    RobaCartas();
+    std::erase(mesa.traza, "Pausa(12)");
+    ASSERT_EQ(mesa.traza.size(), 5U);
+    for (const std::size_t vuelo : {0U, 2U, 4U})
+        EXPECT_TRUE(mesa.traza[vuelo].starts_with("MoverCarta(1, ")) << mesa.traza[vuelo];
+    EXPECT_EQ(mesa.traza[1], "Pausa(80)");
+    EXPECT_EQ(mesa.traza[3], "Pausa(80)");
+}
+
 TEST(Robo, QuienNoEncuentraMazoTomaLaQuePinta) {
     MesaDeTrick mesa(kBrisca, 4);
     Pinta({kBastos, kRey});
