@@ -178,6 +178,7 @@ void PulsaSegunPuntero() {
     const FilaJuego& juego = JuegoEnMesa();
     switch (static_cast<Puntero>(estado.CursorTabla)) {
     case Puntero::ManoVerde:
+    case Puntero::ManoRoja: // sounds like a card, and plays none
         if (estado.EligeCarta && !estado.ModoApuesta) {
             EligeLaCarta();
         }

@@ -175,7 +175,7 @@ TEST_F(Entrada, UnClicEnUnaCartaLegalLaElige) {
     EXPECT_EQ(p.sonidos.back(), (SonidoPedido{25, true}));
 }
 
-TEST_F(Entrada, UnClicEnUnaCartaQueNoValeNoHaceNada) {
+TEST_F(Entrada, UnClicEnUnaCartaQueNoValeSoloSuena) {
     TurnoDeLaPersona();
     estado.SonidoActivo = true;
     const Integer elegida = estado.CartaElegida;
@@ -183,7 +183,7 @@ TEST_F(Entrada, UnClicEnUnaCartaQueNoValeNoHaceNada) {
     EXPECT_FALSE(estado.JugadaHecha);
     EXPECT_EQ(estado.CartaElegida, elegida);
     EXPECT_TRUE(estado.EsperandoJugada);
-    EXPECT_TRUE(p.sonidos.empty());
+    EXPECT_EQ(p.sonidos, (std::vector<SonidoPedido>{{25, true}}));
 }
 
 TEST_F(Entrada, SinPermisoParaElegirUnClicNoJuega) {

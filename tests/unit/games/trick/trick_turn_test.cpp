@@ -151,6 +151,19 @@ TEST_F(TurnoDeTrick, UnaCartaQueNoSePuedeJugarNoSeJuega) {
     EXPECT_LE(mesa->plataforma.guion.Cuantas(), 2U); // the third press, and nothing before it
 }
 
+TEST_F(TurnoDeTrick, ElClicEnUnaCartaQueNoValeSoloSuena) {
+    Mesa(kTute);
+    bazas.Arrastre = true;
+    PonMano(4, {{kCopas, kAs}, {kOros, kTres}});
+    TocaAlManual({kOros, 4}, {kOros, 5}, {kOros, 6});
+    Clic(4, 1);
+    mesa->Escucha({"Sonido", "MoverCarta"});
+    EXPECT_FALSE(TurnoDeBaza()); // the wait goes on until there is no event left
+    EXPECT_EQ(mesa->traza, (std::vector<std::string>{"Sonido(0, 25)"}));
+    EXPECT_EQ(estado.NumCartas(4, 1), 2);
+    EXPECT_FALSE(estado.JugadaHecha);
+}
+
 TEST_F(TurnoDeTrick, ElBotonVerdeDejaJugarAlPrograma) {
     Mesa(kBrisca);
     PonMano(4, {{kOros, kAs}, {kCopas, 2}, {kEspadas, kTres}});
