@@ -64,6 +64,15 @@ TEST_F(Eleccion, UnCincoValeSiempreYLoDemasTrasSuVecina) {
     }
 }
 
+TEST_F(Eleccion, UnPaloPuedeCrecerSoloPorUnLado) {
+    EnLaMesa({{kCopas, 5}, {kCopas, 6}, {kCopas, 7}, {kCopas, kSota}, {kCopas, kCaballo}});
+    EXPECT_TRUE(EsJugable(kCopas, kRey));
+    EXPECT_TRUE(EsJugable(kCopas, 4));
+    EXPECT_FALSE(EsJugable(kCopas, kTres));
+    EXPECT_FALSE(EsJugable(kCopas, kAs));
+    EXPECT_TRUE(EsJugable(kOros, 5)); // its neighbour is still closed
+}
+
 TEST_F(Eleccion, ElRangoSeguidoNoTieneHueco) {
     EXPECT_EQ(RangoSeguido(1), 1);
     EXPECT_EQ(RangoSeguido(7), 7);

@@ -213,7 +213,9 @@ INSTANTIATE_TEST_SUITE_P(
                     Forma{kBrisca, 2, 3, 0, kIndividual}, Forma{kBrisca, 2, 3, 20, kIndividual},
                     Forma{kBrisca, 3, 3, 0, kIndividual}, Forma{kBrisca, 3, 3, 9, kIndividual},
                     Forma{kBrisca, 4, 3, 0, kDosParejas}, Forma{kBrisca, 4, 3, 12, kDosParejas},
-                    Forma{kBrisca, 4, 3, 12, kIndividual}, Forma{kBrisca, 4, 2, 0, kIndividual}));
+                    Forma{kBrisca, 4, 3, 12, kIndividual}, Forma{kBrisca, 4, 2, 0, kIndividual},
+                    Forma{kBrisca, 4, 3, 0, kIndividual}, Forma{kBrisca, 2, 5, 0, kIndividual},
+                    Forma{kBrisca, 3, 4, 0, kIndividual}, Forma{kTute, 2, 5, 20, kIndividual}));
 
 namespace {
 

@@ -86,8 +86,11 @@ TEST_F(UnaBaza, LaPenultimaSiYConElRelojDeArena) {
     Mesa(kBrisca, 2);
     PonMano(2, {{kOros, kSota}, {kCopas, 4}});
     PonMano(4, {{kOros, kRey}, {kCopas, 5}});
+    mesa->Escucha({"CambiarCursor"});
     ASSERT_TRUE(JuegaBaza());
     EXPECT_TRUE(bazas.BusquedaActiva);
+    ASSERT_FALSE(mesa->traza.empty());
+    EXPECT_EQ(mesa->traza.front(), R"(CambiarCursor("mesa", "RelojArena"))");
 }
 
 TEST(LimiteDeBusqueda, EnTuteSieteMenosLosJugadores) {
