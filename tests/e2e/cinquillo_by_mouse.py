@@ -3,16 +3,16 @@ middle and continued."""
 
 import time
 
-from lib.table import COLUMN, Deck, expect, hand_at_the_bottom, run, wait_for
+from lib.player import Player
+from lib.table import COLUMN, expect, run, wait_for
 
 # Columns of the game's settings, counted from 1: PausaEntreJugadas, LimitePartida.
 PAUSE, LIMIT = 65, 119
 
 
-class Player:
+class CinquilloPlayer(Player):
     def __init__(self, table):
-        self.table = table
-        self.deck = Deck(table.folder / "Baraja02.bmp")
+        super().__init__(table)
         self.played = []
         self.hands = 0
 
@@ -20,23 +20,6 @@ class Player:
         """The middle of the table, where the cards are laid out."""
         x, y, width, height = self.table.place()
         return x + 165, y + 20, width - COLUMN - 330, height - 185
-
-    def hand(self, picture):
-        return hand_at_the_bottom(self.table, self.deck, picture)
-
-    def is_mine(self, picture):
-        """The tutor is there for the player's own turn only."""
-        return self.table.main_button_lit("tutor", picture)
-
-    def my_turn(self):
-        """A picture of the table in which the game waits for the player, or the title of a box."""
-        def seen():
-            box = self.table.box()
-            if box:
-                return box[0]
-            picture = self.table.shot()
-            return picture if self.is_mine(picture) else None
-        return wait_for(seen, 60, "the player's turn", every=0.25)
 
     def play_a_card(self, picture):
         """Tries the cards of the hand from the right until the game takes one."""
@@ -183,7 +166,7 @@ def play(table):
     # One hand decides the match; the green button waits for the player only.
     set_column(table, LIMIT, b"001")
     set_column(table, PAUSE, b" 0")
-    player = Player(table)
+    player = CinquilloPlayer(table)
     begin_match(table)
     leave_in_the_middle(table, player)
     go_on(table)
