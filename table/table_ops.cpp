@@ -24,6 +24,11 @@ Lienzo& Mesa() {
     return plataforma().LienzoDe(Control::Mesa, 0);
 }
 
+// Also under the column of buttons, through which the felt shows: a smaller window has what stood there below it.
+void LimpiaTapete() {
+    Mesa().Fieltro({0, 0, estado.AnchoPantalla, estado.AltoMesa});
+}
+
 void RedibujaSorteo() {
     for (int asiento = 1; asiento <= 4; ++asiento) {
         if (vista.sorteada(asiento).palo == kSinCarta) {
@@ -118,7 +123,7 @@ void LimpiarMesa() {
     vista.puntero_x = antes.puntero_x;
     vista.puntero_y = antes.puntero_y;
     if (plataforma().HayPantalla()) {
-        Mesa().Fieltro({0, 0, estado.AnchoMesa, estado.AltoMesa});
+        LimpiaTapete();
         plataforma().Repinta();
     }
 }
@@ -127,7 +132,7 @@ void RedibujarMesa() {
     if (!plataforma().HayPantalla()) {
         return;
     }
-    Mesa().Fieltro({0, 0, estado.AnchoMesa, estado.AltoMesa});
+    LimpiaTapete();
     RedibujaMazo();
     RedibujaSorteo();
     const FilaJuego* juego = FilaDe(estado.JuegoActivo);
