@@ -139,7 +139,9 @@ void RedibujarMesa() {
     if (juego != nullptr && juego->pinta_centro != nullptr) {
         juego->pinta_centro();
     }
-    for (int asiento = 1; asiento <= 4 && estado.PartidaEnCurso; ++asiento) {
+    // What a finished match has left on the table stays there until the next one.
+    const bool hay_asientos = estado.PartidaEnCurso || vista.nombres;
+    for (int asiento = 1; asiento <= 4 && hay_asientos; ++asiento) {
         if (vista.sorteada(asiento).palo == kSinCarta) {
             RedibujarAsiento(asiento);
         }

@@ -146,3 +146,17 @@ TEST_F(AsientoEnMesa, LaMarcaDelGanadorSePoneYSeQuita) {
     MarcaGanador(4, false);
     EXPECT_EQ(TrazaDe("RedibujarAsiento"), (std::vector<std::string>{"RedibujarAsiento(4)"}));
 }
+
+TEST_F(AsientoEnMesa, LoQueDejaUnaPartidaAcabadaSigueAhiAlRepintarLaMesa) {
+    MostrarNombres();
+    estado.PartidaEnCurso = false;
+    p.Dibujado(Control::Mesa).Olvida();
+    RedibujarMesa();
+    EXPECT_EQ(Dibujado("Carta").size(), 3U);
+    EXPECT_FALSE(Dibujado("Texto").empty());
+    LimpiarMesa();
+    p.Dibujado(Control::Mesa).Olvida();
+    RedibujarMesa();
+    EXPECT_TRUE(Dibujado("Carta").empty());
+    EXPECT_TRUE(Dibujado("Texto").empty());
+}
