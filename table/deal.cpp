@@ -59,9 +59,9 @@ void RepartaUna(Integer asiento, int lugar) {
         estado.Mano(asiento, 1, lugar, kTapada) = kTapadaSi;
     }
     ++estado.NumCartas(asiento, 1);
-    VuelaDelMazo(asiento, lugar,
-                 juego.cartas_en_mesa != nullptr ? juego.cartas_en_mesa(asiento)
-                                                 : estado.CartasReparto);
+    vista.abanico(asiento) =
+        juego.cartas_en_mesa != nullptr ? juego.cartas_en_mesa(asiento) : estado.CartasReparto;
+    VuelaDelMazo(asiento, lugar, vista.abanico(asiento));
 }
 
 [[nodiscard]] bool ReparteMonton(Integer asiento, int pasada) {
@@ -91,8 +91,18 @@ void RepartaUna(Integer asiento, int lugar) {
     return true;
 }
 
+// Who paints the table anew in the middle of a deal puts each card where it was dealt to.
+class ManosAbiertas {
+public:
+    ManosAbiertas() = default;
+    ~ManosAbiertas() { vista.abanico = {}; }
+    ManosAbiertas(const ManosAbiertas&) = delete;
+    ManosAbiertas& operator=(const ManosAbiertas&) = delete;
+};
+
 [[nodiscard]] bool ReparteSolo() {
     const OrdenFirme orden;
+    const ManosAbiertas abiertas;
     if (!JuegoEnMesa().mazo_seguido || estado.CartasEnMazo == 0) {
         Barajar();
     }

@@ -149,7 +149,7 @@ void PintaCartas(int asiento) {
         if (en_el_aire || campo(kPalo) == kSinCarta) {
             continue;
         }
-        ColocarCarta(asiento, lugar, cartas);
+        ColocarCarta(asiento, lugar, std::max<int>(cartas, vista.abanico(asiento)));
         Mesa().Carta(estado.CartaX, estado.CartaY,
                      {.palo = campo(kPalo),
                       .valor = campo(kValor),

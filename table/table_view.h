@@ -10,6 +10,7 @@ struct VistaMesa {
     bool nombres = false;             // the names of the seats are on show
     int asiento_arrastrado = 0;       // the hand from which CartaMovida was taken
     int puntero_x = 0, puntero_y = 0; // where on the table the pointer was last seen
+    Tabla<int, 4> abanico;            // places for which a hand that is being dealt is laid out
     Tabla<bool, 4> franja_ocupada;    // a seat's raised cards or caption stand before its zone
     Tabla<ImagenCarta, 4> sorteada;   // the draw's last card of each seat, palo 0 for none
 };

@@ -1,9 +1,11 @@
 // The automatic deal and the cards drawn during a hand.
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "core/session_state.h"
 #include "table/deck.h"
+#include "table/table_ops.h"
 #include "tests/support/live_table.h"
 
 using namespace prueba;
@@ -69,6 +71,21 @@ TEST_F(Reparto, CadaCartaEnsenaLaCaraDeSuAsiento) {
     EXPECT_EQ(estado.Mano(4, 1, 10, kCara), kDescubierta);
     EXPECT_EQ(estado.Mano(4, 1, 10, kAltura), kEnLinea);
     EXPECT_EQ(estado.Mano(4, 1, 10, kTapada), 0);
+}
+
+// A window of another size is painted anew between two cards.
+TEST_F(Reparto, OtroTamanoEnMedioDejaCadaCartaDondeSeDio) {
+    p.UsaLienzosRegistrados();
+    p.traviesa = true;
+    p.guion.Encola({.tipo = TipoEvento::Tamano});
+    EmpiezaTraza();
+    ASSERT_TRUE(Repartir());
+    EXPECT_FALSE(TrazaDe("RedibujarAsiento").empty());
+    EXPECT_THAT(TrazaDe("ColocarCarta"), testing::Each(testing::EndsWith(", 10)")));
+    traza.clear();
+    --estado.NumCartas(4, 1);
+    RedibujarAsiento(4);
+    EXPECT_THAT(TrazaDe("ColocarCarta"), testing::Each(testing::EndsWith(", 9)")));
 }
 
 TEST_F(Reparto, QuienNoJuegaNoRecibe) {
