@@ -32,6 +32,23 @@ Rejilla LaRejilla() {
     return {(izquierda + derecha - 3 * columna - kAnchoCarta) / 2, arriba, columna, fila};
 }
 
+// The felt under the laid cards of a suit: round corners that are painted again and again over themselves would
+// lose their smoothness.
+void LimpiaColumna(Lienzo& mesa, Integer palo) {
+    int arriba = 0;
+    int abajo = 0;
+    for (Integer valor = 12; valor >= 1; --valor) {
+        if (bazas.CartaJugada(palo, valor) == 0) {
+            continue;
+        }
+        abajo = LugarTendido(palo, valor).y + kAltoCarta;
+        arriba = arriba == 0 ? abajo - kAltoCarta : arriba;
+    }
+    if (abajo > 0) {
+        mesa.Fieltro({LugarTendido(palo, 1).x, arriba, kAnchoCarta, abajo - arriba});
+    }
+}
+
 } // namespace
 
 Punto LugarTendido(Integer palo, Integer valor) {
@@ -44,6 +61,9 @@ void PintaTendido() {
         return;
     }
     Lienzo& mesa = plataforma().LienzoDe(Control::Mesa, 0);
+    for (Integer palo = kOros; palo <= kBastos; ++palo) {
+        LimpiaColumna(mesa, palo);
+    }
     for (Integer palo = kOros; palo <= kBastos; ++palo) {
         for (Integer valor = 12; valor >= 1; --valor) {
             if (bazas.CartaJugada(palo, valor) == 0) {

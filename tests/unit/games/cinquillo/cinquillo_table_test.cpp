@@ -71,8 +71,22 @@ TEST_F(Tendido, SePintanSoloLasTendidasDeArribaAbajo) {
     p.Dibujado(Control::Mesa).Olvida();
     PintaTendido();
     const auto& llamadas = p.Dibujado(Control::Mesa).Llamadas();
-    ASSERT_EQ(llamadas.size(), 3U);
-    EXPECT_NE(llamadas[0].find("palo 1 valor 6 cara 2 orientación 1"), std::string::npos);
-    EXPECT_NE(llamadas[1].find("palo 1 valor 5 cara 2 orientación 1"), std::string::npos);
-    EXPECT_NE(llamadas[2].find("palo 4 valor 5 cara 2 orientación 1"), std::string::npos);
+    ASSERT_EQ(llamadas.size(), 5U); // the felt of two columns first
+    EXPECT_NE(llamadas[2].find("palo 1 valor 6 cara 2 orientación 1"), std::string::npos);
+    EXPECT_NE(llamadas[3].find("palo 1 valor 5 cara 2 orientación 1"), std::string::npos);
+    EXPECT_NE(llamadas[4].find("palo 4 valor 5 cara 2 orientación 1"), std::string::npos);
+}
+
+// A round corner painted twice over itself would be less smooth than at first.
+TEST_F(Tendido, PintarloOtraVezEmpiezaPorElFieltroDeLasColumnasConCartas) {
+    p.UsaLienzosRegistrados();
+    for (Integer valor : {Integer{5}, Integer{6}, Integer{7}})
+        bazas.CartaJugada(kCopas, valor) = 1;
+    PintaTendido();
+    const Punto siete = LugarTendido(kCopas, 7);
+    const int alto = LugarTendido(kCopas, 5).y + kAltoCarta - siete.y;
+    const auto llamadas = p.Dibujado(Control::Mesa).Llamadas();
+    ASSERT_EQ(llamadas.size(), 4U);
+    EXPECT_EQ(llamadas[0], "Fieltro(" + std::to_string(siete.x) + ", " + std::to_string(siete.y) +
+                               ", 101, " + std::to_string(alto) + ")");
 }
