@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QScreen>
+#include <QScrollBar>
 #include <QSettings>
 #include <QStandardPaths>
 
@@ -30,6 +31,9 @@ VentanaPrincipal::VentanaPrincipal(QWidget* mesa) {
     setWidget(mesa);
     setFocusProxy(mesa);
     setMinimumSize(kMinimo);
+    // A menu would hold the game up in the middle of a pause.
+    for (QScrollBar* barra : {horizontalScrollBar(), verticalScrollBar()})
+        barra->setContextMenuPolicy(Qt::NoContextMenu);
     resize(QApplication::primaryScreen()->availableSize());
     RecuerdaSitio();
     // The game lays its table out before the window is seen.

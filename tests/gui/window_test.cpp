@@ -301,6 +301,26 @@ private Q_SLOTS:
         QCOMPARE(eventos.back().x, 150);
     }
 
+    // It would hold up whatever is being dealt or played until it is answered.
+    void LasBarrasDeLaVentanaNoAbrenMenu() {
+        mesa_->Ventana().resize(500, 400);
+        for (QScrollBar* barra :
+             {mesa_->Ventana().horizontalScrollBar(), mesa_->Ventana().verticalScrollBar()}) {
+            bool abierto = false;
+            QTimer::singleShot(0, Tapete(), [&abierto] {
+                if (QWidget* menu = QApplication::activePopupWidget(); menu != nullptr) {
+                    abierto = true;
+                    menu->close();
+                }
+            });
+            const QPoint donde = barra->rect().center();
+            QContextMenuEvent pide(QContextMenuEvent::Mouse, donde, barra->mapToGlobal(donde));
+            QApplication::sendEvent(barra, &pide);
+            QApplication::processEvents();
+            QVERIFY(!abierto);
+        }
+    }
+
     void CerrarLaVentanaEsUnDeseo() {
         mesa_->Ventana().close();
         mesa_->Ventana().close();
