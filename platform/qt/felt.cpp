@@ -13,6 +13,7 @@
 
 namespace {
 constexpr int kAnchoMinimo = 800, kAltoMinimo = 600;
+constexpr Qt::MouseButtons kBotones = Qt::LeftButton | Qt::RightButton; // the game knows no other
 } // namespace
 
 CapaVuelo::CapaVuelo(QWidget* padre, Imagenes& imagenes) : QWidget(padre), imagenes_(imagenes) {
@@ -110,6 +111,7 @@ void Tapete::mousePressEvent(QMouseEvent* evento) {
         return;
     Avisa(TipoEvento::RatonMueve, *evento);
     Avisa(TipoEvento::RatonPulsa, *evento);
+    apretado_ = true;
 }
 
 void Tapete::mouseDoubleClickEvent(QMouseEvent* evento) {
@@ -119,12 +121,19 @@ void Tapete::mouseDoubleClickEvent(QMouseEvent* evento) {
 void Tapete::mouseReleaseEvent(QMouseEvent* evento) {
     if (evento->button() != Qt::LeftButton && evento->button() != Qt::RightButton)
         return;
+    apretado_ = (evento->buttons() & kBotones) != Qt::NoButton;
     Avisa(TipoEvento::RatonSuelta, *evento);
     if (rect().contains(evento->position().toPoint()))
         Avisa(TipoEvento::RatonClic, *evento);
 }
 
+// A button let go where nobody told the window, under a screen lock or a box of another program, is told as soon as
+// the pointer comes back without it: no card stays on the pointer.
 void Tapete::mouseMoveEvent(QMouseEvent* evento) {
+    if (apretado_ && (evento->buttons() & kBotones) == Qt::NoButton) {
+        apretado_ = false;
+        Avisa(TipoEvento::RatonSuelta, *evento);
+    }
     Avisa(TipoEvento::RatonMueve, *evento);
 }
 

@@ -64,4 +64,5 @@ private:
     CapaVuelo vuelo_;
     Puntero puntero_ = Puntero::Flecha;
     bool ratio_pedido_ = false;
+    bool apretado_ = false; // a press whose release the game has not been told
 };
