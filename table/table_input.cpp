@@ -167,6 +167,7 @@ void PulsaReparto(int x, int y) {
         if (TomaDelReparto()) {
             Sonido(1, kSonidoDespega);
             MueveColgada(x, y);
+            RefrescaPuntero();
         }
     } else if (estado.CursorTabla == Codigo(Puntero::ManoVerde)) {
         DetectaJdorYCar(x, y);
