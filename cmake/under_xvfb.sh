@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Runs one end-to-end test on a screen, a window manager and a home of its own, and takes all three
-# away afterwards. The test finds the programs in $ZOVIN_BIN.
+# away afterwards. The test finds the programs in $ZOVIN_BIN. ZOVIN_SCREEN is the size of the screen where
+# 1280x800 is not what is wanted.
 set -euo pipefail
 
 scratch=$(mktemp -d)
@@ -13,7 +14,7 @@ clean_up() {
 }
 trap clean_up EXIT
 
-Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp 3>"$scratch/display" 2>"$scratch/xvfb.log" &
+Xvfb -displayfd 3 -screen 0 "${ZOVIN_SCREEN:-1280x800}x24" -nolisten tcp 3>"$scratch/display" 2>"$scratch/xvfb.log" &
 started+=($!)
 for _ in $(seq 100); do
     [ ! -s "$scratch/display" ] || break
