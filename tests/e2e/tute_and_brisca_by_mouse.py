@@ -1,7 +1,7 @@
 """Matches of Tute and Brisca by mouse and picture: cards dealt by hand, the turned card exchanged, a cante;
 from one game to the other and back in the middle of their matches."""
 
-from lib.forms import Normas, Personal
+from lib.forms import Normas, Personal, sit_two
 from lib.table import expect, run, wait_for
 from lib.trick_player import (AS, BASTOS, CABALLO, COPAS, ESPADAS, ME, OPPONENT, OROS, POINTS, REY,
                               TrickPlayer)
@@ -31,21 +31,6 @@ class Match:
         """The cantes of the player in a finished hand, as the game's file keeps them."""
         record = self.table.settings(self.file).split("\r\n")[2 + hand]
         return int(record[37 * (ME - 1) + 50])
-
-    def set_up(self):
-        """Two seats, no pauses, cards dealt by hand, two hands to win."""
-        form = Personal(self.table)
-        for seat in (1, 3):
-            form.turn_off(seat)
-        form.change_pause()
-        form.change_information()
-        self.table.shot(f"personal-{self.game}")
-        form.leave()
-        form = Normas(self.table)
-        form.change_deal()
-        form.lower_limit()
-        self.table.shot(f"normas-{self.game}")
-        form.leave()
 
     def begin(self):
         self.table.press_main("nueva")
@@ -169,7 +154,7 @@ def begin_tute(table, tute):
     tute.leave_for("Tute")
     table.answer(NO_FILE, 0, count=1)
     tute.change_speed(50, 100)
-    tute.set_up()
+    sit_two(table, tute.game)
     trump = tute.begin_with_a_useful_trump([*SEVENS, *PAIR], LOW)
     tute.change_speed(100, SLOW)
     tute.take_a_trick(trump, PAIR)
@@ -193,8 +178,8 @@ def leave_tute_in_a_deal(table, tute):
     expect(tute.cantes(1) >= 1, "the cante stands in the record of the hand")
 
 
-def begin_brisca(brisca):
-    brisca.set_up()
+def begin_brisca(table, brisca):
+    sit_two(table, brisca.game)
     trump = brisca.begin_with_a_useful_trump(SEVENS[:3], [(BASTOS, 2), (BASTOS, 4), (BASTOS, 5)])
     brisca.take_a_trick(trump, [])
     brisca.exchange(trump)
@@ -252,7 +237,7 @@ def play(table):
     brisca = Match(table, player, "Brisca", "ZOV5831.INI")
     begin_tute(table, tute)
     leave_tute_in_a_deal(table, tute)
-    begin_brisca(brisca)
+    begin_brisca(table, brisca)
     leave_brisca_in_a_hand(table, brisca, tute)
     finish_tute(tute)
     finish_brisca(table, brisca)

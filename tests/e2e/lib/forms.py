@@ -104,3 +104,19 @@ class Normas(Form):
         self.click((40, GAMES[game]))
         self.table.answer("Lista 'Juego Activado'", 0, count=2)
         wait_for(lambda: (self.table.box() or ("",))[0] != self.title, 10, "«Normas» to close")
+
+
+def sit_two(table, game):
+    """Two seats, no pauses between their turns, no information, cards dealt by hand, two hands to win."""
+    form = Personal(table)
+    for seat in (1, 3):
+        form.turn_off(seat)
+    form.change_pause()
+    form.change_information()
+    table.shot(f"personal-{game}")
+    form.leave()
+    form = Normas(table)
+    form.change_deal()
+    form.lower_limit()
+    table.shot(f"normas-{game}")
+    form.leave()

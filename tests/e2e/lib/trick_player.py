@@ -90,12 +90,17 @@ class TrickPlayer(Player):
 
     # A deal by hand.
 
-    def mini(self, card):
-        """The middle of a card's place in the spread."""
+    def mini_corner(self, card):
+        """The corner of a card's place in the spread."""
         x, y, width, height = self.felt()
         left = x + (width - MINI_COLUMNS * MINI_STEP) // 2
         top = y + (height - 4 * MINI_ROW) // 2
-        return left + MINI_STEP * (card[1] - 1) + 8, top + MINI_ROW * (card[0] - 1) + 40
+        return left + MINI_STEP * (card[1] - 1), top + MINI_ROW * (card[0] - 1)
+
+    def mini(self, card):
+        """A point of that place."""
+        x, y = self.mini_corner(card)
+        return x + 8, y + 40
 
     def in_spread(self, card, picture):
         return not is_felt(picture.pixel(*self.mini(card)))
