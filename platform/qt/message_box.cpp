@@ -128,7 +128,7 @@ void CajaQt::PonBotones(const CajaMensaje& caja) {
     static_cast<QVBoxLayout*>(layout())->addLayout(fila);
     switch (caja.modo) {
     case 2:
-        PonBoton("Pic_Si", caja.aceptar ? "Aceptar" : "Sí", Boton::Si);
+        PonBoton("Pic_Si", caja.aceptar ? "Aceptar" : "Si", Boton::Si);
         PonBoton("Pic_No", caja.aceptar ? "Cancelar" : "No", Boton::No);
         break;
     case 3:

@@ -112,7 +112,7 @@ def leave_in_the_middle(table, player):
     table.press_main("salir")
     window = table.wait_for_box("Posponer la partida en curso", 5)
     table.shot("leave")
-    expect(len(table.box_buttons(window)) == 2, "Sí and No")
+    expect(len(table.box_buttons(window)) == 2, "Si and No")
     table.answer("Posponer la partida en curso", 1)
     expect(table.process.poll() is None, "No stays at the table")
     table.press_main("salir")
