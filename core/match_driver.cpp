@@ -20,11 +20,12 @@
 
 namespace {
 
-// A game that cannot be played yet gives way to one that can.
+// A game that cannot be played yet gives way to one that can, which brings its own deck.
 void TomaJuegoJugable() {
     const FilaJuego* fila = FilaDe(estado.JuegoActivo);
     if (fila == nullptr || fila->driver == nullptr) {
         estado.JuegoActivo = kCinquillo;
+        sesion.baraja_pendiente = true;
     }
 }
 

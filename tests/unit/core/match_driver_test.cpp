@@ -7,6 +7,7 @@
 #include "core/settings.h"
 #include "games/cinquillo/cinquillo.h"
 #include "games/common/trick_state.h"
+#include "table/deck.h"
 #include "table/table_ops.h"
 #include "table/waiting.h"
 #include "tests/support/live_table.h"
@@ -145,6 +146,16 @@ TEST_F(Partida, UnNumeroQueNoEsJuegoTomaElCinquillo) {
     estado.JuegoActivo = 2;
     IniciarSesion();
     EXPECT_EQ(estado.JuegoActivo, kCinquillo);
+}
+
+TEST_F(Partida, TambienUnaPartidaNuevaTomaElCinquilloYSuBaraja) {
+    estado.JuegoActivo = kPoker;
+    ConstruirBaraja();
+    estado.JuegoActivo = 2;
+    NuevaPartida();
+    EXPECT_EQ(estado.JuegoActivo, kCinquillo);
+    EXPECT_EQ(estado.CartasNormales, 40);
+    EXPECT_FALSE(estado.ValorEnBaraja(8));
 }
 
 TEST_F(Partida, UnaPartidaNuevaBorraLaAnterior) {
