@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 #include <array>
 #include <map>
+#include <vector>
 
 #include "core/game_state.h"
 #include "forms/controls_view.h"
@@ -108,6 +109,7 @@ public:
         rejilla->addLayout(HazCentro(), 1, 1);
         rejilla->addWidget(HazPanel(4, 2), 2, 1, Qt::AlignCenter);
         rejilla->addLayout(HazDerecha(), 0, 2, 3, 1);
+        OrdenaTabulador();
         setFixedSize(sizeHint());
     }
 
@@ -185,7 +187,8 @@ private:
         columna->addStretch();
         columna->addWidget(HazPanel(1, 1), 0, Qt::AlignHCenter);
         columna->addStretch();
-        columna->addWidget(HazBotonAyuda(), 0, Qt::AlignHCenter);
+        ayuda_ = HazBotonAyuda();
+        columna->addWidget(ayuda_, 0, Qt::AlignHCenter);
         return columna;
     }
 
@@ -195,7 +198,8 @@ private:
         columna->addStretch();
         columna->addWidget(HazPanel(3, 1), 0, Qt::AlignHCenter);
         columna->addStretch();
-        columna->addWidget(HazBotonSalir(), 0, Qt::AlignHCenter);
+        salir_ = HazBotonSalir();
+        columna->addWidget(salir_, 0, Qt::AlignHCenter);
         return columna;
     }
 
@@ -218,6 +222,23 @@ private:
         rejilla->addWidget(HazSelector(kSelSentido, this, forma::kAnchoAncho), 1, 0);
         rejilla->addWidget(HazSelector(kSelVentana, this, forma::kAnchoAncho), 1, 1);
         return rejilla;
+    }
+
+    // The keyboard goes through the table's settings, round the seats, and out.
+    void OrdenaTabulador() {
+        std::vector<QWidget*> orden{deslizadores_.at(personal::kVelocidad),
+                                    casillas_.at(personal::kSonido),
+                                    casillas_.at(personal::kPausa)};
+        for (int asiento = 1; asiento <= 4; ++asiento) {
+            orden.push_back(nombres_.at(asiento));
+            for (int clase : {kSelEstado, kSelControl, kSelCartas, kSelCaracter})
+                orden.push_back(selectores_.at(clase + asiento));
+            orden.push_back(deslizadores_.at(personal::kNivel + asiento));
+        }
+        orden.insert(orden.end(),
+                     {selectores_.at(kSelSentido), selectores_.at(kSelVentana), ayuda_, salir_});
+        for (std::size_t i = 1; i < orden.size(); ++i)
+            setTabOrder(orden[i - 1], orden[i]);
     }
 
     // ---- showing
@@ -264,6 +285,7 @@ private:
     std::map<int, CasillaVista*> casillas_;
     std::map<int, TextoVista*> nombres_;
     Rosa* rosa_ = nullptr;
+    QWidget *ayuda_ = nullptr, *salir_ = nullptr;
 };
 
 } // namespace

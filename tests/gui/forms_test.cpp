@@ -219,6 +219,28 @@ private Q_SLOTS:
         }
     }
 
+    void TabGoesThroughTheTableRoundTheSeatsAndOut() {
+        QVERIFY(Con(AbreVistaPersonal, [](Abierta&) {
+            QStringList debido{"Pic_Potenciometro_1", "Pic_Buleano_1", "Pic_Buleano_2"};
+            for (int asiento = 1; asiento <= 4; ++asiento) {
+                debido << QStringLiteral("Txt_Nombre_%1").arg(asiento);
+                for (int clase : {kSelEstado, kSelControl, kSelCartas, kSelCaracter})
+                    debido << QStringLiteral("Pic_Selector_%1").arg(clase + asiento);
+                debido << QStringLiteral("Pic_Potenciometro_%1").arg(personal::kNivel + asiento);
+            }
+            debido << "Pic_Selector_8"
+                   << "Pic_Selector_9"
+                   << "Pic_BotAyuda"
+                   << "Pic_BotSalir";
+            QStringList orden;
+            for (qsizetype vez = 0; vez < debido.size(); ++vez) {
+                orden << QApplication::focusWidget()->objectName();
+                QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+            }
+            QCOMPARE(orden, debido);
+        }));
+    }
+
     void SpaceAndEnterPressASelector() {
         QVERIFY(Con(AbreVistaPersonal, [this](Abierta& forma) {
             QTest::keyClick(&forma.Selector(kSelCaracter + 1), Qt::Key_Space);
