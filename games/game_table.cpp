@@ -1,5 +1,6 @@
 #include "games/game_table.h"
 
+#include <array>
 #include <stdexcept>
 
 #include "core/game_state.h"
@@ -17,12 +18,16 @@ const std::vector<const FilaJuego*>& FilasDeJuegos() {
 }
 
 const FilaJuego* FilaDe(Integer juego) {
-    for (const FilaJuego* fila : FilasDeJuegos()) {
-        if (fila->id == juego) {
-            return fila;
+    constexpr int kUltimo = 99;
+    // Asked for at every step of every game.
+    static const auto kPorNumero = [] {
+        std::array<const FilaJuego*, kUltimo + 1> filas{};
+        for (const FilaJuego* fila : FilasDeJuegos()) {
+            filas.at(static_cast<std::size_t>(fila->id)) = fila;
         }
-    }
-    return nullptr;
+        return filas;
+    }();
+    return juego < 0 || juego > kUltimo ? nullptr : kPorNumero[static_cast<std::size_t>(juego)];
 }
 
 const FilaJuego& JuegoEnMesa() {

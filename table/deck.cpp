@@ -89,17 +89,20 @@ void PonCarta(Integer asiento, Integer serie, int lugar, Integer palo, Integer v
 }
 
 void CompactarMano(Integer asiento) {
-    const Integer serie = estado.SerieActual;
-    int libre = 1;
+    constexpr int kCampos = decltype(estado.Mano)::kTopes[3] + 1;
+    // The places of a serie lie one behind the other; place 0 is spare.
+    Integer* const mano = &estado.Mano(asiento, estado.SerieActual, 0, 0);
+    Integer* libre = mano + kCampos;
     for (int lugar = 1; lugar <= estado.Mano.kTopes[2]; ++lugar) {
-        if (estado.Mano(asiento, serie, lugar, kPalo) == kSinCarta) {
+        Integer* const carta = mano + lugar * kCampos;
+        if (carta[kPalo] == kSinCarta) {
             continue;
         }
-        for (int campo = 0; campo <= 5 && libre != lugar; ++campo) {
-            estado.Mano(asiento, serie, libre, campo) = estado.Mano(asiento, serie, lugar, campo);
-            estado.Mano(asiento, serie, lugar, campo) = 0;
+        if (libre != carta) {
+            std::copy_n(carta, kCampos, libre);
+            std::fill_n(carta, kCampos, Integer{0});
         }
-        ++libre;
+        libre += kCampos;
     }
 }
 

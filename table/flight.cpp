@@ -45,7 +45,7 @@ int PasoDelEje(int camino, int otro) {
 
 void Vuela(Eje x, Eje y, const ImagenCarta& carta) {
     const bool pantalla = plataforma().HayPantalla();
-    if (!pantalla && !traza_detalle::Activa() && FactorPausa(estado.VelocidadJuego) == 0)
+    if (!pantalla && !HayTraza() && FactorPausa(estado.VelocidadJuego) == 0)
         return; // nobody looks and no time passes
     while (x.donde != x.fin || y.donde != y.fin) {
         MarcaPausaAhora();

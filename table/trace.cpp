@@ -10,13 +10,12 @@ OyenteTraza el_oyente;
 
 void EscuchaTraza(OyenteTraza oyente) {
     el_oyente = std::move(oyente);
+    traza_detalle::activa = static_cast<bool>(el_oyente);
 }
 
 namespace traza_detalle {
 
-bool Activa() {
-    return static_cast<bool>(el_oyente);
-}
+bool activa = false;
 
 void Emite(const std::string& linea) {
     el_oyente(linea);

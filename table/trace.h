@@ -12,8 +12,11 @@ using OyenteTraza = std::function<void(const std::string& linea)>;
 // Who listens; an empty function ends it.
 void EscuchaTraza(OyenteTraza oyente);
 
+// True while somebody listens.
+inline bool HayTraza();
+
 namespace traza_detalle {
-bool Activa();
+extern bool activa;
 void Emite(const std::string& linea);
 void Pon(std::string& linea, std::string_view texto);
 void Pon(std::string& linea, long long numero);
@@ -23,13 +26,9 @@ inline void Pon(std::string& linea, const char* texto) {
 inline void Pon(std::string& linea, std::integral auto numero) {
     Pon(linea, static_cast<long long>(numero));
 }
-} // namespace traza_detalle
 
-// Traza("Pausa", 400) says `Pausa(400)`; texts come in double quotes with CR LF written \r\n.
 template <class... A>
-void Traza(std::string_view nombre, const A&... argumentos) {
-    if (!traza_detalle::Activa())
-        return;
+void Escribe(std::string_view nombre, const A&... argumentos) {
     std::string linea(nombre);
     linea += '(';
     bool primero = true;
@@ -37,8 +36,20 @@ void Traza(std::string_view nombre, const A&... argumentos) {
         if (!primero)
             linea += ", ";
         primero = false;
-        traza_detalle::Pon(linea, valor);
+        Pon(linea, valor);
     };
     (uno(argumentos), ...);
-    traza_detalle::Emite(linea + ")");
+    Emite(linea + ")");
+}
+} // namespace traza_detalle
+
+inline bool HayTraza() {
+    return traza_detalle::activa;
+}
+
+// Traza("Pausa", 400) says `Pausa(400)`; texts come in double quotes with CR LF written \r\n.
+template <class... A>
+inline void Traza(std::string_view nombre, const A&... argumentos) {
+    if (HayTraza())
+        traza_detalle::Escribe(nombre, argumentos...);
 }

@@ -53,15 +53,15 @@ Rangos Cerrados(Rangos propios, Integer valor) {
 
 // Ten times the mean distance of some ranks from a card, 0 without any.
 Integer DistanciaMedia(Integer valor, Rangos rangos) {
-    if (rangos == 0) {
-        return 0;
-    }
+    const int rango = RangoSeguido(valor);
     int suma = 0;
-    for (Rangos quedan = rangos; quedan != 0; quedan &= quedan - 1) {
-        const auto otra = static_cast<Integer>(std::countr_zero(quedan));
-        suma += std::abs(RangoSeguido(valor) - RangoSeguido(otra));
+    int cuantos = 0;
+    for (; rangos != 0; rangos &= rangos - 1) {
+        const auto otra = static_cast<Integer>(std::countr_zero(rangos));
+        suma += std::abs(rango - RangoSeguido(otra));
+        ++cuantos;
     }
-    return Redondea(suma * 10.0 / std::popcount(rangos));
+    return cuantos == 0 ? Integer{0} : Redondea(suma * 10.0 / cuantos);
 }
 
 Integer HaciaElCinco(Integer valor) {
@@ -126,10 +126,6 @@ int LugarEnLista(Integer nivel) {
 }
 
 } // namespace
-
-Integer RangoSeguido(Integer valor) {
-    return static_cast<Integer>(valor > 7 ? valor - 2 : valor);
-}
 
 bool EsJugable(Integer palo, Integer valor) {
     return valor == kCinco || bazas.CartaJugada(palo, HaciaElCinco(valor)) != 0;

@@ -7,7 +7,9 @@
 bool EsJugable(Integer palo, Integer valor);
 
 // The rank counted without the gap of the 8 and the 9: 1 to 10.
-Integer RangoSeguido(Integer valor);
+constexpr Integer RangoSeguido(Integer valor) {
+    return static_cast<Integer>(valor > 7 ? valor - 2 : valor);
+}
 
 // The legal cards of JugadorActual, best first, and its choice. Reads Mano, CartaJugada, NivelJugador,
 // CaracterJugador, AzarTurno; writes CartasJugables (1 value, 2 hand position), NumJugables and CartaElegida
