@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 // The whole numbers of the game. Integer is also what the files hold.
 using Integer = std::int16_t;
@@ -63,19 +64,23 @@ public:
 private:
     template <class... I>
     static std::size_t Celda(I... indices) {
+        return Celda(std::make_index_sequence<kDimensiones>{}, indices...);
+    }
+
+    template <std::size_t... Dimension, class... I>
+    static std::size_t Celda(std::index_sequence<Dimension...>, I... indices) {
         std::size_t celda = 0;
-        std::size_t dimension = 0;
-        auto avanza = [&](auto indice) {
-            const int tope = kTopes[dimension];
-            // One signed type for all: a huge unsigned index comes out below 0.
-            const auto lugar = static_cast<long long>(indice);
-            if (lugar < 0 || lugar > tope)
-                LanzaIndiceFuera(dimension + 1, lugar, tope);
-            celda = celda * static_cast<std::size_t>(tope + 1) + static_cast<std::size_t>(lugar);
-            ++dimension;
-        };
-        (avanza(indices), ...);
+        ((celda = celda * (kTopes[Dimension] + 1) + Lugar<Dimension>(indices)), ...);
         return celda;
+    }
+
+    // One signed type for all: a huge unsigned index comes out below 0, and both are beyond the last place.
+    template <std::size_t Dimension>
+    static std::size_t Lugar(long long indice) {
+        const auto lugar = static_cast<std::size_t>(indice);
+        if (lugar > static_cast<std::size_t>(kTopes[Dimension]))
+            LanzaIndiceFuera(Dimension + 1, indice, kTopes[Dimension]);
+        return lugar;
     }
 
     std::array<T, kTotal> celdas_{};
