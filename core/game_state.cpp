@@ -47,6 +47,17 @@ void PonReglasPorDefecto() {
 
 } // namespace
 
+void RegistroJuego::Borra() {
+    Inicio.clear();
+    Marcas.Borra();
+    for (std::string& texto : Texto1)
+        texto.clear();
+    for (std::string& texto : Texto2)
+        texto.clear();
+    Cifra.Borra();
+    Total = 0;
+}
+
 void SiguienteAsiento(Integer& asiento) {
     Avanza(asiento, estado.PasoSentido);
 }

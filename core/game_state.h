@@ -39,6 +39,9 @@ struct RegistroJuego {
     Tabla<std::string, 4> Texto2; // 15 characters in the file
     Tabla<Integer, 4> Cifra;
     Integer Total = 0;
+
+    // As a new one; the texts keep their room, so that clearing the two thousand of a match costs little.
+    void Borra();
     friend bool operator==(const RegistroJuego&, const RegistroJuego&) = default;
 };
 

@@ -77,7 +77,9 @@ void BorraManos() {
 
 void BorraResultados() {
     estado.JuegosJugados = 0;
-    estado.Juegos.Borra();
+    for (RegistroJuego& registro : estado.Juegos) {
+        registro.Borra();
+    }
     estado.JuegosGanados.Borra();
     estado.GanadorPartida = 0;
     bazas.TuteCantado = false;

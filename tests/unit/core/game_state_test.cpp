@@ -151,4 +151,16 @@ TEST_F(EstadoTest, ElBoteEsLaFilaCeroDelDinero) {
     EXPECT_THROW(estado.Fichas(5, 1), IndiceFuera);
 }
 
+TEST(RegistroJuegoTest, BorradoEsComoUnoNuevo) {
+    RegistroJuego registro;
+    registro.Inicio = "Eva";
+    registro.Marcas(4, 1) = 1;
+    registro.Texto1(2) = "120";
+    registro.Texto2(4) = "A 12 ";
+    registro.Cifra(3) = 40;
+    registro.Total = 7;
+    registro.Borra();
+    EXPECT_TRUE(registro == RegistroJuego{});
+}
+
 } // namespace
