@@ -173,7 +173,7 @@ std::string TextoFinal(const Negativos& negativos) {
     std::ranges::stable_sort(perdedores, {}, puntos);
     std::string texto;
     for (int asiento : perdedores) {
-        texto += estado.NombreJugador(asiento) + " : " + Formato(puntos(asiento), "##0") +
+        texto += estado.NombreJugador(asiento) + " : " + Numero(puntos(asiento)) +
                  (puntos(asiento) == 1 ? " punto negativo." : " puntos negativos.") +
                  estado.SaltoLinea;
     }
@@ -184,7 +184,7 @@ std::string CartasQueQuedan(int asiento) {
     std::string texto;
     for (int lugar = 1; lugar <= estado.NumCartas(asiento, 1); ++lugar) {
         const Integer valor = estado.Mano(asiento, 1, lugar, kValor);
-        texto += (valor == 1 ? "A" : Formato(valor, "#0")) + " ";
+        texto += (valor == 1 ? "A" : Numero(valor)) + " ";
     }
     return texto;
 }
