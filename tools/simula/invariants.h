@@ -1,13 +1,21 @@
 #pragma once
 // What must hold at the end of each hand and of each match, whatever was played.
 
+#include <fmt/format.h>
+
 #include <stdexcept>
-#include <string>
 
 // A match that broke a rule of its own; what() says which.
 struct InvarianteRoto : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
+
+// InvarianteRoto when the rule does not hold; its words are put together only then.
+template <class... A>
+void Exige(bool cumple, fmt::format_string<const A&...> regla, const A&... datos) {
+    if (!cumple)
+        throw InvarianteRoto(fmt::format(regla, datos...));
+}
 
 // The cards and the points of the hand that has just ended. Reads the state only.
 void RevisaFinalDeMano();

@@ -52,37 +52,40 @@ bool SonDeAsientos(const std::vector<int>& numeros, int desde, int hasta) {
     return numeros.size() == 4;
 }
 
-void Exige(bool cumple, const char* que) {
+void Pide(bool cumple, const char* que) {
     if (!cumple)
         throw std::invalid_argument(que);
 }
 
 } // namespace
 
-MesaSimulada::MesaSimulada() {
+MesaSimulada::MesaSimulada(void (*al_acabar_mano)()) : al_acabar_mano_(al_acabar_mano) {
     siempre_continua = true;
     registra = false;
     InstalaFicherosDelPrograma(*this, CarpetaDelEjecutable());
 }
 
 Boton MesaSimulada::Pregunta(const CajaMensaje& caja) {
-    if (!estado.ManoEnCurso && estado.PartidaEnCurso && caja.titulo == "Final de la mano")
-        RevisaFinalDeMano();
+    if (!estado.ManoEnCurso && estado.PartidaEnCurso && caja.titulo == "Final de la mano") {
+        ++manos;
+        al_acabar_mano_();
+    }
     return caja.modo == 2 ? Boton::No : Boton::Salir;
 }
 
-Simulacion::Simulacion(const OpcionesSimula& opciones) : opciones_(opciones) {
-    Exige(SonDeAsientos(opciones.niveles, 0, 100), "los niveles son cuatro, de 0 a 100");
-    Exige(SonDeAsientos(opciones.caracteres, 1, 3), "los caracteres son cuatro, de 1 a 3");
-    Exige(opciones.sentido == 1 || opciones.sentido == 2, "el sentido es 1 o 2");
-    Exige(opciones.asientos >= 2 && opciones.asientos <= 4, "los asientos son de 2 a 4");
-    Exige(opciones.limite >= 1 && opciones.limite <= 999, "el límite va de 1 a 999");
-    Exige(!opciones.parejas || opciones.asientos == 4, "las parejas son de cuatro asientos");
-    Exige(opciones.juego != kCinquillo || opciones.asientos == 4, "al Cinquillo juegan cuatro");
-    Exige(opciones.juego != kCinquillo || !opciones.parejas,
-          "al Cinquillo no se juega por parejas");
+Simulacion::Simulacion(const OpcionesSimula& opciones)
+    : opciones_(opciones), mesa_(opciones.revisa ? RevisaFinalDeMano : [] {}) {
+    Pide(SonDeAsientos(opciones.niveles, 0, 100), "los niveles son cuatro, de 0 a 100");
+    Pide(SonDeAsientos(opciones.caracteres, 1, 3), "los caracteres son cuatro, de 1 a 3");
+    Pide(opciones.sentido == 1 || opciones.sentido == 2, "el sentido es 1 o 2");
+    Pide(opciones.asientos >= 2 && opciones.asientos <= 4, "los asientos son de 2 a 4");
+    Pide(opciones.limite >= 1 && opciones.limite <= 999, "el límite va de 1 a 999");
+    Pide(!opciones.parejas || opciones.asientos == 4, "las parejas son de cuatro asientos");
+    Pide(opciones.juego != kCinquillo || opciones.asientos == 4, "al Cinquillo juegan cuatro");
+    Pide(opciones.juego != kCinquillo || !opciones.parejas, "al Cinquillo no se juega por parejas");
     UsaPlataforma(mesa_);
     RegistraDespacho(&DespachaEvento);
+    PonMesaNueva();
     if (opciones_.firma) {
         EscuchaTraza([this](const std::string& linea) {
             if (linea.starts_with("MoverCarta("))
@@ -96,8 +99,11 @@ Simulacion::~Simulacion() {
     EscuchaTraza({});
 }
 
+// One match follows the other at the same table: a new match owes nothing to the one before.
 void Simulacion::PreparaPartida(std::int64_t n) {
-    PonMesaNueva();
+    sesion = {};
+    VaciaColaAzar();
+    PonValoresPorDefecto();
     FijaSemilla(SemillaDe(opciones_.semilla, n));
     estado.JuegoActivo = static_cast<Integer>(opciones_.juego);
     estado.VelocidadJuego = 100;
@@ -141,10 +147,13 @@ Totales Simulacion::Juega(std::int64_t n) {
     PreparaPartida(n);
     firma_ = {};
     firma_.Anade(n);
+    mesa_.manos = 0;
     NuevaPartida();
-    if (sesion.sin_eventos)
-        throw InvarianteRoto("una espera se quedó sin eventos");
-    RevisaFinalDePartida();
+    Exige(!sesion.sin_eventos, "una espera se quedó sin eventos");
+    Exige(mesa_.manos == estado.JuegosJugados, "acabaron {} manos y se apuntaron {}", mesa_.manos,
+          estado.JuegosJugados);
+    if (opciones_.revisa)
+        RevisaFinalDePartida();
     Totales totales;
     totales.partidas = 1;
     totales.manos = estado.JuegosJugados;

@@ -10,10 +10,17 @@
 // wait goes on, and nothing is written anywhere.
 class MesaSimulada : public PlataformaSinPantalla {
 public:
-    MesaSimulada();
+    // What is looked at when a hand has ended.
+    explicit MesaSimulada(void (*al_acabar_mano)());
+
+    // How many hands have ended in this match.
+    int manos = 0;
 
     Boton Pregunta(const CajaMensaje& caja) override;
     bool GuardaPartidas() const override { return false; }
+
+private:
+    void (*al_acabar_mano_)();
 };
 
 class Simulacion {

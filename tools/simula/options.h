@@ -20,4 +20,5 @@ struct OpcionesSimula {
     bool azar = false; // levels, characters, names and direction of each match from its seed
     int procesos = 0;  // 0: as many as the machine has cores
     bool firma = false;
+    bool revisa = true; // what must hold, at the end of each hand and of each match
 };

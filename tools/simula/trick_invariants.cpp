@@ -1,9 +1,6 @@
 #include "tools/simula/trick_invariants.h"
 
-#include <fmt/format.h>
-
 #include <algorithm>
-#include <string>
 #include <vector>
 
 #include "games/state_blocks.h"
@@ -15,13 +12,8 @@ struct Naipe {
     int palo = 0, valor = 0;
 };
 
-void Exige(bool cumple, const std::string& regla) {
-    if (!cumple)
-        throw InvarianteRoto(regla);
-}
-
-void ExigeEnBaza(bool cumple, int baza, const std::string& regla) {
-    Exige(cumple, fmt::format("baza {}: {}", baza, regla));
+void ExigeEnBaza(bool cumple, int baza, const char* regla) {
+    Exige(cumple, "baza {}: {}", baza, regla);
 }
 
 bool Tute() {
@@ -65,8 +57,7 @@ void RevisaCartas() {
     for (int palo = kOros; palo <= kBastos; ++palo) {
         for (int valor = 1; valor <= 12; ++valor) {
             Exige(veces(palo, valor) == (estado.ValorEnBaraja(valor) ? 1 : 0),
-                  fmt::format("la carta {} de palo {} está {} veces", valor, palo,
-                              veces(palo, valor)));
+                  "la carta {} de palo {} está {} veces", valor, palo, veces(palo, valor));
         }
     }
 }
@@ -100,7 +91,7 @@ public:
             tantos += Tute() && ultima ? 10 : 0;
             ganados_[static_cast<std::size_t>(bazas.GanadorDeBaza(baza))] += tantos;
             Exige(bazas.TantosDeBaza(baza) == tantos + TantosCantados(baza),
-                  fmt::format("los tantos de la baza {} no son los de sus cartas", baza));
+                  "los tantos de la baza {} no son los de sus cartas", baza);
         }
     }
 
@@ -112,7 +103,7 @@ public:
         for (int asiento = 1; asiento <= 4; ++asiento) {
             const auto a = static_cast<std::size_t>(asiento);
             Exige(bazas.TantosJugador(asiento) == ganados_[a],
-                  fmt::format("los tantos del asiento {} no son los de sus bazas", asiento));
+                  "los tantos del asiento {} no son los de sus bazas", asiento);
         }
     }
 
@@ -171,8 +162,8 @@ private:
         int obligada = 4;
         for (const Naipe n : ManoAntesDe(asiento, baza))
             obligada = std::min(obligada, Clase(salida, n));
-        ExigeEnBaza(Clase(salida, Jugada(asiento, baza)) == obligada, baza,
-                    fmt::format("el asiento {} no sigue como debe", asiento));
+        Exige(Clase(salida, Jugada(asiento, baza)) == obligada,
+              "baza {}: el asiento {} no sigue como debe", baza, asiento);
     }
 
     Currency TantosCantados(int baza) {
@@ -212,8 +203,8 @@ void RevisaTotalDeTantos() {
         if (bazas.PaloCantado(palo) != 0)
             debido += palo == estado.PaloTriunfo ? 40 : 20;
     }
-    Exige(bazas.TuteCantado ? total < debido : total == debido,
-          fmt::format("la mano suma {} tantos", total.Real()));
+    Exige(bazas.TuteCantado ? total < debido : total == debido, "la mano suma {} tantos",
+          total.Real());
 }
 
 Currency TantosDe(int ganador) {
@@ -248,9 +239,9 @@ void RevisaRegistro(int n) {
         tantos += std::stoi("0" + registro.Texto1(asiento));
         con_tute = con_tute || !registro.Texto2(asiento).empty();
     }
-    Exige(ganadores == 1, fmt::format("el registro {} tiene {} ganadores", n, ganadores));
-    Exige(Tute() ? con_tute || tantos >= 130 : tantos == 120,
-          fmt::format("el registro {} suma {} tantos", n, tantos));
+    Exige(ganadores == 1, "el registro {} tiene {} ganadores", n, ganadores);
+    Exige(Tute() ? con_tute || tantos >= 130 : tantos == 120, "el registro {} suma {} tantos", n,
+          tantos);
 }
 
 } // namespace
