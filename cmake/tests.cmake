@@ -119,6 +119,25 @@ if(TARGET sonda)
   endforeach()
   add_dependencies(golden_write sonda)
 endif()
+
+# The signatures of some thousand hands, a test for each line that is kept; golden_write writes them too.
+if(TARGET simula)
+  set(signatures "${CMAKE_SOURCE_DIR}/tests/golden/signatures")
+  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${signatures}.txt")
+  file(STRINGS "${signatures}.txt" lines)
+  foreach(line IN LISTS lines)
+    string(REGEX REPLACE ":.*" "" options "${line}")
+    string(REGEX REPLACE "[ -]+" "_" name "${options}")
+    separate_arguments(options)
+    add_test(NAME golden.signature${name}
+      COMMAND "${signatures}.sh" compare $<TARGET_FILE:simula> ${options})
+    set_tests_properties(golden.signature${name} PROPERTIES LABELS golden TIMEOUT 300
+      WORKING_DIRECTORY "${test_scratch}")
+  endforeach()
+  add_custom_command(TARGET golden_write POST_BUILD VERBATIM
+    COMMAND "${signatures}.sh" write $<TARGET_FILE:simula>)
+  add_dependencies(golden_write simula)
+endif()
 include("${CMAKE_SOURCE_DIR}/tests/golden/golden.cmake" OPTIONAL)
 
 if(TARGET zovin)
