@@ -21,7 +21,7 @@ OpcionesSimula UnaMano() {
 void Barajado(benchmark::State& vueltas) {
     Simulacion simulacion(UnaMano());
     simulacion.Juega(0);
-    for (auto vuelta : vueltas) {
+    for ([[maybe_unused]] auto vuelta : vueltas) {
         Barajar();
         benchmark::DoNotOptimize(estado.Baraja(1, 1));
     }
@@ -39,7 +39,7 @@ void UnaEleccion(benchmark::State& vueltas) {
         PonCarta(1, 1, lugar, estado.Baraja(lugar, 1), estado.Baraja(lugar, 2), kDorso);
     estado.NumCartas(1, 1) = 10;
     estado.JugadorActual = 1;
-    for (auto vuelta : vueltas) {
+    for ([[maybe_unused]] auto vuelta : vueltas) {
         EligeCartaCinquillo();
         benchmark::DoNotOptimize(estado.CartaElegida);
     }

@@ -15,7 +15,7 @@ void Juega(benchmark::State& vueltas, OpcionesSimula opciones) {
     Simulacion simulacion(opciones);
     std::int64_t n = 0;
     std::int64_t manos = 0;
-    for (auto vuelta : vueltas)
+    for ([[maybe_unused]] auto vuelta : vueltas)
         manos += simulacion.Juega(n++).manos;
     vueltas.counters["manos/s"] =
         benchmark::Counter(static_cast<double>(manos), benchmark::Counter::kIsRate);

@@ -41,7 +41,7 @@ bool ReparteDeNuevo() {
 void RepartoDeUnaMano(benchmark::State& vueltas) {
     PlataformaSinPantalla mesa;
     PonMesa(mesa);
-    for (auto vuelta : vueltas)
+    for ([[maybe_unused]] auto vuelta : vueltas)
         benchmark::DoNotOptimize(ReparteDeNuevo());
 }
 BENCHMARK(RepartoDeUnaMano)->Unit(benchmark::kMicrosecond);
@@ -57,7 +57,7 @@ void UnMovimientoDelRaton(benchmark::State& vueltas) {
     estado.ManoEnCurso = true;
     estado.JugadorActual = 4;
     int x = 0;
-    for (auto vuelta : vueltas) {
+    for ([[maybe_unused]] auto vuelta : vueltas) {
         x = (x + 7) % estado.AnchoMesa;
         Form_MouseMove(x, 500);
     }
@@ -73,7 +73,7 @@ void LaMesaEntera(benchmark::State& vueltas) {
     }
     for (Integer palo = kOros; palo <= kBastos; ++palo)
         bazas.CartaJugada(palo, 5) = 1;
-    for (auto vuelta : vueltas)
+    for ([[maybe_unused]] auto vuelta : vueltas)
         RedibujarMesa();
 }
 BENCHMARK(LaMesaEntera)->Unit(benchmark::kMicrosecond);
