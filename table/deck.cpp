@@ -42,7 +42,7 @@ void MeteValor(Integer palo, Integer valor) {
 
 struct CartaConClave {
     std::string clave;
-    std::array<Integer, 6> campos;
+    std::array<Integer, 6> campos{};
 };
 
 } // namespace
@@ -89,12 +89,13 @@ void PonCarta(Integer asiento, Integer serie, int lugar, Integer palo, Integer v
 }
 
 void CompactarMano(Integer asiento) {
-    constexpr int kCampos = decltype(estado.Mano)::kTopes[3] + 1;
-    // The places of a serie lie one behind the other; place 0 is spare.
-    Integer* const mano = &estado.Mano(asiento, estado.SerieActual, 0, 0);
-    Integer* libre = mano + kCampos;
-    for (int lugar = 1; lugar <= estado.Mano.kTopes[2]; ++lugar) {
-        Integer* const carta = mano + lugar * kCampos;
+    using Manos = decltype(estado.Mano);
+    constexpr int kLugares = Manos::kTopes[2];
+    constexpr int kCampos = Manos::kTopes[3] + 1;
+    // The places of a serie lie one behind the other.
+    Integer* carta = &estado.Mano(asiento, estado.SerieActual, 1, 0);
+    Integer* libre = carta;
+    for (int lugar = 1; lugar <= kLugares; ++lugar, carta += kCampos) {
         if (carta[kPalo] == kSinCarta) {
             continue;
         }
