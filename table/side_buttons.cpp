@@ -147,18 +147,19 @@ void PintarNumero(Control control, int indice, int x, int y, std::string_view nu
     }
 }
 
-void PintarMarco(Control control, int indice, int x, int y, int ancho) {
-    Traza("PintarMarco", NombreDe(control), x, y, ancho);
+void PintarMarco(Control control, int indice, int x, int y, int ancho, int alto) {
+    Traza("PintarMarco", NombreDe(control), x, y, ancho, alto);
     if (!plataforma().HayPantalla()) {
         return;
     }
     Lienzo& lienzo = plataforma().LienzoDe(control, indice);
     const int extremo = lamina::kMarcoExtremoIzquierdo.ancho;
-    lienzo.Lamina(x, y, lamina::kMarcoExtremoIzquierdo);
+    const int arriba = y + (alto - lamina::kMarcoTira.alto) / 2;
+    lienzo.Lamina(x, arriba, lamina::kMarcoExtremoIzquierdo);
     for (int tira = extremo; tira < ancho - extremo; ++tira) {
-        lienzo.Lamina(x + tira, y, lamina::kMarcoTira);
+        lienzo.Lamina(x + tira, arriba, lamina::kMarcoTira);
     }
-    lienzo.Lamina(x + ancho - extremo, y, lamina::kMarcoExtremoDerecho);
+    lienzo.Lamina(x + ancho - extremo, arriba, lamina::kMarcoExtremoDerecho);
 }
 
 void PintarFichas(int asiento, int area) {

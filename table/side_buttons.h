@@ -21,8 +21,9 @@ void MostrarPuntos(int asiento);
 // than digits leave their place dark.
 void PintarNumero(Control control, int indice, int x, int y, std::string_view numero, int columnas);
 
-// A frame bar at (x, y), ancho wide: the 5-pixel end, the 1-pixel strip repeated, the other end.
-void PintarMarco(Control control, int indice, int x, int y, int ancho);
+// A frame bar in the middle of the box at (x, y), as wide as the box: the 5-pixel end, the 1-pixel strip repeated, the
+// other end.
+void PintarMarco(Control control, int indice, int x, int y, int ancho, int alto);
 
 // The seat's stacks of chips (0 the pot), at the chip places of an area.
 void PintarFichas(int asiento, int area);

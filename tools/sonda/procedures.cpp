@@ -27,6 +27,7 @@
 #include "table/layout.h"
 #include "table/messages.h"
 #include "table/options_menu.h"
+#include "table/side_buttons.h"
 #include "table/table_input.h"
 #include "table/table_ops.h"
 
@@ -56,6 +57,15 @@ void CambiaCursorPorNombre(Control control, const std::string& nombre) {
             return CambiarCursor(control, 0, static_cast<Puntero>(i));
     }
     throw ErrorConsola("el cursor " + nombre + " no existe");
+}
+
+// A number or a frame on a control that comes once; the number stands at its left edge.
+void PintaNumero(Control control, const std::string& numero) {
+    PintarNumero(control, 0, 0, 0, numero, static_cast<int>(numero.size()));
+}
+
+void PintaMarco(Control control, int x, int y, int ancho, int alto) {
+    PintarMarco(control, 0, x, y, ancho, alto);
 }
 
 // The start of a hand of the active game: Tute and Brisca turn a card up.
@@ -110,6 +120,12 @@ const std::unordered_map<std::string, Llamada>& LaTabla() {
         {"MostrarRotulo", Llama(&MostrarRotulo)},
         {"MostrarNombres", Llama(&MostrarNombres)},
         {"DibujarCaja", Llama(&DibujarCaja)},
+        {"MostrarPuntos", Llama(&MostrarPuntos)},
+        {"PintarNumero", Llama(&PintaNumero)},
+        {"PintarMarco", Llama(&PintaMarco)},
+        {"BotonLateral", Llama(&BotonLateral)},
+        {"BotonSuperior", Llama(&BotonSuperior)},
+        {"BotonDobSeg", Llama(&BotonDobSeg)},
         {"PedirContinuar", Llama(&PedirContinuar)},
         {"OcultarContinuar", Llama(&OcultarContinuar)},
         {"CambiarCursor", Llama(&CambiaCursorPorNombre)},

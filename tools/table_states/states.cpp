@@ -223,9 +223,9 @@ void Cifras(int) {
     PintarNumero(tablero, 0, 10, 10, "1234567890", 10);
     PintarNumero(tablero, 0, 10, 35, "75", 5);
     PintarNumero(tablero, 0, 10, 60, "", 3);
-    PintarMarco(tablero, 0, 130, 10, 150);
-    PintarMarco(tablero, 0, 130, 40, 40);
-    PintarMarco(tablero, 0, 10, 90, 280);
+    PintarMarco(tablero, 0, 130, 10, 150, 24);
+    PintarMarco(tablero, 0, 130, 40, 40, 24);
+    PintarMarco(tablero, 0, 10, 90, 280, 24);
 }
 
 Rectangulo TrozoCifras(int) {

@@ -95,9 +95,10 @@ TEST_F(BotonesDeAsiento, UnNumeroVaALaDerechaConDigitosDeDiezPixeles) {
 }
 
 TEST_F(BotonesDeAsiento, UnMarcoTieneDosExtremosYSuTira) {
-    PintarMarco(Control::Pic_APBotIgualar, 0, 0, 0, 20);
-    EXPECT_EQ(Digitos().front(), "Lamina(0, 0)");
-    EXPECT_EQ(Digitos().back(), "Lamina(15, 0)");
+    PintarMarco(Control::Pic_APBotIgualar, 0, 0, 0, 20, 30);
+    // The pieces are 24 high and stand in the middle of the 30.
+    EXPECT_EQ(Digitos().front(), "Lamina(0, 3)");
+    EXPECT_EQ(Digitos().back(), "Lamina(15, 3)");
     EXPECT_EQ(Digitos().size(), 2U + 10U);
 }
 
