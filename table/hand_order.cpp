@@ -8,6 +8,7 @@
 #include "games/game_table.h"
 #include "table/deck.h"
 #include "table/layout.h"
+#include "table/manual_deal.h"
 #include "table/messages.h"
 #include "table/table_input.h"
 #include "table/table_ops.h"
@@ -87,6 +88,15 @@ void RedibujaActivos() {
     }
 }
 
+void PintaEnMover(Integer palo, Integer valor) {
+    if (plataforma().HayPantalla()) {
+        plataforma()
+            .LienzoDe(Control::Pic_Mover, 0)
+            .MiniCarta(0, 0, kAnchoMover, kAltoMover,
+                       {.palo = palo, .valor = valor, .cara = kDescubierta, .orientacion = 1});
+    }
+}
+
 } // namespace
 
 void PonMover(Integer palo, Integer valor, int x, int y) {
@@ -97,10 +107,19 @@ void PonMover(Integer palo, Integer valor, int x, int y) {
     if (!p.EstaVisible(Control::Pic_Mover, 0)) {
         p.Muestra(Control::Pic_Mover, 0, true);
     }
-    if (p.HayPantalla()) {
-        p.LienzoDe(Control::Pic_Mover, 0)
-            .MiniCarta(0, 0, kAnchoMover, kAltoMover,
-                       {.palo = palo, .valor = valor, .cara = kDescubierta, .orientacion = 1});
+    PintaEnMover(palo, valor);
+}
+
+void PintaMover() {
+    if (!plataforma().EstaVisible(Control::Pic_Mover, 0)) {
+        return;
+    }
+    if (estado.ArrastraReparto) {
+        const CartaColgada carta = LaCartaColgada();
+        PintaEnMover(carta.palo, carta.valor);
+    } else if (estado.ArrastraCarta) {
+        const Campos carta = LeeCampos(EnteroDe(vista.asiento_arrastrado), estado.CartaMovida);
+        PintaEnMover(carta[kPalo], carta[kValor]);
     }
 }
 

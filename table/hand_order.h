@@ -18,3 +18,5 @@ void DejaDeOrdenar();
 
 // The small card that follows the pointer, its corner at (x, y).
 void PonMover(Integer palo, Integer valor, int x, int y);
+// Repaints it where it stands, if a card is held.
+void PintaMover();

@@ -39,19 +39,6 @@ void PintaEntrada(Lienzo& lienzo, int n) {
                  Alineacion::Izquierda);
 }
 
-void PintaOpciones() {
-    if (!plataforma().HayPantalla()) {
-        return;
-    }
-    Lienzo& lienzo = plataforma().LienzoDe(Control::Pic_SelOpciones, 0);
-    const Rectangulo todo{0, 0, kAncho, estado.NumOpciones * kAltoEntrada + kMargen};
-    lienzo.Caja(todo, color::kMarfil);
-    lienzo.Borde(todo, color::kBordePanel, 1);
-    for (int n = 1; n <= estado.NumOpciones; ++n) {
-        PintaEntrada(lienzo, n);
-    }
-}
-
 void ResaltaOpcion(int n) {
     if (n == estado.OpcionResaltada) {
         return;
@@ -61,6 +48,20 @@ void ResaltaOpcion(int n) {
 }
 
 } // namespace
+
+void PintaOpciones() {
+    Plataforma& p = plataforma();
+    if (!p.HayPantalla() || !p.EstaVisible(Control::Pic_SelOpciones, 0)) {
+        return;
+    }
+    Lienzo& lienzo = p.LienzoDe(Control::Pic_SelOpciones, 0);
+    const Rectangulo todo{0, 0, kAncho, estado.NumOpciones * kAltoEntrada + kMargen};
+    lienzo.Caja(todo, color::kMarfil);
+    lienzo.Borde(todo, color::kBordePanel, 1);
+    for (int n = 1; n <= estado.NumOpciones; ++n) {
+        PintaEntrada(lienzo, n);
+    }
+}
 
 void PonOpciones(bool ordenar) {
     estado.Opciones.Borra();
@@ -78,6 +79,7 @@ void MuestraOpciones() {
     plataforma().Coloca(Control::Pic_SelOpciones, 0,
                         {std::clamp<int>(estado.RatonX, 0, estado.AnchoMesa - kAncho),
                          std::clamp<int>(estado.RatonY, 0, estado.AltoMesa - alto), kAncho, alto});
+    plataforma().Nombra(Control::Pic_SelOpciones, 0, "Ordenar cartas");
     plataforma().Muestra(Control::Pic_SelOpciones, 0, true);
     PintaOpciones();
 }

@@ -5,6 +5,8 @@
 void PonOpciones(bool ordenar);
 // Draws and shows the pop-up at the last press, moved back to stay on the table; nothing without entries.
 void MuestraOpciones();
+// Repaints the pop-up where it stands, if it is open.
+void PintaOpciones();
 // The highlight goes out when the pointer leaves the pop-up.
 void ApagaOpcion();
 // The pointer moved to, or the button was released over, row y of the pop-up.

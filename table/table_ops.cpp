@@ -7,9 +7,12 @@
 #include "core/numeric.h"
 #include "games/game_table.h"
 #include "table/button_column.h"
+#include "table/hand_order.h"
 #include "table/layout.h"
 #include "table/manual_deal.h"
 #include "table/messages.h"
+#include "table/options_menu.h"
+#include "table/side_buttons.h"
 #include "table/table_view.h"
 #include "table/trace.h"
 
@@ -47,6 +50,15 @@ void RedibujaMazo() {
     DibujarMazo(mazo.x, mazo.y, vista.cartas_mazo);
 }
 
+// The plates that show, at their places of now.
+void RedibujaTantos() {
+    for (int asiento = 1; asiento <= 4; ++asiento) {
+        if (plataforma().EstaVisible(Control::Pic_Tantos, asiento)) {
+            MostrarPuntos(asiento);
+        }
+    }
+}
+
 } // namespace
 
 void CalcularMesa() {
@@ -60,6 +72,7 @@ void CalcularMesa() {
 }
 
 void CambiaTamano() {
+    Oculta(Control::Pic_SelOpciones); // it would stay where the table may no longer be
     CalculaLugares();
     ColocarMazo();
     ColocaColumna();
@@ -149,7 +162,10 @@ void RedibujarMesa() {
     if (estado.RepartoEnCurso) {
         PintaReparto();
     }
+    RedibujaTantos();
     PintaColumna();
     PintaSugerencia();
+    PintaOpciones();
+    PintaMover();
     plataforma().Repinta();
 }

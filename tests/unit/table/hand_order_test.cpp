@@ -194,3 +194,13 @@ TEST_F(Ordenar, ElBotonVerdeTambienLaDevuelve) {
     EXPECT_FALSE(estado.ArrastraCarta);
     EXPECT_EQ(ManoDe(4), Oros({1, 2, 3, 4, 5, 6, 7, 10, 11, 12}));
 }
+
+TEST_F(Ordenar, AlPintarTodoDeNuevoLaCartaQueSeLlevaTambien) {
+    p.UsaLienzosRegistrados();
+    Toma(4, 3);
+    p.Dibujado(Control::Pic_Mover).Olvida();
+    RedibujarMesa();
+    EXPECT_EQ(
+        p.Dibujado(Control::Pic_Mover).Llamadas(),
+        (std::vector<std::string>{"MiniCarta(0, 0, 26, 36; palo 1 valor 3 cara 2 orientación 1)"}));
+}

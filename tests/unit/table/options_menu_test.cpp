@@ -7,6 +7,7 @@
 
 #include "games/cinquillo/cinquillo_choice.h"
 #include "games/common/trick_state.h"
+#include "table/table_ops.h"
 #include "table/waiting.h"
 #include "tests/support/live_table.h"
 
@@ -168,4 +169,21 @@ TEST_F(Menu, SinNadaResaltadoSoltarNoEligeNada) {
     Elige(1);
     EXPECT_TRUE(ALaVista());
     EXPECT_EQ(estado.OpcionElegida, 0);
+}
+
+TEST_F(Menu, AlPintarTodoDeNuevoElMenuAbiertoTambien) {
+    p.UsaLienzosRegistrados();
+    ClicDerecho({300, 500});
+    MueveDentro(kEntradaSola);
+    p.Dibujado(Control::Pic_SelOpciones).Olvida();
+    RedibujarMesa();
+    EXPECT_THAT(Pintado(), HasSubstr("Ordenar cartas manualmente"));
+    EXPECT_THAT(Pintado(), HasSubstr("Ordenar cartas automáticamente\"; 12, FFFFFF"));
+}
+
+TEST_F(Menu, ConOtroTamanoSeCierra) {
+    ClicDerecho({300, 500});
+    p.Mide(900, 700);
+    CambiaTamano();
+    EXPECT_FALSE(ALaVista());
 }

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "table/table_ops.h"
 #include "tests/support/live_table.h"
 
 using namespace prueba;
@@ -108,4 +109,15 @@ TEST_F(BotonesDeAsiento, LaPlacaDeTantosSoloSaleDondeSeCuenta) {
     Juega(kCinquillo);
     MostrarPuntos(3);
     EXPECT_FALSE(p.EstaVisible(Control::Pic_Tantos, 3));
+}
+
+TEST_F(BotonesDeAsiento, ConOtroTamanoLaPlacaDeTantosSigueAsuAsiento) {
+    MostrarPuntos(3);
+    const Rectangulo antes = Donde(Control::Pic_Tantos, 3);
+    p.Mide(1000, 700);
+    CambiaTamano();
+    const Rectangulo despues = Donde(Control::Pic_Tantos, 3);
+    EXPECT_EQ(despues.x, antes.x + 200);
+    EXPECT_EQ(despues.y, antes.y + 50);
+    EXPECT_FALSE(p.EstaVisible(Control::Pic_Tantos, 4));
 }
