@@ -12,6 +12,7 @@
 #include "games/game_table.h"
 #include "table/deck_setup.h"
 #include "table/messages.h"
+#include "table/table_ops.h"
 
 namespace {
 
@@ -87,6 +88,12 @@ void MezclaDescartes(Integer /*asiento*/, Integer n) {
         estado.Baraja(lugar, 1) = estado.Descartes(i, 1);
         estado.Baraja(lugar, 2) = estado.Descartes(i, 2);
     }
+    // The seat's own discards are the first of the new pile.
+    for (int i = 1; i <= estado.NumDescartes - mezcladas; ++i) {
+        for (int campo = 1; campo <= 2; ++campo) {
+            estado.Descartes(i, campo) = estado.Descartes(mezcladas + i, campo);
+        }
+    }
     estado.NumDescartes = n;
     estado.CartasEnMazo = EnteroDe(estado.CartasEnMazo + mezcladas);
 }
@@ -117,6 +124,14 @@ void RotuloContinuar(std::string& primera, std::string& segunda) {
     }
 }
 
+// A click raises a card to be discarded, or puts it back in line; the green button then says what it will do.
+void AlternaDescarte(int lugar) {
+    Integer& altura = estado.Mano(estado.JugadorActual, estado.SerieActual, lugar, kAltura);
+    altura = altura == kLevantada ? kEnLinea : kLevantada;
+    estado.JugadaHecha = true;
+    PedirContinuar(1);
+}
+
 // Midway between seat 1's zone and the table's centre, less 10.
 void ColocaMazo() {
     estado.MazoX =
@@ -135,6 +150,7 @@ const FilaJuego& FilaPoker() {
                                  .cuenta_reparto = CuentaConResto,
                                  .coloca_mazo = ColocaMazo,
                                  .rellena_mazo = MezclaDescartes,
+                                 .clic_carta = AlternaDescarte,
                                  .rotulo_continuar = RotuloContinuar};
     return kFila;
 }
