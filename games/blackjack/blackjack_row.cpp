@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "betting/chips.h"
+#include "betting/stakes.h"
 #include "core/game_state.h"
 #include "core/text.h"
 #include "games/common/series.h"
@@ -37,6 +38,11 @@ bool Recibe(Integer asiento) {
     return asiento == estado.JugadorBanca || ApuestaTotal(asiento, 1) > 0;
 }
 
+bool RecibeAMano(Integer asiento) {
+    const bool banca_servida = asiento == estado.JugadorBanca && estado.NumCartas(asiento, 1) > 0;
+    return TieneResto(asiento) && !banca_servida;
+}
+
 // The bank holds one card: the second pass ends on arriving at it.
 bool CortaPasada(int pasada, Integer asiento) {
     return pasada == 2 && asiento == estado.JugadorBanca;
@@ -65,11 +71,13 @@ const FilaJuego& FilaBlackJack() {
                                  .mazo_seguido = true,
                                  .menu_ordenar = false,
                                  .recibe = Recibe,
+                                 .recibe_a_mano = RecibeAMano,
                                  .corta_pasada = CortaPasada,
                                  .cartas_en_mesa = CartasEnMesa,
                                  .coloca_mazo = ColocaMazo,
                                  .rellena_mazo = NuevosMazos,
                                  .clave_orden = ClaveOrden,
+                                 .puntero_carta = PunteroDeSerie,
                                  .rotulo_continuar = RotuloDeSerie,
                                  .puntos = PuntosSerie,
                                  .botones_asiento = PonBotonesDeSerie};

@@ -7,6 +7,7 @@
 
 namespace {
 
+constexpr Integer kTapadaSi = 1;
 constexpr Integer kFaseApuestas = 2; // the stage of the bets
 constexpr Integer kFaseJuego = 4;    // the stage in which cards are asked for
 
@@ -33,6 +34,12 @@ void PonBotonesDeSerie(int asiento) {
             Oculta(Control::Pic_BotLateral, indice);
         }
     }
+}
+
+Puntero PunteroDeSerie(int lugar) {
+    const bool tapada =
+        estado.Mano(estado.JugadorActual, estado.SerieActual, lugar, kTapada) == kTapadaSi;
+    return tapada && !estado.ModoApuesta ? Puntero::Voltear : Puntero::Flecha;
 }
 
 void RotuloDeSerie(std::string& primera, std::string& segunda) {

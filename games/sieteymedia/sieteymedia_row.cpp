@@ -9,6 +9,8 @@
 #include "games/game_table.h"
 #include "table/deck_setup.h"
 #include "table/layout.h"
+#include "table/messages.h"
+#include "table/table_ops.h"
 
 namespace {
 
@@ -45,6 +47,22 @@ void ColocaMazo() {
     }
 }
 
+// The seat turns its covered card up; with seven and a half its turn is over.
+void VolteaSerie(int /*lugar*/) {
+    constexpr int kSonidoPosa = 25;
+    constexpr float kSieteYMediaJusto = 7.5F;
+    const Integer asiento = estado.JugadorActual;
+    const Integer serie = estado.SerieActual;
+    Sonido(0, kSonidoPosa);
+    for (int lugar = 1; lugar <= estado.NumCartas(asiento, serie); ++lugar) {
+        estado.Mano(asiento, serie, lugar, kTapada) = 0;
+    }
+    RedibujarAsiento(asiento);
+    if (PuntosSerie(asiento, serie) == kSieteYMediaJusto) {
+        estado.EsperandoJugada = false;
+    }
+}
+
 TextosSorteo Textos() {
     return {"Se  ha  sorteado  el  jugador  que  comienza  siendo  banca.",
             "El primer jugador banca es "};
@@ -69,6 +87,8 @@ const FilaJuego& FilaSieteYMedia() {
                                  .cuenta_reparto = CuentaConResto,
                                  .coloca_mazo = ColocaMazo,
                                  .clave_orden = ClaveOrden,
+                                 .puntero_carta = PunteroDeSerie,
+                                 .clic_voltear = VolteaSerie,
                                  .rotulo_continuar = RotuloDeSerie,
                                  .puntos = PuntosSerie,
                                  .botones_asiento = PonBotonesDeSerie};
