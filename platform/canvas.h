@@ -40,9 +40,11 @@ struct Fuente {
 enum class Alineacion { Izquierda, Centro, Derecha };
 
 // One card as it is to be drawn. orientacion 1..4: 1 stands upright as in the deck image, each step turns
-// it a quarter clockwise; 2 and 4 lie on their side (141 by 101). cara: 1 the back shows, 2 the face.
+// it a quarter clockwise; 2 and 4 lie on their side (141 by 101). cara: 1 the back shows, 2 the face. tapada: a
+// face on show is half covered by the back; the corner that a hand of cards leaves to see stays clear.
 struct ImagenCarta {
     Integer palo = 0, valor = 0, cara = 1, orientacion = 1;
+    bool tapada = false;
     friend bool operator==(const ImagenCarta&, const ImagenCarta&) = default;
 };
 

@@ -68,7 +68,8 @@ void MoverCarta(int palo, int valor, int desdeX, int desdeY, int desdeOrientacio
     const ImagenCarta carta{.palo = EnteroDe(palo),
                             .valor = EnteroDe(valor),
                             .cara = EnteroDe(hastaCara),
-                            .orientacion = EnteroDe(hastaOrientacion)};
+                            .orientacion = EnteroDe(hastaOrientacion),
+                            .tapada = tapada == 1};
     const int caminoX = hastaX - desdeX;
     const int caminoY = hastaY - desdeY;
     if (caminoX != 0 || caminoY != 0) {

@@ -154,7 +154,8 @@ void PintaCartas(int asiento) {
                      {.palo = campo(kPalo),
                       .valor = campo(kValor),
                       .cara = campo(kCara),
-                      .orientacion = OrientacionDe(asiento)});
+                      .orientacion = OrientacionDe(asiento),
+                      .tapada = campo(kTapada) == 1});
     }
 }
 

@@ -9,8 +9,8 @@ std::string Medidas(const Rectangulo& r) {
 }
 
 std::string Naipe(const ImagenCarta& c) {
-    return fmt::format("palo {} valor {} cara {} orientación {}", c.palo, c.valor, c.cara,
-                       c.orientacion);
+    return fmt::format("palo {} valor {} cara {} orientación {}{}", c.palo, c.valor, c.cara,
+                       c.orientacion, c.tapada ? " tapada" : "");
 }
 
 constexpr const char* kAlineaciones[] = {"izquierda", "centro", "derecha"};

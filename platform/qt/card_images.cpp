@@ -182,8 +182,23 @@ QImage Imagenes::Derecha(const ImagenCarta& carta) const {
         QRect(QPoint((carta.valor - 1) * celda.width(), (carta.palo - 1) * celda.height()), celda));
 }
 
+// The back lies over one half of the face, with a rim where it ends. Upside down or turned to the left the upper
+// half is covered: the corner that a hand leaves to see is then the lower one.
+QImage Imagenes::MedioTapada(const QImage& cara, bool la_de_arriba) const {
+    QImage tapada = cara;
+    const int mitad = cara.height() / 2;
+    QPainter p(&tapada);
+    p.setClipRect(0, la_de_arriba ? 0 : mitad, cara.width(), cara.height() - mitad);
+    p.drawImage(0, 0, DeRecursos(dorso_, "dorso"));
+    p.fillRect(QRectF(0, mitad, cara.width(), ratio_), kCantoMiniCarta);
+    return tapada;
+}
+
 QImage Imagenes::Carta(const ImagenCarta& carta) const {
-    const QImage derecha = Derecha(carta);
+    const bool a_medias = carta.tapada && carta.cara == kDescubierta;
+    const QImage entera = Derecha(carta);
+    const QImage derecha =
+        a_medias && !entera.isNull() ? MedioTapada(entera, carta.orientacion > 2) : entera;
     const int cuartos = (carta.orientacion - 1) % 4;
     return derecha.isNull() || cuartos == 0
                ? derecha

@@ -37,7 +37,8 @@ public:
     QSize TamanoCarta() const;
 
 private:
-    QImage Derecha(const ImagenCarta& carta) const; // upright
+    QImage Derecha(const ImagenCarta& carta) const;                  // upright
+    QImage MedioTapada(const QImage& cara, bool la_de_arriba) const; // half of it under the back
     QImage DeRecursos(QImage& lista, const char* nombre) const;
 
     double ratio_;

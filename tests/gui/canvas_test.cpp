@@ -228,6 +228,29 @@ private Q_SLOTS:
         QVERIFY(blanco(4, 10, 50));
     }
 
+    void UnaCartaTapadaEnsenaSuMitadDeArriba() {
+        Imagenes imagenes(1);
+        imagenes.CargaBaraja(Guarda(BarajaDeColores(12), "b.bmp"), 12);
+        ImagenCarta como = kAsDeOros;
+        const QImage cara = imagenes.Carta(como);
+        const QImage dorso = imagenes.Carta({.cara = 1});
+        como.tapada = true;
+        const QImage tapada = imagenes.Carta(como);
+        QCOMPARE(tapada.copy(0, 0, kAnchoCarta, 70), cara.copy(0, 0, kAnchoCarta, 70));
+        QCOMPARE(tapada.copy(10, 75, 80, 50), dorso.copy(10, 75, 80, 50));
+        // The corners stay clear, and a back is a back.
+        QCOMPARE(qAlpha(tapada.pixel(0, kAltoCarta - 1)), 0);
+        QCOMPARE(imagenes.Carta({.cara = 1, .tapada = true}), dorso);
+        // On its side the covered half turns with the card: the upper edge is now at the right.
+        como.orientacion = 2;
+        QCOMPARE(imagenes.Carta(como).pixel(kAltoCarta - 20, 50), cara.pixel(50, 20));
+        QVERIFY(imagenes.Carta(como).pixel(20, 50) != cara.pixel(50, 20));
+        // Upside down the corner that a hand leaves to see is the lower one.
+        como.orientacion = 3;
+        QCOMPARE(imagenes.Carta(como).pixel(50, 20), cara.pixel(50, 120));
+        QVERIFY(imagenes.Carta(como).pixel(50, 120) != cara.pixel(50, 20));
+    }
+
     void UnaCartaQueNoExisteNoSePinta() {
         Imagenes imagenes(1);
         imagenes.CargaBaraja(Guarda(BarajaDeColores(12), "b.bmp"), 12);

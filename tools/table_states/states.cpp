@@ -5,10 +5,12 @@
 
 #include "betting/chips.h"
 #include "core/game_state.h"
+#include "games/common/trick_state.h"
 #include "games/game_table.h"
 #include "games/state_blocks.h"
 #include "platform/platform.h"
 #include "table/button_column.h"
+#include "table/deck.h"
 #include "table/hand_order.h"
 #include "table/layout.h"
 #include "table/manual_deal.h"
@@ -60,7 +62,9 @@ constexpr std::array kVerdes{
     CasoVerde{kPoker, true, kAutomatico, 4, 1, false},
     CasoVerde{kPoker, true, kManual, 4, 1, true},
     CasoVerde{kBlackJack, true, kAutomatico, 2, 1, false},
-    CasoVerde{kBlackJack, true, kAutomatico, 4, 3, false},
+    CasoVerde{kBlackJack, true, kAutomatico, 2, 2, false},
+    CasoVerde{kBlackJack, true, kAutomatico, 4, 1, false},
+    CasoVerde{kSieteYMedia, true, kAutomatico, 4, 3, false},
 };
 constexpr int kVerdesEnTotal = static_cast<int>(kVerdes.size()) * 2;
 
@@ -96,6 +100,63 @@ void ManosOcultas(int vez) {
     for (Integer asiento = 1; asiento <= 4; ++asiento)
         PonCartas(asiento, vez, 0, kDorso);
     RedibujaAsientos();
+}
+
+// The jokers, face and back, as each seat sees them.
+void Comodines(int) {
+    estado.ComodinesJuego = 3;
+    PonPartida(kPoker);
+    for (Integer asiento = 1; asiento <= 4; ++asiento) {
+        PonCartas(asiento, 4, 6 * asiento, kDescubierta);
+        for (Integer lugar = 2; lugar <= 4; ++lugar)
+            PonCarta(asiento, 1, lugar, kComodin, lugar == 2 ? Integer{91} : Integer{92},
+                     lugar == 4 ? kDorso : kDescubierta);
+    }
+    RedibujaAsientos();
+}
+
+// A covered card alone and in a hand, hidden and on show.
+void Tapadas(int vez) {
+    PonPartida(kSieteYMedia);
+    for (Integer asiento = 1; asiento <= 4; ++asiento) {
+        PonCartas(asiento, vez, 7 * asiento, kDescubierta);
+        estado.Mano(asiento, 1, 1, kTapada) = 1;
+        estado.Mano(asiento, 1, 1, kCara) = asiento == 2 ? kDorso : kDescubierta;
+    }
+    RedibujaAsientos();
+}
+
+// The turned card under the pile, from full to alone, and a trick that grows in the middle.
+constexpr std::array<Integer, 5> kAlturasTriunfo{27, 16, 4, 1, 0};
+
+void Triunfo(int vez) {
+    PonPartida(vez <= 4 ? kBrisca : kTute);
+    for (Integer asiento = 1; asiento <= 4; ++asiento)
+        PonCartas(asiento, 3, 4 * asiento, kDescubierta);
+    estado.PaloTriunfo = kEspadas;
+    estado.ValorTriunfo = 11;
+    estado.CartasEnMazo = kAlturasTriunfo[static_cast<std::size_t>(vez - 1)];
+    estado.NumBaza = 1;
+    estado.JugadorSalida = 4;
+    vista.cartas_mazo = estado.CartasEnMazo;
+    for (Integer asiento = 4; asiento >= 6 - vez && asiento >= 1; --asiento) {
+        const CartaDeBaraja carta = NesimaCarta(9 * asiento + vez);
+        bazas.CartaEnMesa(asiento, 1) = carta.palo;
+        bazas.CartaEnMesa(asiento, 2) = carta.valor;
+    }
+    RedibujarMesa();
+}
+
+// A card of the hand on the pointer.
+void Ordenando(int) {
+    PonPartida(kCinquillo);
+    for (Integer asiento = 1; asiento <= 4; ++asiento)
+        PonCartas(asiento, 10, 10 * (asiento - 1), kDescubierta);
+    RedibujaAsientos();
+    estado.ModoOrdenar = true;
+    estado.SerieActual = 1;
+    TomaParaOrdenar(4, 3);
+    MueveArrastrada(estado.CentroX, estado.AltoMesa - 60);
 }
 
 void Levantadas(int) {
@@ -347,6 +408,10 @@ const std::vector<Estampa>& Estampas() {
         {"verde", BotonVerde, kVerdesEnTotal, TrozoVerde},
         {"manos", Manos, 14},
         {"ocultas", ManosOcultas, 14},
+        {"comodines", Comodines},
+        {"tapadas", Tapadas, 3},
+        {"triunfo", Triunfo, static_cast<int>(kAlturasTriunfo.size())},
+        {"ordenando", Ordenando},
         {"levantadas", Levantadas},
         {"rotulos", Rotulos, static_cast<int>(kColores.size())},
         {"nombres", Nombres},
