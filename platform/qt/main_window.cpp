@@ -18,8 +18,8 @@ QSettings Ajustes() {
                      QSettings::IniFormat);
 }
 
-// Less of the table than this is no window to play in.
-constexpr QSize kMinimo(400, 300);
+// The whole table. Only a screen that is smaller has a smaller window, in which the table scrolls.
+constexpr QSize kMinimo(800, 600);
 
 } // namespace
 
@@ -30,7 +30,7 @@ VentanaPrincipal::VentanaPrincipal(QWidget* mesa) {
     setWidgetResizable(true);
     setWidget(mesa);
     setFocusProxy(mesa);
-    setMinimumSize(kMinimo);
+    setMinimumSize(kMinimo.boundedTo(QApplication::primaryScreen()->availableSize()));
     // A menu would hold the game up in the middle of a pause.
     for (QScrollBar* barra : {horizontalScrollBar(), verticalScrollBar()})
         barra->setContextMenuPolicy(Qt::NoContextMenu);

@@ -286,7 +286,13 @@ private Q_SLOTS:
         QVERIFY(QColor(cuadro.pixel(760, 150)).red() < 8);
     }
 
+    void LaVentanaEnsenaLaMesaEntera() {
+        mesa_->Ventana().resize(640, 480);
+        QCOMPARE(mesa_->Ventana().size(), QSize(800, 600));
+    }
+
     void PorDebajoDe800x600LaMesaSeDesplaza() {
+        mesa_->Ventana().setMinimumSize(0, 0); // as on a screen that has no more
         mesa_->Ventana().resize(640, 480);
         Toma();
         QCOMPARE(mesa_->AnchoVentana(), 800);
