@@ -147,6 +147,8 @@ public:
     virtual Puntero PunteroDe(Control control, int indice) const = 0;
     // What a screen reader says of the control, and its tool tip.
     virtual void Nombra(Control control, int indice, std::string_view nombre) = 0;
+    // What a screen reader says now, unasked.
+    virtual void Anuncia(std::string_view texto) = 0;
     // The flying card, above everything on the felt; Posa takes it away.
     virtual void Vuela(int x, int y, const ImagenCarta& carta) = 0;
     virtual void Posa() = 0;

@@ -56,6 +56,8 @@ void ColocaSugerencia() {
     p.Coloca(Control::Pic_Sugerencia, 0, {0, y, kAnchoSugerencia, kAltoSugerencia});
     p.Coloca(Control::Pic_MasAyuda, 0, kMasAyuda);
     p.Coloca(Control::Bot_CerrarSuge, 0, kCerrar);
+    p.Nombra(Control::Pic_MasAyuda, 0, "Más ayuda");
+    p.Nombra(Control::Bot_CerrarSuge, 0, "Cerrar la ventana de información");
 }
 
 void PintaPanel() {

@@ -99,6 +99,31 @@ void PintaRotulo(int asiento, bool visible) {
     plataforma().Repinta();
 }
 
+// The letters of a caption that is spread by hand ("P a s o") as a word.
+std::string SinEspaciar(const std::string& rotulo) {
+    std::string palabra;
+    for (int i = 1; i <= Longitud(rotulo); ++i) {
+        const std::string letra = Medio(rotulo, i, 1);
+        if (i % 2 == 0 && letra != " ") {
+            return rotulo;
+        }
+        palabra += i % 2 == 0 ? "" : letra;
+    }
+    return palabra;
+}
+
+// Tells a caption when it comes, not each time the seat is painted.
+void AnunciaRotulo(int asiento) {
+    const std::string& rotulo = estado.RotuloSerie(asiento, estado.SerieActual);
+    if (rotulo == vista.rotulo_dicho(asiento)) {
+        return;
+    }
+    vista.rotulo_dicho(asiento) = rotulo;
+    if (!rotulo.empty()) {
+        plataforma().Anuncia(estado.NombreJugador(asiento) + ": " + SinEspaciar(rotulo));
+    }
+}
+
 void ParpadeaRotulo(int asiento, Integer serie) {
     const bool verde = estado.ColorRotulo(asiento, serie) == color::kVerde;
     for (int vez = 0; vez < estado.ParpadeoRotulo(asiento, serie); ++vez) {
@@ -112,6 +137,7 @@ void ParpadeaRotulo(int asiento, Integer serie) {
     }
     estado.ParpadeoRotulo(asiento, serie) = 0;
     estado.RotuloSerie(asiento, serie).clear();
+    vista.rotulo_dicho(asiento).clear();
 }
 
 // The strip into which raised cards and captions reach belongs to the centre as long as nothing of the seat
@@ -179,6 +205,7 @@ void RedibujarAsiento(int asiento) {
     Traza("RedibujarAsiento", asiento);
     const Integer serie = estado.SerieActual;
     const bool parpadea = estado.ParpadeoRotulo(asiento, serie) > 0;
+    AnunciaRotulo(asiento);
     if (plataforma().HayPantalla()) {
         LimpiaZona(asiento);
         PintaNombre(asiento);
@@ -219,6 +246,7 @@ void ResaltarAsiento() {
 
 void MostrarRotulo(int asiento) {
     Traza("MostrarRotulo", asiento);
+    AnunciaRotulo(asiento);
     if (plataforma().HayPantalla()) {
         PintaRotulo(asiento, true);
     }

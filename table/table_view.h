@@ -2,17 +2,20 @@
 // What stands on the felt beyond the hands, so that everything can be painted anew at a new size. It is a
 // memory of drawing only: no rule reads it.
 
+#include <string>
+
 #include "platform/canvas.h"
 
 struct VistaMesa {
-    int cartas_mazo = 0;              // cards of the pile on show, 0 no pile
-    bool mazo_centrado = false;       // in the middle for the draw, not at the game's place
-    bool nombres = false;             // the names of the seats are on show
-    int asiento_arrastrado = 0;       // the hand from which CartaMovida was taken
-    int puntero_x = 0, puntero_y = 0; // where on the table the pointer was last seen
-    Tabla<int, 4> abanico;            // places for which a hand that is being dealt is laid out
-    Tabla<bool, 4> franja_ocupada;    // a seat's raised cards or caption stand before its zone
-    Tabla<ImagenCarta, 4> sorteada;   // the draw's last card of each seat, palo 0 for none
+    int cartas_mazo = 0;                // cards of the pile on show, 0 no pile
+    bool mazo_centrado = false;         // in the middle for the draw, not at the game's place
+    bool nombres = false;               // the names of the seats are on show
+    int asiento_arrastrado = 0;         // the hand from which CartaMovida was taken
+    int puntero_x = 0, puntero_y = 0;   // where on the table the pointer was last seen
+    Tabla<int, 4> abanico;              // places for which a hand that is being dealt is laid out
+    Tabla<bool, 4> franja_ocupada;      // a seat's raised cards or caption stand before its zone
+    Tabla<std::string, 4> rotulo_dicho; // the caption that a screen reader has told of a seat
+    Tabla<ImagenCarta, 4> sorteada;     // the draw's last card of each seat, palo 0 for none
 };
 
 extern VistaMesa vista;

@@ -49,6 +49,7 @@ void PlataformaSinPantalla::Limpia() {
     respuestas.clear();
     siempre_continua = traviesa = false;
     mensajes.clear();
+    anuncios.clear();
     sonidos.clear();
     temas_ayuda.clear();
     formas_abiertas.clear();
@@ -110,6 +111,11 @@ Puntero PlataformaSinPantalla::PunteroDe(Control control, int indice) const {
 
 void PlataformaSinPantalla::Nombra(Control control, int indice, std::string_view nombre) {
     tablero_.Nombra({control, indice}, nombre);
+}
+
+void PlataformaSinPantalla::Anuncia(std::string_view texto) {
+    if (registra)
+        anuncios.emplace_back(texto);
 }
 
 Boton PlataformaSinPantalla::Pregunta(const CajaMensaje& caja) {

@@ -36,6 +36,7 @@ public:
     // What was asked for. Kept while registra is on.
     bool registra = true;
     std::vector<CajaMensaje> mensajes;
+    std::vector<std::string> anuncios;
     std::vector<SonidoPedido> sonidos;
     std::vector<int> temas_ayuda;
     std::vector<Forma> formas_abiertas;
@@ -77,6 +78,7 @@ public:
     void PonPuntero(Control control, int indice, Puntero puntero) override;
     Puntero PunteroDe(Control control, int indice) const override;
     void Nombra(Control control, int indice, std::string_view nombre) override;
+    void Anuncia(std::string_view texto) override;
     void Vuela(int, int, const ImagenCarta&) override {}
     void Posa() override {}
     void Repinta() override {}

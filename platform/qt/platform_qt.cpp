@@ -1,5 +1,6 @@
 #include "platform/qt/platform_qt.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QDateTime>
 #include <QDialog>
@@ -215,6 +216,16 @@ void PlataformaQt::Nombra(Control control, int indice, std::string_view nombre) 
         mesa_->setAccessibleName(letras);
     else
         Vista(control, indice).Nombra(letras);
+}
+
+// The table has the focus while a hand is played, and screen readers tell what changes in the description of that.
+// Emptied first, or the same words would be no change.
+void PlataformaQt::Anuncia(std::string_view texto) {
+    mesa_->setAccessibleDescription(QString());
+    mesa_->setAccessibleDescription(
+        QString::fromUtf8(texto.data(), static_cast<qsizetype>(texto.size())));
+    QAccessibleEvent aviso(mesa_, QAccessible::Alert);
+    QAccessible::updateAccessibility(&aviso);
 }
 
 void PlataformaQt::Vuela(int x, int y, const ImagenCarta& carta) {

@@ -57,6 +57,7 @@ public:
     void PonPuntero(Control control, int indice, Puntero puntero) override;
     Puntero PunteroDe(Control control, int indice) const override;
     void Nombra(Control control, int indice, std::string_view nombre) override;
+    void Anuncia(std::string_view texto) override;
     void Vuela(int x, int y, const ImagenCarta& carta) override;
     void Posa() override;
     void Repinta() override;

@@ -160,3 +160,28 @@ TEST_F(AsientoEnMesa, LoQueDejaUnaPartidaAcabadaSigueAhiAlRepintarLaMesa) {
     EXPECT_TRUE(Dibujado("Carta").empty());
     EXPECT_TRUE(Dibujado("Texto").empty());
 }
+
+TEST_F(AsientoEnMesa, UnaCartaTapadaALaVistaVaMedioCubierta) {
+    estado.Mano(4, 1, 2, kTapada) = 1;
+    RedibujarAsiento(4);
+    EXPECT_THAT(Dibujado("Carta")[1], HasSubstr("palo 2 valor 2 cara 2 orientación 1 tapada"));
+    EXPECT_THAT(Dibujado("Carta")[2], testing::Not(HasSubstr("tapada")));
+}
+
+TEST_F(AsientoEnMesa, UnRotuloSeAnunciaCuandoLlegaYUnaVez) {
+    PonRotulo(2, "No quiero cartas", color::kBlanco, 0);
+    RedibujarAsiento(2);
+    RedibujarAsiento(2);
+    EXPECT_EQ(p.anuncios, (std::vector<std::string>{"Jugador2: No quiero cartas"}));
+    PonRotulo(2, "Descarto 2 cartas", color::kBlanco, 0);
+    RedibujarAsiento(2);
+    EXPECT_EQ(p.anuncios.size(), 2U);
+}
+
+TEST_F(AsientoEnMesa, UnRotuloQueParpadeaSeAnunciaCadaVezQueVuelve) {
+    for (int vez = 0; vez < 2; ++vez) {
+        PonRotulo(3, "P a s o", color::kVerde, 3);
+        RedibujarAsiento(3);
+    }
+    EXPECT_EQ(p.anuncios, (std::vector<std::string>{"Jugador3: Paso", "Jugador3: Paso"}));
+}
