@@ -299,7 +299,7 @@ void Sugerencia(int vez) {
 }
 
 Rectangulo TrozoSugerencia(int) {
-    return {0, estado.AltoMesa - 84, 200, 84};
+    return {0, estado.AltoMesa - 84, 224, 84}; // the panel and a rim of felt
 }
 
 // The pop-up, its second entry with the cross that says it is on, and each of them pointed at.
