@@ -69,6 +69,7 @@ void CalcularMesa() {
     for (int boton = 1; boton <= 8; ++boton) {
         HabilitaBoton(boton, boton != 3 && boton != 4 && boton != 8);
     }
+    PintaColumna();
 }
 
 void CambiaTamano() {

@@ -82,3 +82,13 @@ TEST_F(Columna, OcultarQuitaElBotonYLaEspera) {
     EXPECT_FALSE(estado.EsperandoJugada);
     EXPECT_FALSE(p.EstaVisible(Control::Pic_BotContinuar, 0));
 }
+
+TEST_F(Columna, CalcularLaMesaPintaTodaLaColumna) {
+    CalcularMesa();
+    // The rim towards the table, in its two colours, and the eight buttons.
+    EXPECT_EQ(p.Dibujado(Control::Pic_Botonera).Llamadas(),
+              (std::vector<std::string>{"Fieltro(0, 0, 90, 600)", "Linea(0, 0, 0, 600; 2040E0, 1)",
+                                        "Linea(1, 0, 1, 600; 6080E0, 1)"}));
+    for (int boton = 1; boton <= 8; ++boton)
+        EXPECT_FALSE(p.Dibujado(Control::Pic_Boton, boton).Llamadas().empty()) << boton;
+}
