@@ -2,7 +2,7 @@
 moved within the hand."""
 
 from lib.forms import Normas, Personal, sit_two
-from lib.table import expect, is_felt, run, wait_for, xdotool
+from lib.table import expect, run, wait_for, xdotool
 from lib.trick_player import (AS, BASTOS, CABALLO, COPAS, ESPADAS, ME, OPPONENT, OROS, RANKS, REY,
                               SOTA, STRENGTH, TrickPlayer)
 
