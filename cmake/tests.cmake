@@ -161,4 +161,5 @@ if(TARGET zovin)
       WORKING_DIRECTORY "${test_scratch}"
       ENVIRONMENT "${test_environment}")
   endforeach()
+  set_property(TEST e2e.small_screen APPEND PROPERTY ENVIRONMENT "ZOVIN_SCREEN=800x600")
 endif()

@@ -21,6 +21,14 @@ QSettings Ajustes() {
 // The whole table. Only a screen that is smaller has a smaller window, in which the table scrolls.
 constexpr QSize kMinimo(800, 600);
 
+// What a desktop's frame takes of the height, with some to spare.
+constexpr int kAltoMarco = 40;
+
+// Under a title bar the lower edge of the table would lie below the screen.
+bool NoCabeConMarco() {
+    return QApplication::primaryScreen()->availableSize().height() < kMinimo.height() + kAltoMarco;
+}
+
 } // namespace
 
 VentanaPrincipal::VentanaPrincipal(QWidget* mesa) {
@@ -46,7 +54,9 @@ void VentanaPrincipal::RecuerdaSitio() {
 }
 
 void VentanaPrincipal::Aparece() {
-    if (recordado_)
+    if (NoCabeConMarco())
+        showFullScreen();
+    else if (recordado_)
         show();
     else
         showMaximized();
@@ -55,7 +65,7 @@ void VentanaPrincipal::Aparece() {
 }
 
 void VentanaPrincipal::GuardaSitio() {
-    if (isVisible())
+    if (isVisible() && !isFullScreen())
         Ajustes().setValue(kSitio, saveGeometry());
 }
 

@@ -9,9 +9,10 @@ class VentanaPrincipal : public QScrollArea {
 public:
     explicit VentanaPrincipal(QWidget* mesa);
 
-    // The first time it fills the screen, later it comes up where and as large as it was left.
+    // The first time it fills the screen, later it comes up where and as large as it was left; on a screen that
+    // has no room for a frame around the table it always takes the whole screen.
     void Aparece();
-    // Remembers place and size for the next start.
+    // Remembers place and size for the next start; the whole screen is nothing to remember.
     void GuardaSitio();
 
     // The close button was pressed; the window stays until the game has decided.
