@@ -2,8 +2,8 @@
 // widgets, while matches run under every kind of setting. Whenever the game waits, every card is somewhere, once,
 // no card hangs on a pointer that holds none, and every box is answered.
 //
-// ZOVIN_LARGO=1 plays for minutes, from another seed each time. The seed is printed; ZOVIN_SEMILLA=<number> plays that
-// run again.
+// ZOVIN_LARGO=1 plays for minutes, from another seed each time. The seed is printed; ZOVIN_SEMILLA=<number> begins
+// that run again, and goes the same way until the window system paints or wakes at another moment.
 
 #include <QApplication>
 #include <QDir>
@@ -88,8 +88,7 @@ bool HayMancha(const QImage& a, const QImage& b) {
 }
 
 // The desktop, with an eye on what the game does between two events. Its clock stands still but for the pauses, over
-// which it leaps: so thousands of events fit into a test, and the same seed deals the same cards. In some pauses
-// something is clicked first.
+// which it leaps, so that thousands of events fit into a test. In some pauses something is clicked first.
 class Escritorio : public PlataformaQt {
 public:
     using PlataformaQt::PlataformaQt;
@@ -566,7 +565,9 @@ class PruebaMono : public QObject {
     }
 
     bool YaBasta() {
-        return largo_ ? reloj_.elapsed() > kMilisegundosLargo : mano_.eventos >= kEventos;
+        if (largo_)
+            return reloj_.elapsed() > kMilisegundosLargo;
+        return mano_.eventos >= (manos_ > 0 ? kEventos : 10 * kEventos);
     }
 
     void Paso() {
