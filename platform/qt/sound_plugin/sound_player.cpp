@@ -5,6 +5,7 @@
 #include <QMediaDevices>
 #include <QObject>
 #include <QSoundEffect>
+#include <QTimer>
 #include <QWaveDecoder>
 #include <map>
 #include <memory>
@@ -26,8 +27,13 @@ int DuracionDe(const QString& ruta) {
     return cabecera.duration();
 }
 
+// A sound that has been heard keeps its stream open and wakes the program a hundred times a second until it is
+// stopped; the sound server may still be playing its end for a while.
+constexpr int kColaDelServidor = 500;
+
 struct Efecto {
     std::unique_ptr<QSoundEffect> sonido;
+    std::unique_ptr<QTimer> calla;
     int duracion = 0;
 };
 
@@ -42,8 +48,10 @@ public:
         if (QMediaDevices::defaultAudioOutput().isNull())
             return 0;
         Efecto& efecto = EfectoDe(id);
-        if (efecto.duracion > 0)
+        if (efecto.duracion > 0) {
             efecto.sonido->play();
+            efecto.calla->start(efecto.duracion + kColaDelServidor);
+        }
         return efecto.duracion;
     }
 
@@ -54,6 +62,10 @@ private:
             return efecto;
         efecto.sonido = std::make_unique<QSoundEffect>();
         efecto.duracion = DuracionDe(RutaDe(id));
+        efecto.calla = std::make_unique<QTimer>();
+        efecto.calla->setSingleShot(true);
+        QObject::connect(efecto.calla.get(), &QTimer::timeout, efecto.sonido.get(),
+                         &QSoundEffect::stop);
         if (efecto.duracion > 0)
             efecto.sonido->setSource(QUrl(QStringLiteral("qrc") + RutaDe(id)));
         return efecto;
