@@ -11,6 +11,9 @@
 #include <cstdio>
 #include <cstring>
 #include <exception>
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 
 #include "core/entry.h"
 #include "forms/normas_view.h"
@@ -29,6 +32,14 @@ bool Pide(int argc, char** argv, std::initializer_list<const char*> opciones) {
         return std::ranges::any_of(
             opciones, [&](const char* opcion) { return std::strcmp(palabra, opcion) == 0; });
     });
+}
+
+// Pictures that were only read to be made smaller give their memory back, instead of leaving holes in the heap.
+void CuidaLaMemoria() {
+#ifdef __GLIBC__
+    constexpr int kImagen = 256 * 1024;
+    mallopt(M_MMAP_THRESHOLD, kImagen);
+#endif
 }
 
 // What has to be settled before Qt looks for a screen. False when there is none to play on.
@@ -98,6 +109,7 @@ void CuentaFallo(const char* motivo) {
 } // namespace
 
 int main(int argc, char** argv) {
+    CuidaLaMemoria();
     if (!PreparaEntorno(argc, argv)) {
         std::fputs("zovin: no hay pantalla (ni DISPLAY ni WAYLAND_DISPLAY). Con --demo se juega "
                    "sin ella.\n",
