@@ -55,11 +55,11 @@ def field_of(path, field):
 
 
 def spent(table):
-    """Seconds of processor, and how often the threads have slept and woken."""
+    """Seconds of processor, and how often the program's own thread has slept and woken. The sound library's thread
+    answers its server, and wakes when that has something to tell."""
     process = pathlib.Path(f"/proc/{table.process.pid}")
     fields = (process / "stat").read_text(encoding="utf-8").rsplit(")", 1)[1].split()
-    wakes = sum(field_of(thread / "status", "voluntary_ctxt_switches")
-                for thread in (process / "task").iterdir())
+    wakes = field_of(process / "status", "voluntary_ctxt_switches")
     return (int(fields[11]) + int(fields[12])) / os.sysconf("SC_CLK_TCK"), wakes
 
 
