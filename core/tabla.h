@@ -75,11 +75,11 @@ private:
     }
 
     // One signed type for all: a huge unsigned index comes out below 0, and both are beyond the last place.
-    template <std::size_t Dimension>
-    static std::size_t Lugar(long long indice) {
-        const auto lugar = static_cast<std::size_t>(indice);
+    template <std::size_t Dimension, class I>
+    static std::size_t Lugar(I indice) {
+        const auto lugar = static_cast<std::size_t>(static_cast<long long>(indice));
         if (lugar > static_cast<std::size_t>(kTopes[Dimension]))
-            LanzaIndiceFuera(Dimension + 1, indice, kTopes[Dimension]);
+            LanzaIndiceFuera(Dimension + 1, static_cast<long long>(indice), kTopes[Dimension]);
         return lugar;
     }
 
