@@ -49,7 +49,11 @@ QList<PaginaAyuda> LeeContenido(const QString& carpeta) {
 }
 
 VistaAyuda::VistaAyuda(const QString& carpeta)
-    : carpeta_(carpeta), hoja_(new QTextBrowser), arbol_(new QTreeWidget), busca_(new QLineEdit) {
+    : carpeta_(carpeta),
+      hoja_(new QTextBrowser),
+      arbol_(new QTreeWidget),
+      busca_(new QLineEdit),
+      nada_(new QLabel(QStringLiteral("Ninguna página tiene esas palabras."))) {
     setObjectName(QStringLiteral("ayuda"));
     setWindowTitle(QStringLiteral("Ayuda de Zovin"));
     setPalette(estilo::Paleta());
@@ -58,9 +62,10 @@ VistaAyuda::VistaAyuda(const QString& carpeta)
     LlenaArbol(LeeContenido(carpeta_));
     connect(busca_, &QLineEdit::textChanged, this, &VistaAyuda::Busca);
     connect(hoja_, &QTextBrowser::sourceChanged, this, &VistaAyuda::SenalaEnArbol);
-    connect(arbol_, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* rama) {
-        if (rama != nullptr && rama->isSelected())
-            MuestraTema(rama->data(0, kTemaEnRama).toInt());
+    // A click makes a branch the current one before it selects it, so it is the selection that tells.
+    connect(arbol_, &QTreeWidget::itemSelectionChanged, this, [this] {
+        for (const QTreeWidgetItem* rama : arbol_->selectedItems())
+            PonPagina(rama->data(0, kTemaEnRama).toInt());
     });
 }
 
@@ -73,7 +78,10 @@ void VistaAyuda::Compon() {
     hoja_->setAccessibleName(QStringLiteral("Página de la ayuda"));
     hoja_->setOpenExternalLinks(false);
     hoja_->document()->setDocumentMargin(14);
-    for (QWidget* lista : std::initializer_list<QWidget*>{busca_, arbol_})
+    nada_->setWordWrap(true);
+    nada_->setContentsMargins(4, 4, 4, 4);
+    nada_->hide();
+    for (QWidget* lista : std::initializer_list<QWidget*>{busca_, nada_, arbol_})
         lista->setFont(LetraDe({.alto = 14}));
 
     auto* atras = new BotonSuite(QStringLiteral("Atrás"), this);
@@ -94,7 +102,8 @@ void VistaAyuda::Compon() {
     auto* indice = new QVBoxLayout(lado);
     indice->setContentsMargins(0, 0, 0, 0);
     indice->addWidget(busca_);
-    indice->addWidget(arbol_);
+    indice->addWidget(nada_);
+    indice->addWidget(arbol_, 1);
     auto* partes = new QSplitter;
     partes->addWidget(lado);
     partes->addWidget(hoja_);
@@ -119,7 +128,7 @@ QString VistaAyuda::FicheroDe(int tema) const {
     return carpeta_ + QStringLiteral("/%1.html").arg(tema);
 }
 
-void VistaAyuda::MuestraTema(int tema) {
+void VistaAyuda::PonPagina(int tema) {
     QString fichero = FicheroDe(tema);
     if (tema == 0 || !QFileInfo::exists(fichero))
         fichero = carpeta_ + QStringLiteral("/index.html");
@@ -127,6 +136,10 @@ void VistaAyuda::MuestraTema(int tema) {
         hoja_->setSource(QUrl::fromLocalFile(fichero));
     else
         DiQueFalta();
+}
+
+void VistaAyuda::MuestraTema(int tema) {
+    PonPagina(tema);
     hoja_->setFocus();
     show();
     raise();
@@ -172,6 +185,8 @@ void VistaAyuda::Busca(const QString& palabras) {
              madre = madre->parent())
             madre->setHidden(false);
     }
+    nada_->setHidden(
+        std::ranges::any_of(ramas_, [](const QTreeWidgetItem* rama) { return !rama->isHidden(); }));
 }
 
 void VistaAyuda::keyPressEvent(QKeyEvent* evento) {

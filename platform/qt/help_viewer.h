@@ -6,6 +6,7 @@
 #include <QTextBrowser>
 #include <QWidget>
 
+class QLabel;
 class QLineEdit;
 class QTreeWidget;
 class QTreeWidgetItem;
@@ -31,6 +32,7 @@ protected:
 
 private:
     void Compon();
+    void PonPagina(int tema);
     void LlenaArbol(const QList<PaginaAyuda>& paginas);
     void Busca(const QString& palabras);
     void SenalaEnArbol(const QUrl& pagina);
@@ -42,6 +44,7 @@ private:
     QTextBrowser* hoja_;
     QTreeWidget* arbol_;
     QLineEdit* busca_;
+    QLabel* nada_; // says that a search found no page
     QHash<int, QTreeWidgetItem*> ramas_;
     QHash<int, QString> textos_; // plain, folded for the search, read when first searched
 };

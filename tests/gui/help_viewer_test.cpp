@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QLabel>
 #include <QLineEdit>
 #include <QTemporaryDir>
 #include <QTest>
@@ -81,6 +82,44 @@ private Q_SLOTS:
         auto* arbol = ayuda.findChild<QTreeWidget*>();
         arbol->setCurrentItem(arbol->topLevelItem(0));
         QVERIFY(ayuda.findChild<QTextBrowser*>()->toPlainText().contains("Seis juegos"));
+    }
+
+    void UnClicEnUnaRamaAbreSuPagina() {
+        VistaAyuda ayuda(carpeta_.path());
+        ayuda.MuestraTema(0);
+        auto* arbol = ayuda.findChild<QTreeWidget*>();
+        auto* hoja = ayuda.findChild<QTextBrowser*>();
+        for (int vez = 0; vez < 2; ++vez) {
+            QVERIFY(!hoja->toPlainText().contains("Seis juegos"));
+            QTest::mouseClick(arbol->viewport(), Qt::LeftButton, Qt::NoModifier,
+                              arbol->visualItemRect(arbol->topLevelItem(0)).center());
+            QVERIFY(hoja->toPlainText().contains("Seis juegos"));
+            ayuda.MuestraTema(0);
+        }
+    }
+
+    void ElArbolSeRecorreConLasFlechas() {
+        VistaAyuda ayuda(carpeta_.path());
+        ayuda.MuestraTema(1000);
+        auto* arbol = ayuda.findChild<QTreeWidget*>();
+        arbol->setFocus();
+        QTest::keyClick(arbol, Qt::Key_Down);
+        QVERIFY(ayuda.findChild<QTextBrowser*>()->toPlainText().contains("Verde como"));
+        QCOMPARE(ayuda.focusWidget(), arbol);
+        QTest::keyClick(arbol, Qt::Key_Down);
+        QVERIFY(ayuda.findChild<QTextBrowser*>()->toPlainText().contains("continuar"));
+    }
+
+    void UnaBusquedaSinPaginasLoDice() {
+        VistaAyuda ayuda(carpeta_.path());
+        ayuda.MuestraTema(0);
+        auto* busca = ayuda.findChild<QLineEdit*>();
+        auto* nada = ayuda.findChild<QLabel*>();
+        QVERIFY(nada->isHidden());
+        busca->setText("zzz");
+        QVERIFY(nada->isVisible());
+        busca->clear();
+        QVERIFY(nada->isHidden());
     }
 
     void SeBuscaEnTitulosYTextosSinAcentos() {
