@@ -24,6 +24,8 @@ constexpr QSize kMinimo(800, 600);
 // What a desktop's frame takes of the height, with some to spare.
 constexpr int kAltoMarco = 40;
 
+constexpr double kParteDePantalla = 0.9;
+
 // Under a title bar the lower edge of the table would lie below the screen.
 bool NoCabeConMarco() {
     return QApplication::primaryScreen()->availableSize().height() < kMinimo.height() + kAltoMarco;
@@ -42,10 +44,12 @@ VentanaPrincipal::VentanaPrincipal(QWidget* mesa) {
     // A menu would hold the game up in the middle of a pause.
     for (QScrollBar* barra : {horizontalScrollBar(), verticalScrollBar()})
         barra->setContextMenuPolicy(Qt::NoContextMenu);
-    resize(QApplication::primaryScreen()->availableSize());
+    // The size that a maximized window goes back to: on the screen with its frame and all.
+    const QSize pantalla = QApplication::primaryScreen()->availableSize();
+    resize((pantalla * kParteDePantalla).expandedTo(minimumSize()));
     RecuerdaSitio();
     // The game lays its table out before the window is seen.
-    mesa->resize(size().expandedTo(mesa->minimumSize()));
+    mesa->resize((recordado_ ? size() : pantalla).expandedTo(mesa->minimumSize()));
 }
 
 void VentanaPrincipal::RecuerdaSitio() {

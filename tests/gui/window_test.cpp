@@ -291,6 +291,15 @@ private Q_SLOTS:
         QCOMPARE(mesa_->Ventana().size(), QSize(800, 600));
     }
 
+    // A maximized window that is restored would else lie below the screen with its lower edge.
+    void LaVentanaRestauradaCabeEnLaPantallaConSuMarco() {
+        VentanaPrincipal ventana(new QWidget);
+        const QSize pantalla = QApplication::primaryScreen()->availableSize();
+        QVERIFY(ventana.height() + 40 <= qMax(pantalla.height(), 600 + 40));
+        QVERIFY(ventana.width() <= pantalla.width());
+        QVERIFY(ventana.height() >= qMin(pantalla.height(), 600));
+    }
+
     void PorDebajoDe800x600LaMesaSeDesplaza() {
         mesa_->Ventana().setMinimumSize(0, 0); // as on a screen that has no more
         mesa_->Ventana().resize(640, 480);
