@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScreen>
 #include <QSplitter>
 #include <QTextDocument>
 #include <QTreeWidget>
@@ -15,6 +16,9 @@
 #include "platform/qt/suite_paint.h"
 
 namespace {
+
+constexpr QSize kTamano(920, 620);
+constexpr QSize kMarco(16, 40); // what a desktop's frame takes, so that the page ends on the screen
 
 constexpr int kTemaEnRama = Qt::UserRole;
 
@@ -57,7 +61,7 @@ VistaAyuda::VistaAyuda(const QString& carpeta)
     setObjectName(QStringLiteral("ayuda"));
     setWindowTitle(QStringLiteral("Ayuda de Zovin"));
     setPalette(estilo::Paleta());
-    resize(920, 620);
+    resize(kTamano.boundedTo(screen()->availableSize() - kMarco));
     Compon();
     LlenaArbol(LeeContenido(carpeta_));
     connect(busca_, &QLineEdit::textChanged, this, &VistaAyuda::Busca);

@@ -1,9 +1,11 @@
 // The help: topics by number, the search, and what is said when pages are missing.
 
+#include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScreen>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTreeWidget>
@@ -135,6 +137,15 @@ private Q_SLOTS:
         QCOMPARE(Visibles(ayuda), QStringList{});
         busca->clear();
         QCOMPARE(Visibles(ayuda).size(), 4);
+    }
+
+    void LaAyudaCabeEnLaPantalla() {
+        VistaAyuda ayuda(carpeta_.path());
+        const QSize pantalla = QApplication::primaryScreen()->availableSize();
+        QVERIFY(pantalla.width() < 920); // or this screen would tell nothing
+        ayuda.MuestraTema(0);
+        QVERIFY(ayuda.width() <= pantalla.width());
+        QVERIFY(ayuda.height() + 40 <= pantalla.height());
     }
 
     void SinCarpetaLoDice() {
