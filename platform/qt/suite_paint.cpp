@@ -4,12 +4,25 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPalette>
+#include <QScreen>
 #include <QWindow>
 #include <algorithm>
 #include <qdrawutil.h>
 
 #include "platform/qt/canvas_qt.h"
 #include "platform/qt/sheet_images.h"
+
+namespace {
+
+// The way that brings a control into the screen, by its right and lower edge first.
+QPoint HaciaDentro(const QRect& mando, const QRect& pantalla) {
+    const int a_la_izquierda = std::min(0, pantalla.right() - mando.right());
+    const int arriba = std::min(0, pantalla.bottom() - mando.bottom());
+    return {std::max(a_la_izquierda, pantalla.left() - mando.left()),
+            std::max(arriba, pantalla.top() - mando.top())};
+}
+
+} // namespace
 
 namespace estilo {
 
@@ -128,4 +141,14 @@ void DialogoSuite::mousePressEvent(QMouseEvent* evento) {
     if (evento->button() == Qt::LeftButton &&
         evento->position().y() < estilo::kAltoBanda + estilo::kReborde)
         windowHandle()->startSystemMove();
+}
+
+bool DialogoSuite::focusNextPrevChild(bool siguiente) {
+    const bool movido = QDialog::focusNextPrevChild(siguiente);
+    if (const QWidget* donde = focusWidget(); donde != nullptr) {
+        const QRect mando(donde->mapToGlobal(QPoint(0, 0)), donde->size());
+        constexpr QMargins kHolgura(12, 12, 12, 12);
+        move(pos() + HaciaDentro(mando + kHolgura, screen()->availableGeometry()));
+    }
+    return movido;
 }

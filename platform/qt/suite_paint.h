@@ -37,7 +37,8 @@ protected:
     void keyPressEvent(QKeyEvent* evento) override;
 };
 
-// A dialog without the desktop's frame; its title band moves it.
+// A dialog without the desktop's frame; its title band moves it. Where the screen is too small for it, the
+// control that Tab comes to is brought into sight.
 class DialogoSuite : public QDialog {
     Q_OBJECT
 public:
@@ -48,4 +49,5 @@ public:
 protected:
     void paintEvent(QPaintEvent* evento) override;
     void mousePressEvent(QMouseEvent* evento) override;
+    bool focusNextPrevChild(bool siguiente) override;
 };
