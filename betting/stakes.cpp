@@ -9,9 +9,8 @@ bool TieneResto(Integer asiento) {
 
 Integer CuentaConResto() {
     Integer cuantos = 0;
-    for (Integer asiento = 1; asiento <= 4; ++asiento) {
+    for (Integer asiento = 1; asiento <= 4; ++asiento)
         cuantos = static_cast<Integer>(cuantos + (TieneResto(asiento) ? 1 : 0));
-    }
     return cuantos;
 }
 
@@ -19,8 +18,7 @@ void RestauraMano() {
     constexpr int kFases = 5;
     for (int asiento = 0; asiento <= 4; ++asiento) {
         AsignarResto(asiento, estado.RestoPrevio(asiento));
-        for (int fase = 1; fase <= kFases; ++fase) {
+        for (int fase = 1; fase <= kFases; ++fase)
             estado.Apuesta(asiento, 1, fase) = estado.ApuestaPrevia(asiento, fase);
-        }
     }
 }

@@ -26,9 +26,8 @@ constexpr std::array kFicheros{"ZOV31.INI",   "ZOV0131.INI",  "ZOV3131.INI",  "Z
 bool SePuedeEscribir(const std::string& carpeta) {
     Archivos& archivos = plataforma().LosArchivos();
     const std::string ruta = carpeta + "/" + kPrueba;
-    if (archivos.Escribe(ruta, "") != ErrorArchivo::Ninguno) {
+    if (archivos.Escribe(ruta, "") != ErrorArchivo::Ninguno)
         return false;
-    }
     archivos.Borra(ruta);
     return true;
 }
@@ -38,9 +37,8 @@ void CopiaFicheros() {
     Archivos& archivos = plataforma().LosArchivos();
     for (const char* nombre : kFicheros) {
         const Lectura lectura = archivos.Lee(estado.CarpetaPrograma + "/" + nombre);
-        if (lectura.error == ErrorArchivo::Ninguno) {
+        if (lectura.error == ErrorArchivo::Ninguno)
             archivos.Escribe(estado.CarpetaTrabajo + "/" + nombre, lectura.contenido);
-        }
     }
 }
 
@@ -53,23 +51,20 @@ void MuestraCareta() {
 } // namespace
 
 void PruebaCarpeta() {
-    if (SePuedeEscribir(estado.CarpetaTrabajo)) {
+    if (SePuedeEscribir(estado.CarpetaTrabajo))
         return;
-    }
     Archivos& archivos = plataforma().LosArchivos();
     estado.CarpetaTrabajo = plataforma().CarpetaUsuario();
     archivos.CreaCarpeta(estado.CarpetaTrabajo);
-    if (!archivos.Existe(estado.CarpetaTrabajo + "/ZOV31.INI")) {
+    if (!archivos.Existe(estado.CarpetaTrabajo + "/ZOV31.INI"))
         CopiaFicheros();
-    }
 }
 
 bool CompruebaPantalla() {
     const int ancho = plataforma().AnchoEscritorio();
     const int alto = plataforma().AltoEscritorio();
-    if (ancho >= kAnchoNecesario) {
+    if (ancho >= kAnchoNecesario)
         return true;
-    }
     if (!PreguntaAceptar("Resolución de pantalla",
                          "Este  programa  se  ha  diseñado  para  funcionar  con  una resolución "
                          "mínima de pantalla "
@@ -96,9 +91,8 @@ int ArrancaPrograma() {
     estado.CarpetaPrograma = plataforma().CarpetaDelPrograma();
     estado.CarpetaTrabajo = estado.CarpetaPrograma;
     PruebaCarpeta();
-    if (!CompruebaPantalla()) {
+    if (!CompruebaPantalla())
         return 0;
-    }
     CalcularMesa();
     LeerIniGeneral();
     Pausa(800);

@@ -17,9 +17,8 @@ constexpr int kUltimoValor = 13;
 
 void PonEnLugarLibre(Integer palo, Integer valor) {
     int lugar = AzarEntre(estado.CartasNormales);
-    while (estado.Baraja(lugar, 1) != kSinCarta) {
+    while (estado.Baraja(lugar, 1) != kSinCarta)
         lugar = AzarEntre(estado.CartasNormales);
-    }
     estado.Baraja(lugar, 1) = palo;
     estado.Baraja(lugar, 2) = valor;
 }
@@ -29,9 +28,8 @@ void MezclaParaSorteo() {
     estado.Baraja.Borra();
     SiembraDelReloj(plataforma().Reloj());
     for (Integer valor = 1; valor <= kUltimoValor; ++valor) {
-        for (Integer palo = kOros; palo <= kBastos && estado.ValorEnBaraja(valor); ++palo) {
+        for (Integer palo = kOros; palo <= kBastos && estado.ValorEnBaraja(valor); ++palo)
             PonEnLugarLibre(palo, valor);
-        }
     }
 }
 
@@ -69,18 +67,15 @@ void Anuncia(Integer asiento) {
     estado.JugadorActual = 4;
     for (int lugar = 1; lugar <= estado.CartasNormales && !salio; ++lugar) {
         SiguienteAsiento(estado.JugadorActual);
-        if (estado.EstadoJugador(estado.JugadorActual) != kActivado) {
+        if (estado.EstadoJugador(estado.JugadorActual) != kActivado)
             continue;
-        }
         DaCarta(estado.JugadorActual, lugar, --cartas_en_mazo);
         PaseDeEventos(Pase::DePaso);
-        if (!PartidaSigue()) {
+        if (!PartidaSigue())
             return false;
-        }
         salio = estado.Baraja(lugar, 2) == kAs;
-        if (!salio) {
+        if (!salio)
             Pausa(120);
-        }
     }
     return true;
 }
@@ -93,15 +88,13 @@ bool SorteoInicial() {
     MostrarNombres();
     bool salio = false;
     while (!salio) {
-        if (!SacaCartas(salio)) {
+        if (!SacaCartas(salio))
             return false;
-        }
     }
     const FilaJuego& juego = JuegoEnMesa();
     (juego.sorteo_da_banca ? estado.JugadorBanca : estado.JugadorMano) = estado.JugadorActual;
-    if (juego.sorteo_da_banca) {
+    if (juego.sorteo_da_banca)
         ColocarMazo();
-    }
     Anuncia(estado.JugadorActual);
     return PartidaSigue();
 }

@@ -18,9 +18,8 @@ constexpr int kSonidoBoton = 9;
 constexpr int kBotonTutor = 4;
 
 void BotonNueva() {
-    if (ConfirmarNueva()) {
+    if (ConfirmarNueva())
         sesion.peticion = Peticion::NuevaPartida;
-    }
 }
 
 void BotonPersonal() {
@@ -39,9 +38,8 @@ void BotonTutor() {
     const FilaJuego& juego = JuegoEnMesa();
     estado.TutorPulsado = true;
     Pausa(60);
-    if (juego.tutor != nullptr) {
+    if (juego.tutor != nullptr)
         juego.tutor();
-    }
     estado.TutorPulsado = false;
     estado.JugadaHecha = false;
 }
@@ -55,15 +53,13 @@ void BotonAyuda() {
 }
 
 void BotonSalir() {
-    if (ConfirmarSalida()) {
+    if (ConfirmarSalida())
         GuardarYSalir();
-    }
 }
 
 void BotonEstadistica() {
-    if (estado.JuegosJugados > 0) {
+    if (estado.JuegosJugados > 0)
         plataforma().Abre(Forma::Estadis);
-    }
 }
 
 using Accion = void (*)();
@@ -73,16 +69,14 @@ constexpr Accion kAcciones[] = {nullptr,     BotonNueva, BotonPersonal,
 
 // What hangs on the pointer goes back to its place before anything else happens.
 void SueltaLoColgado() {
-    if (estado.ArrastraReparto) {
+    if (estado.ArrastraReparto)
         DevuelveAlReparto();
-    }
     AbandonaArrastre();
 }
 
 void ClicEnControl(const Evento& evento) {
-    if (!plataforma().EstaVisible(evento.control, evento.indice)) {
+    if (!plataforma().EstaVisible(evento.control, evento.indice))
         return;
-    }
     switch (evento.control) {
     case Control::Pic_Boton:
         PulsaBoton(evento.indice);
@@ -120,11 +114,10 @@ void RatonEnMesa(const Evento& evento) {
 
 void RatonEnControl(const Evento& evento) {
     if (evento.control == Control::Pic_SelOpciones) {
-        if (evento.tipo == TipoEvento::RatonMueve) {
+        if (evento.tipo == TipoEvento::RatonMueve)
             Opciones_MouseMove(evento.y);
-        } else if (evento.tipo == TipoEvento::RatonSuelta) {
+        else if (evento.tipo == TipoEvento::RatonSuelta)
             Opciones_MouseUp();
-        }
     } else if (evento.control == Control::Pic_Botonera && evento.tipo == TipoEvento::RatonMueve) {
         estado.CursorTabla = 0;
         CambiarCursor(Control::Mesa, 0, Puntero::Flecha);
@@ -132,22 +125,19 @@ void RatonEnControl(const Evento& evento) {
 }
 
 void Tecla(int tecla) {
-    if (!TeclaActiva(tecla)) {
+    if (!TeclaActiva(tecla))
         return;
-    }
-    if (estado.PartidaEnCurso) {
+    if (estado.PartidaEnCurso)
         PulsaContinuar();
-    } else {
+    else
         PulsaBoton(1);
-    }
 }
 
 void CierraVentana() {
-    if (BotonHabilitado(7)) {
+    if (BotonHabilitado(7))
         PulsaBoton(7);
-    } else {
+    else
         sesion.cierre_pendiente = true;
-    }
 }
 
 } // namespace
@@ -158,11 +148,10 @@ void DespachaEvento(const Evento& evento) {
     case TipoEvento::RatonPulsa:
     case TipoEvento::RatonSuelta:
     case TipoEvento::RatonClic:
-        if (evento.control == Control::Mesa) {
+        if (evento.control == Control::Mesa)
             RatonEnMesa(evento);
-        } else {
+        else
             RatonEnControl(evento);
-        }
         break;
     case TipoEvento::Clic:
         ClicEnControl(evento);
@@ -183,16 +172,14 @@ void DespachaEvento(const Evento& evento) {
 }
 
 void PulsaBoton(int indice) {
-    if (indice < 1 || indice > 8 || !BotonHabilitado(indice)) {
+    if (indice < 1 || indice > 8 || !BotonHabilitado(indice))
         return;
-    }
     SueltaLoColgado();
     Oculta(Control::Pic_SelOpciones);
     estado.ModoOrdenar = false;
     CambiarCursor(Control::Mesa, 0, Puntero::RelojArena);
-    if (indice != kBotonTutor) {
+    if (indice != kBotonTutor)
         Sonido(0, kSonidoBoton);
-    }
     kAcciones[indice]();
     estado.CursorTabla = 0;
     CambiarCursor(Control::Mesa, 0, Puntero::Flecha);
@@ -218,23 +205,20 @@ void TrasLaForma() {
 
 void PulsaContinuar() {
     Oculta(Control::Pic_SelOpciones);
-    if (!estado.EsperandoJugada) {
+    if (!estado.EsperandoJugada)
         return;
-    }
     SueltaLoColgado();
     Sonido(0, kSonidoBoton);
     PedirContinuar(2);
     Pausa(420);
     estado.EsperandoJugada = false;
-    if (!estado.PausaEntreJugadas) {
+    if (!estado.PausaEntreJugadas)
         Oculta(Control::Pic_BotContinuar);
-    }
 }
 
 bool ConfirmarNueva() {
-    if (!estado.PartidaEnCurso) {
+    if (!estado.PartidaEnCurso)
         return true;
-    }
     Mensaje("Abandonar la partida en curso",
             "¿Desea  abandonar  la  partida  que  está  jugando  para comenzar una nueva partida?",
             2, 2);
@@ -242,9 +226,8 @@ bool ConfirmarNueva() {
 }
 
 bool ConfirmarSalida() {
-    if (!estado.PartidaEnCurso) {
+    if (!estado.PartidaEnCurso)
         return true;
-    }
     Mensaje(
         "Posponer la partida en curso",
         "¿Desea  abandonar  el  programa  para  continuar  en  otro momento la partida que está "
@@ -257,11 +240,9 @@ void GuardarYSalir() {
     // After a change of game both files are as they should be, and the state still holds the old game's match.
     const bool ya_guardada = sesion.peticion == Peticion::NuevaSesion;
     sesion.fallo_contado = false;
-    if (!ya_guardada) {
+    if (!ya_guardada)
         AnulaMano();
-    }
-    if (!ya_guardada && !GuardarPartida()) {
+    if (!ya_guardada && !GuardarPartida())
         sesion.estado_salida = 1;
-    }
     sesion.peticion = Peticion::Salir;
 }

@@ -51,9 +51,8 @@ void OfreceDescripcion() {
         "Si   desea   consultar   una   descripción   general   de   este programa  para  conocer  "
         "rápidamente  su  funcionamiento, pulse el botón de Ayuda.",
         3, 3);
-    if (estado.AyudaPulsada) {
+    if (estado.AyudaPulsada)
         plataforma().Ayuda(0);
-    }
     estado.PrimeraVez = false;
 }
 
@@ -66,9 +65,8 @@ void AnunciaContinuacion() {
 
 // What one hand hands on to the next is nothing at the beginning of a match or of a session.
 void BorraManos() {
-    for (Integer asiento = 1; asiento <= 4; ++asiento) {
+    for (Integer asiento = 1; asiento <= 4; ++asiento)
         VaciaMano(asiento);
-    }
     estado.PaloTriunfo = 0;
     estado.ValorTriunfo = 0;
     estado.GanadorBaza = 0;
@@ -77,9 +75,8 @@ void BorraManos() {
 
 void BorraResultados() {
     estado.JuegosJugados = 0;
-    for (RegistroJuego& registro : estado.Juegos) {
+    for (RegistroJuego& registro : estado.Juegos)
         registro.Borra();
-    }
     estado.JuegosGanados.Borra();
     estado.GanadorPartida = 0;
     bazas.TuteCantado = false;
@@ -97,9 +94,8 @@ void ReanudaPartida() {
     const FilaJuego& juego = JuegoEnMesa();
     sesion.mano_apuntada = true;
     RedibujarMesa();
-    if (juego.mazo_seguido) {
+    if (juego.mazo_seguido)
         Barajar();
-    }
     juego.driver();
 }
 
@@ -135,17 +131,14 @@ void IniciarSesion() {
     BorraManos();
     sesion.sentido_pendiente = sesion.baraja_pendiente = false;
     SiembraDelReloj(plataforma().Reloj());
-    if (estado.PartidaEnCurso) {
+    if (estado.PartidaEnCurso)
         AnunciaContinuacion();
-    }
-    if (estado.PrimeraVez) {
+    if (estado.PrimeraVez)
         OfreceDescripcion();
-    }
-    if (estado.PartidaEnCurso) {
+    if (estado.PartidaEnCurso)
         ReanudaPartida();
-    } else {
+    else
         HabilitaBoton(3, true);
-    }
 }
 
 void NuevaPartida() {
@@ -157,18 +150,15 @@ void NuevaPartida() {
     BajaBanderas();
     BorraManos();
     BorraResultados();
-    if (juego.nueva_partida != nullptr) {
+    if (juego.nueva_partida != nullptr)
         juego.nueva_partida();
-    }
     SiembraDelReloj(plataforma().Reloj());
-    if (juego.con_dinero) {
+    if (juego.con_dinero)
         DaRestos();
-    }
     // From here on the abandoned match is gone from the disk too.
     GuardarPartida();
-    if (juego.sortea_inicio && !SorteoInicial()) {
+    if (juego.sortea_inicio && !SorteoInicial())
         return;
-    }
     HabilitaBoton(1, true);
     GuardarPartida();
     juego.driver();
@@ -177,15 +167,13 @@ void NuevaPartida() {
 bool AtiendePeticiones() {
     while (sesion.peticion != Peticion::Ninguna) {
         const Peticion pedida = sesion.peticion;
-        if (pedida == Peticion::Salir) {
+        if (pedida == Peticion::Salir)
             return false;
-        }
         sesion.peticion = Peticion::Ninguna;
-        if (pedida == Peticion::NuevaPartida) {
+        if (pedida == Peticion::NuevaPartida)
             NuevaPartida();
-        } else {
+        else
             IniciarSesion();
-        }
     }
     return true;
 }
@@ -194,12 +182,10 @@ void BucleSesion() {
     while (AtiendePeticiones()) {
         // The end of a match may have enabled the exit that a closed window still waits for.
         AtiendeCierrePendiente();
-        if (sesion.peticion != Peticion::Ninguna) {
+        if (sesion.peticion != Peticion::Ninguna)
             continue;
-        }
-        if (!plataforma().EsperaEvento()) {
+        if (!plataforma().EsperaEvento())
             return;
-        }
         PaseDeEventos(Pase::DeEspera);
     }
 }

@@ -20,9 +20,8 @@ double AlPar(double valor, double escala = 1) {
 
 template <class T>
 T Cabe(double valor) {
-    if (!(valor >= std::numeric_limits<T>::min() && valor <= std::numeric_limits<T>::max())) {
+    if (!(valor >= std::numeric_limits<T>::min() && valor <= std::numeric_limits<T>::max()))
         throw Desbordamiento("número fuera de los límites");
-    }
     return static_cast<T>(valor);
 }
 

@@ -19,16 +19,14 @@ void PonSentido() {
 
 void CambiaSentido() {
     sesion.sentido_pendiente = true;
-    if (!ManoEnMarcha()) {
+    if (!ManoEnMarcha())
         PonSentido();
-    }
 }
 
 void CambiaBaraja() {
     sesion.baraja_pendiente = true;
-    if (!ManoEnMarcha()) {
+    if (!ManoEnMarcha())
         RehazBaraja();
-    }
 }
 
 void RehazBaraja() {
@@ -37,17 +35,14 @@ void RehazBaraja() {
 }
 
 void AplicaReglasPendientes() {
-    if (sesion.sentido_pendiente) {
+    if (sesion.sentido_pendiente)
         PonSentido();
-    }
-    if (sesion.baraja_pendiente) {
+    if (sesion.baraja_pendiente)
         RehazBaraja();
-    }
 }
 
 int PasoDeLaProximaMano() {
-    if (!sesion.sentido_pendiente) {
+    if (!sesion.sentido_pendiente)
         return estado.PasoSentido;
-    }
     return estado.SentidoJuego == kInverso ? -1 : 1;
 }

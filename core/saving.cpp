@@ -10,9 +10,8 @@
 namespace {
 
 void CuentaFallo(const std::string& fichero) {
-    if (sesion.fallo_contado) {
+    if (sesion.fallo_contado)
         return;
-    }
     sesion.fallo_contado = true;
     const std::string texto = "No se ha podido grabar el fichero " + fichero +
                               ". Compruebe que se puede escribir en la carpeta " +
@@ -22,17 +21,15 @@ void CuentaFallo(const std::string& fichero) {
 
 bool GuardaGeneral() {
     const bool hecho = GrabarIniGeneral() == ErrorArchivo::Ninguno;
-    if (!hecho) {
+    if (!hecho)
         CuentaFallo("ZOV31.INI");
-    }
     return hecho;
 }
 
 bool GuardaJuego() {
     const bool hecho = GrabarIniJuego() == ErrorArchivo::Ninguno;
-    if (!hecho) {
+    if (!hecho)
         CuentaFallo(NombreIniJuego(estado.JuegoActivo));
-    }
     return hecho;
 }
 
@@ -51,9 +48,8 @@ void AnulaMano() {
         estado.ManoEnCurso = false;
     }
     const FilaJuego* juego = FilaDe(estado.JuegoActivo);
-    if (juego != nullptr && juego->restaura != nullptr && !sesion.mano_apuntada) {
+    if (juego != nullptr && juego->restaura != nullptr && !sesion.mano_apuntada)
         juego->restaura();
-    }
 }
 
 void GuardarYCambiar(Integer juego) {

@@ -46,9 +46,8 @@ public:
 
     // The elements under one value of the first index.
     void BorraFila(int indice) {
-        if (indice < 0 || indice > kTopes[0]) {
+        if (indice < 0 || indice > kTopes[0])
             LanzaIndiceFuera(1, indice, kTopes[0]);
-        }
         constexpr std::size_t kLargo = kTotal / static_cast<std::size_t>(kTopes[0] + 1);
         std::fill_n(celdas_.begin() + static_cast<std::ptrdiff_t>(kLargo) * indice, kLargo, T{});
     }

@@ -135,9 +135,8 @@ Mascara Lee(std::string_view texto) {
 }
 
 void PonMiles(std::string& digitos) {
-    for (int i = static_cast<int>(digitos.size()) - 3; i > 0; i -= 3) {
+    for (int i = static_cast<int>(digitos.size()) - 3; i > 0; i -= 3)
         digitos.insert(static_cast<std::size_t>(i), 1, ',');
-    }
 }
 
 std::string ConMascara(double valor, const Mascara& m) {
@@ -206,11 +205,10 @@ std::string NombrePropio(std::string_view texto) {
             return;
         }
         const char32_t c = Codigo(caracter);
-        if (c > 0xFFFF) {
+        if (c > 0xFFFF)
             salida += caracter;
-        } else {
+        else
             Anade(salida, principio ? Mayuscula(c) : Minuscula(c));
-        }
         principio = c == U' ';
     });
     return salida;
@@ -265,11 +263,10 @@ std::string AWindows1252(std::string_view texto) {
         // A control character whose number the code page gives to a letter has no place there.
         const bool tapado =
             caracter.size() > 1 && c >= 0x80 && c < 0xA0 && kAltos1252[c - 0x80] != 0;
-        if (alto != kAltos1252.end() && c != 0) {
+        if (alto != kAltos1252.end() && c != 0)
             bytes.push_back(static_cast<char>(0x80 + (alto - kAltos1252.begin())));
-        } else {
+        else
             bytes.push_back(c <= 0xFF && !tapado ? static_cast<char>(c) : '?');
-        }
     });
     return bytes;
 }

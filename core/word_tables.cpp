@@ -24,13 +24,11 @@ constexpr Titulo kTitulosPorAsiento[] = {
 };
 
 void PonTitulos() {
-    for (const Titulo& titulo : kTitulos) {
+    for (const Titulo& titulo : kTitulos)
         estado.TituloSelector(titulo.selector) = titulo.texto;
-    }
     for (const Titulo& titulo : kTitulosPorAsiento) {
-        for (int asiento = 1; asiento <= 4; ++asiento) {
+        for (int asiento = 1; asiento <= 4; ++asiento)
             estado.TituloSelector(titulo.selector + asiento) = titulo.texto;
-        }
     }
 }
 
@@ -52,13 +50,10 @@ void PonTablasDePalabras() {
     PonTitulos();
     estado.TextoOrdenar(4) = "Ordenar cartas manualmente";
     estado.TextoOrdenar(5) = "Ordenar cartas automáticamente";
-    for (int i = 1; i <= 6; ++i) {
+    for (int i = 1; i <= 6; ++i)
         estado.ValorFicha(i) = kFichas[i];
-    }
-    for (int i = 1; i <= 7; ++i) {
+    for (int i = 1; i <= 7; ++i)
         estado.NombreNumero(i) = kNumeros[i];
-    }
-    for (const FilaJuego* fila : FilasDeJuegos()) {
+    for (const FilaJuego* fila : FilasDeJuegos())
         estado.NombreJuego(fila->id) = fila->nombre;
-    }
 }

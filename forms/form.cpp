@@ -33,9 +33,8 @@ bool PulsaEnPersonal(std::string_view control, int indice) {
 }
 
 bool EscribeEnPersonal(std::string_view control, int indice, std::string_view texto) {
-    if (control != "Txt_Nombre" || !Entre(indice, 1, 4)) {
+    if (control != "Txt_Nombre" || !Entre(indice, 1, 4))
         return false;
-    }
     personal::EscribeNombre(static_cast<Integer>(indice), texto);
     return true;
 }
@@ -43,9 +42,8 @@ bool EscribeEnPersonal(std::string_view control, int indice, std::string_view te
 bool DeslizaEnPersonal(std::string_view control, int indice, int valor) {
     const bool hay =
         indice == personal::kVelocidad || Entre(indice, personal::kNivel + 1, personal::kNivel + 4);
-    if (control != "Pic_Potenciometro" || !hay) {
+    if (control != "Pic_Potenciometro" || !hay)
         return false;
-    }
     personal::Desliza(indice, valor);
     return true;
 }
@@ -55,9 +53,8 @@ bool DeslizaEnPersonal(std::string_view control, int indice, int valor) {
 // The upper arrow of a spin goes by the spin's own name too.
 bool PulsaFlecha(std::string_view control, int indice) {
     const bool sube = control == "Pic_SpinSube" || control == "Pic_Spin";
-    if ((!sube && control != "Pic_SpinBaja") || !EsSpin(indice)) {
+    if ((!sube && control != "Pic_SpinBaja") || !EsSpin(indice))
         return false;
-    }
     normas::PulsaSpin(indice, sube);
     return true;
 }
@@ -80,9 +77,8 @@ bool PulsaEnNormas(std::string_view control, int indice) {
 }
 
 bool EscribeEnNormas(std::string_view control, int indice, std::string_view texto) {
-    if (control != "Tex_Spin" || !EsSpin(indice)) {
+    if (control != "Tex_Spin" || !EsSpin(indice))
         return false;
-    }
     normas::EscribeSpin(indice, texto);
     return true;
 }
@@ -109,9 +105,8 @@ void PonRefresco(std::function<void()> refresco) {
 }
 
 void RefrescaForma() {
-    if (refresco_en_uso) {
+    if (refresco_en_uso)
         refresco_en_uso();
-    }
 }
 
 const MandosForma* MandosDe(Forma forma) {

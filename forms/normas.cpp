@@ -46,9 +46,8 @@ const std::vector<Reglas>& LasReglas() {
 // The opening law does not ask for a pair that the deck does not have: those values are stepped over.
 void Avanza(int control) {
     AvanzaSelector(control);
-    if (control == kSelLey) {
+    if (control == kSelLey)
         estado.LeyApertura = std::max(estado.LeyApertura, estado.CartasBaraja);
-    }
     RefrescaForma();
 }
 
@@ -60,16 +59,14 @@ void LevantaLey() {
 }
 
 void EncajaSpins() {
-    for (int indice = kPrimerSpin; indice <= kUltimoSpin; ++indice) {
+    for (int indice = kPrimerSpin; indice <= kUltimoSpin; ++indice)
         EncajaSpin(indice);
-    }
 }
 
 void CambiaJuego(Integer juego) {
     EncajaSpins();
-    if (estado.PartidaEnCurso) {
+    if (estado.PartidaEnCurso)
         AnulaMano();
-    }
     GuardarYCambiar(juego);
     // The match of the old game waits in its file; the driver below must not take it up again.
     estado.PartidaEnCurso = false;
@@ -120,9 +117,8 @@ Integer JuegoMarcado() {
 
 std::vector<int> Controles() {
     const auto reglas = std::ranges::find(LasReglas(), estado.JuegoActivo, &Reglas::juego);
-    if (reglas == LasReglas().end()) {
+    if (reglas == LasReglas().end())
         return {};
-    }
     std::vector<int> controles = reglas->controles;
     if (estado.NumJugadores != 4) { // pairs are for four at the table
         std::erase(controles, kSelModalidad);
@@ -135,32 +131,27 @@ bool SeVe(int control) {
 }
 
 void PulsaSelector(int control) {
-    if (!EsSelector(control) || !SeVe(control)) {
+    if (!EsSelector(control) || !SeVe(control))
         return;
-    }
     Sonido(1, kSonidoSelector);
     Avanza(control);
-    if (control == kSelBaraja) {
+    if (control == kSelBaraja)
         LevantaLey();
-    }
-    if (control == kSelBaraja || control == kSelComodines) {
+    if (control == kSelBaraja || control == kSelComodines)
         CambiaBaraja();
-    }
 }
 
 bool PulsaSpin(int indice, bool sube) {
-    if (!SeVe(indice) || !PasoSpin(indice, sube)) {
+    if (!SeVe(indice) || !PasoSpin(indice, sube))
         return false;
-    }
     Sonido(1, kSonidoSpin);
     RefrescaForma();
     return true;
 }
 
 std::string EscribeSpin(int indice, std::string_view texto) {
-    if (!EsSpin(indice) || !SeVe(indice)) {
+    if (!EsSpin(indice) || !SeVe(indice))
         return "";
-    }
     LimitesSpin(indice);
     // Read up to one more than the maximum, to tell a number at the maximum from one over it.
     const Integer leido = NumeroTecleado(texto, static_cast<Integer>(spin.maximo + 1));
@@ -170,17 +161,15 @@ std::string EscribeSpin(int indice, std::string_view texto) {
 }
 
 void PulsaJuego(Integer juego) {
-    if (juego == marcado || !SePuedeElegir(juego)) {
+    if (juego == marcado || !SePuedeElegir(juego))
         return;
-    }
     marcado = juego;
     RefrescaForma();
     Pausa(600);
-    if (PreguntaAceptar("Lista 'Juego Activado'", kOtroJuego, LineasDe(kOtroJuego))) {
+    if (PreguntaAceptar("Lista 'Juego Activado'", kOtroJuego, LineasDe(kOtroJuego)))
         CambiaJuego(juego);
-    } else {
+    else
         marcado = estado.JuegoActivo;
-    }
     RefrescaForma();
 }
 

@@ -97,12 +97,10 @@ bool MuestraAjustes(Integer asiento) {
 void RedibujaAsientos(Integer serie_de_turno) {
     const Integer antes = estado.SerieActual;
     for (Integer asiento = 1; asiento <= 4; ++asiento) {
-        if (estado.EstadoJugador(asiento) != kActivado) {
+        if (estado.EstadoJugador(asiento) != kActivado)
             continue;
-        }
-        if (estado.JuegoConBanca) {
+        if (estado.JuegoConBanca)
             estado.SerieActual = asiento == estado.JugadorActual ? serie_de_turno : Integer{1};
-        }
         RedibujarAsiento(asiento);
     }
     estado.SerieActual = estado.JuegoConBanca ? serie_de_turno : antes;
@@ -112,9 +110,8 @@ void AlineaCaras(Integer asiento) {
     const bool destapadas_quedan = JuegoEnMesa().tapa_al_repartir;
     for (int serie = 1; serie <= 4; ++serie) {
         for (int lugar = 1; lugar <= 54; ++lugar) {
-            if (estado.Mano(asiento, serie, lugar, kPalo) == kSinCarta) {
+            if (estado.Mano(asiento, serie, lugar, kPalo) == kSinCarta)
                 continue;
-            }
             const bool destapada = estado.Mano(asiento, serie, lugar, kTapada) == 0;
             estado.Mano(asiento, serie, lugar, kCara) =
                 destapadas_quedan && destapada ? kDescubierta : estado.CartasJugador(asiento);
@@ -124,12 +121,10 @@ void AlineaCaras(Integer asiento) {
 
 // The cards on the table show the side that the seats' settings say. In a manual deal all lie open until it ends.
 void VuelveCartas() {
-    if (!estado.PartidaEnCurso || estado.RepartoEnCurso) {
+    if (!estado.PartidaEnCurso || estado.RepartoEnCurso)
         return;
-    }
-    for (Integer asiento = 1; asiento <= 4; ++asiento) {
+    for (Integer asiento = 1; asiento <= 4; ++asiento)
         AlineaCaras(asiento);
-    }
     RedibujaAsientos(estado.SerieActual);
 }
 
@@ -160,12 +155,10 @@ void TrasCambiarCartas(Integer asiento) {
 void TrasCambiarControl(Integer asiento) {
     const Integer cartas = estado.CartasJugador(asiento);
     ConciliaManual(asiento, kSelControl, kSelCartas, kManualOculto);
-    if (estado.CartasJugador(asiento) != cartas) {
+    if (estado.CartasJugador(asiento) != cartas)
         VuelveCartas();
-    }
-    if (estado.ControlJugador(asiento) == kManual) {
+    if (estado.ControlJugador(asiento) == kManual)
         estado.EligeCarta = true;
-    }
 }
 
 void TrasCambiar(int control) {
@@ -185,17 +178,15 @@ void TrasCambiar(int control) {
 
 // The setting of a slider that is on show; nullptr for any other index.
 Integer* AjusteDeslizador(int control) {
-    if (control == kVelocidad) {
+    if (control == kVelocidad)
         return &estado.VelocidadJuego;
-    }
     const auto asiento = static_cast<Integer>(control - kNivel);
     return MuestraAjustes(asiento) ? &estado.NivelJugador(asiento) : nullptr;
 }
 
 bool* AjusteCasilla(int control) {
-    if (control == kSonido) {
+    if (control == kSonido)
         return &estado.SonidoActivo;
-    }
     return control == kPausa ? &estado.PausaEntreJugadas : nullptr;
 }
 
@@ -214,11 +205,10 @@ std::string SoloLoQueCabe(std::string_view texto) {
     std::string limpio;
     for (int i = 1; i <= Longitud(texto); ++i) {
         const std::string caracter = Medio(texto, i, 1);
-        if (caracter == kBlancoDuro) {
+        if (caracter == kBlancoDuro)
             limpio += ' ';
-        } else if (CabeEnFichero(caracter)) {
+        else if (CabeEnFichero(caracter))
             limpio += caracter;
-        }
     }
     return limpio;
 }
@@ -227,9 +217,8 @@ void CompletaNombres() {
     for (Integer asiento = 1; asiento <= 4; ++asiento) {
         std::string& nombre = estado.NombreJugador(asiento);
         nombre = Recorta(nombre);
-        if (nombre.empty()) {
+        if (nombre.empty())
             nombre = "Jugador" + Numero(asiento);
-        }
     }
 }
 
@@ -238,17 +227,15 @@ void CompletaNombres() {
 bool BastanJugadores() {
     const auto activos =
         std::count(estado.EstadoJugador.begin() + 1, estado.EstadoJugador.end(), kActivado);
-    if (activos < 2) {
+    if (activos < 2)
         Mensaje("Número de Jugadores", kPocosJugadores, LineasDe(kPocosJugadores), 1);
-    }
     return activos >= 2;
 }
 
 // Seats that were switched on or off come into force, or go back.
 void TomaAsientos() {
-    if (estado.EstadoJugador == estado_al_abrir) {
+    if (estado.EstadoJugador == estado_al_abrir)
         return;
-    }
     if (estado.PartidaEnCurso && estado.JuegosJugados > 1 &&
         !PreguntaAceptar("Jugadores Activados", kJugadoresNuevos, LineasDe(kJugadoresNuevos))) {
         estado.EstadoJugador = estado_al_abrir;
@@ -256,25 +243,20 @@ void TomaAsientos() {
     }
     ActivarAsientos();
     estado.JugadoresCambiados = estado.PartidaEnCurso;
-    if (!estado.PartidaEnCurso) {
+    if (!estado.PartidaEnCurso)
         RehazBaraja();
-    }
 }
 
 // The match goes on as the form has left it.
 void DevuelveMesa(bool se_esperaba) {
-    if (estado.ManoEnCurso || !se_esperaba) {
+    if (estado.ManoEnCurso || !se_esperaba)
         RedibujarMesa();
-    }
-    if (estado.ManoEnCurso) {
+    if (estado.ManoEnCurso)
         RedibujaAsientos(estado.SerieEnJuego);
-    }
-    if (estado.ManoEnCurso && se_esperaba) {
+    if (estado.ManoEnCurso && se_esperaba)
         HabilitaBoton(kBotonTutor, estado.ControlJugador(estado.JugadorActual) == kManual);
-    }
-    if (estado.PausaEntreJugadas && !estado.RepartoEnCurso) {
+    if (estado.PausaEntreJugadas && !estado.RepartoEnCurso)
         PedirContinuar(1);
-    }
 }
 
 } // namespace
@@ -290,19 +272,16 @@ bool Abierta() {
 
 bool Cierra() {
     Sonido(0, kSonidoSalir);
-    if (!BastanJugadores()) {
+    if (!BastanJugadores())
         return false;
-    }
     const bool se_esperaba = estado.EsperandoJugada;
     TomaAsientos();
     CuentaJugadores();
     CompletaNombres();
-    if (estado.PartidaEnCurso && !estado.JugadoresCambiados) {
+    if (estado.PartidaEnCurso && !estado.JugadoresCambiados)
         DevuelveMesa(se_esperaba);
-    }
-    if (estado.VentanaInfo == kVentanaCerrada) {
+    if (estado.VentanaInfo == kVentanaCerrada)
         OcultaSugerencia();
-    }
     abierta = false;
     return true;
 }
@@ -314,9 +293,8 @@ void Deja() {
 }
 
 bool SeVeSelector(int control) {
-    if (control == kSelSentido || control == kSelVentana) {
+    if (control == kSelSentido || control == kSelVentana)
         return true;
-    }
     const Integer asiento = AsientoDe(control);
     return asiento != 0 && (ClaseDe(control) == kSelEstado || MuestraAjustes(asiento));
 }
@@ -330,9 +308,8 @@ bool SeEscribeNombre(Integer asiento) {
 }
 
 void PulsaSelector(int control) {
-    if (!SeVeSelector(control)) {
+    if (!SeVeSelector(control))
         return;
-    }
     Sonido(1, kSonidoSelector);
     if (const char* aviso = AvisoDeCandado(control)) {
         Mensaje(kNoSeCambia, aviso, LineasDe(aviso), 1);
@@ -345,9 +322,8 @@ void PulsaSelector(int control) {
 
 void PulsaBuleano(int control) {
     bool* ajuste = AjusteCasilla(control);
-    if (ajuste == nullptr) {
+    if (ajuste == nullptr)
         return;
-    }
     *ajuste = !*ajuste;
     Sonido(1, kSonidoCasilla);
     RefrescaForma();

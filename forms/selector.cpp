@@ -93,17 +93,15 @@ const std::string& TextoValor(int fila, int control) {
 
 int ValoresDe(int control) {
     int fila = 0;
-    while (fila < kFilasSelector && !Recorta(TextoValor(fila + 1, control)).empty()) {
+    while (fila < kFilasSelector && !Recorta(TextoValor(fila + 1, control)).empty())
         ++fila;
-    }
     return fila;
 }
 
 Integer& AjusteDe(int control) {
     const Lista* lista = ListaDe(control);
-    if (lista == nullptr) {
+    if (lista == nullptr)
         throw std::logic_error("no hay selector " + Numero(control));
-    }
     return lista->ajuste != nullptr ? estado.*lista->ajuste
                                     : (estado.*lista->por_asiento)(AsientoDe(control));
 }

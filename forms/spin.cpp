@@ -45,9 +45,8 @@ const char* RotuloSpin(int indice) {
 }
 
 void LimitesSpin(int indice) {
-    if (!EsSpin(indice)) {
+    if (!EsSpin(indice))
         return;
-    }
     const Fila& fila = FilaDeSpin(indice);
     spin = {.valor = estado.*fila.ajuste,
             .minimo = fila.limites.minimo,
@@ -56,19 +55,16 @@ void LimitesSpin(int indice) {
 }
 
 void ActualizaSpin(int indice) {
-    if (EsSpin(indice)) {
+    if (EsSpin(indice))
         estado.*FilaDeSpin(indice).ajuste = spin.valor;
-    }
 }
 
 bool PasoSpin(int indice, bool sube) {
-    if (!EsSpin(indice)) {
+    if (!EsSpin(indice))
         return false;
-    }
     LimitesSpin(indice);
-    if (sube ? spin.valor >= spin.maximo : spin.valor <= spin.minimo) {
+    if (sube ? spin.valor >= spin.maximo : spin.valor <= spin.minimo)
         return false;
-    }
     const int valor = spin.valor + (sube ? spin.paso : -spin.paso);
     spin.valor = static_cast<Integer>(valor - valor % spin.paso);
     ActualizaSpin(indice);
@@ -77,13 +73,11 @@ bool PasoSpin(int indice, bool sube) {
 
 Integer NumeroTecleado(std::string_view texto, Integer maximo) {
     const std::string cifras = Recorta(texto);
-    if (!SoloDigitos(cifras)) {
+    if (!SoloDigitos(cifras))
         return 0;
-    }
     int numero = 0;
-    for (char cifra : cifras) {
+    for (char cifra : cifras)
         numero = std::min(numero * 10 + (cifra - '0'), static_cast<int>(maximo));
-    }
     return static_cast<Integer>(numero);
 }
 

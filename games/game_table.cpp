@@ -22,9 +22,8 @@ const FilaJuego* FilaDe(Integer juego) {
     // Asked for at every step of every game.
     static const auto kPorNumero = [] {
         std::array<const FilaJuego*, kUltimo + 1> filas{};
-        for (const FilaJuego* fila : FilasDeJuegos()) {
+        for (const FilaJuego* fila : FilasDeJuegos())
             filas.at(static_cast<std::size_t>(fila->id)) = fila;
-        }
         return filas;
     }();
     return juego < 0 || juego > kUltimo ? nullptr : kPorNumero[static_cast<std::size_t>(juego)];
@@ -32,8 +31,7 @@ const FilaJuego* FilaDe(Integer juego) {
 
 const FilaJuego& JuegoEnMesa() {
     const FilaJuego* fila = FilaDe(estado.JuegoActivo);
-    if (fila == nullptr) {
+    if (fila == nullptr)
         throw std::logic_error("JuegoActivo no es ningún juego");
-    }
     return *fila;
 }

@@ -67,9 +67,8 @@ void PintaContinuar(int kind) {
         primera = estado.NombreJugador(estado.JugadorActual);
         segunda = "automático";
         const FilaJuego& juego = JuegoEnMesa();
-        if (juego.rotulo_continuar != nullptr) {
+        if (juego.rotulo_continuar != nullptr)
             juego.rotulo_continuar(primera, segunda);
-        }
     }
     Lienzo& boton = plataforma().LienzoDe(Control::Pic_BotContinuar, 0);
     boton.Fieltro({0, 0, kAnchoContinuar, kAltoContinuar});
@@ -108,28 +107,24 @@ void ColocaColumna() {
 }
 
 void PintaColumna() {
-    if (!plataforma().HayPantalla()) {
+    if (!plataforma().HayPantalla())
         return;
-    }
     Lienzo& columna = plataforma().LienzoDe(Control::Pic_Botonera, 0);
     columna.Fieltro({0, 0, kAnchoBotonera, estado.AltoPantalla});
     columna.Linea(0, 0, 0, estado.AltoPantalla, color::kBordePanel, 1);
     columna.Linea(1, 0, 1, estado.AltoPantalla, color::kBordePanelClaro, 1);
-    for (int boton = 1; boton <= 8; ++boton) {
+    for (int boton = 1; boton <= 8; ++boton)
         PintaBoton(boton);
-    }
-    if (plataforma().EstaVisible(Control::Pic_BotContinuar, 0)) {
+    if (plataforma().EstaVisible(Control::Pic_BotContinuar, 0))
         PintaContinuar(1);
-    }
 }
 
 void HabilitaBoton(int indice, bool habilitado) {
     const bool puede = habilitado && TieneLoSuyo(indice);
     plataforma().PonPuntero(Control::Pic_Boton, indice,
                             puede ? Puntero::ManoIndice : Puntero::Prohibido);
-    if (plataforma().HayPantalla()) {
+    if (plataforma().HayPantalla())
         PintaBoton(indice);
-    }
 }
 
 bool BotonHabilitado(int indice) {

@@ -50,14 +50,12 @@ void VuelaDelMazo(Integer asiento, int lugar, int cartas) {
 
 void RepartaUna(Integer asiento, int lugar) {
     const FilaJuego& juego = JuegoEnMesa();
-    if (juego.mazo_seguido && estado.CartasEnMazo == 0) {
+    if (juego.mazo_seguido && estado.CartasEnMazo == 0)
         Barajar();
-    }
     const CartaMazo carta = SacaDelMazo();
     PonCarta(asiento, 1, lugar, carta.palo, carta.valor, estado.CartasJugador(asiento));
-    if (juego.tapa_al_repartir) {
+    if (juego.tapa_al_repartir)
         estado.Mano(asiento, 1, lugar, kTapada) = kTapadaSi;
-    }
     ++estado.NumCartas(asiento, 1);
     vista.abanico(asiento) =
         juego.cartas_en_mesa != nullptr ? juego.cartas_en_mesa(asiento) : estado.CartasReparto;
@@ -68,9 +66,8 @@ void RepartaUna(Integer asiento, int lugar) {
     for (int i = 0; i < estado.PasoReparto; ++i) {
         RepartaUna(asiento, pasada + i);
         PaseDeEventos(Pase::DePaso);
-        if (!PartidaSigue()) {
+        if (!PartidaSigue())
             return false;
-        }
         Pausa(40);
     }
     return true;
@@ -80,12 +77,10 @@ void RepartaUna(Integer asiento, int lugar) {
     const FilaJuego& juego = JuegoEnMesa();
     Integer asiento = estado.JugadorMano;
     do {
-        if (juego.corta_pasada != nullptr && juego.corta_pasada(pasada, asiento)) {
+        if (juego.corta_pasada != nullptr && juego.corta_pasada(pasada, asiento))
             return true;
-        }
-        if (Recibe(asiento) && !ReparteMonton(asiento, pasada)) {
+        if (Recibe(asiento) && !ReparteMonton(asiento, pasada))
             return false;
-        }
         SiguienteAsiento(asiento);
     } while (asiento != estado.JugadorMano);
     return true;
@@ -103,22 +98,19 @@ public:
 [[nodiscard]] bool ReparteSolo() {
     const OrdenFirme orden;
     const ManosAbiertas abiertas;
-    if (!JuegoEnMesa().mazo_seguido || estado.CartasEnMazo == 0) {
+    if (!JuegoEnMesa().mazo_seguido || estado.CartasEnMazo == 0)
         Barajar();
-    }
     for (int pasada = 1; pasada <= estado.CartasReparto; pasada += estado.PasoReparto) {
-        if (!RepartePasada(pasada)) {
+        if (!RepartePasada(pasada))
             return false;
-        }
     }
     return true;
 }
 
 int PrimerHueco(Integer asiento) {
     int lugar = 1;
-    while (estado.Mano(asiento, estado.SerieActual, lugar, kPalo) != kSinCarta) {
+    while (estado.Mano(asiento, estado.SerieActual, lugar, kPalo) != kSinCarta)
         ++lugar;
-    }
     return lugar;
 }
 
@@ -131,9 +123,8 @@ bool Repartir() {
 void RobarCartas(Integer asiento, Integer n, Integer tapada) {
     const FilaJuego& juego = JuegoEnMesa();
     if (n > estado.CartasEnMazo) {
-        if (juego.rellena_mazo != nullptr) {
+        if (juego.rellena_mazo != nullptr)
             juego.rellena_mazo(asiento, n);
-        }
         DibujarMazo(estado.MazoX, estado.MazoY, estado.CartasEnMazo);
     }
     const Integer serie = estado.SerieActual;

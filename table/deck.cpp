@@ -22,9 +22,8 @@ constexpr Integer kValorComodin = 90; // 91 and 92 are the jokers
 // A free place of 1..total. A taken place draws again: the order of the cards is a rejection fill.
 int LugarLibre(int total) {
     int lugar = AzarEntre(total);
-    while (estado.Baraja(lugar, 1) != kSinCarta) {
+    while (estado.Baraja(lugar, 1) != kSinCarta)
         lugar = AzarEntre(total);
-    }
     return lugar;
 }
 
@@ -35,9 +34,8 @@ void MeteEnBaraja(Integer palo, Integer valor) {
 }
 
 void MeteValor(Integer palo, Integer valor) {
-    for (int mazo = 0; mazo < estado.MazosBaraja; ++mazo) {
+    for (int mazo = 0; mazo < estado.MazosBaraja; ++mazo)
         MeteEnBaraja(palo, valor);
-    }
 }
 
 struct CartaConClave {
@@ -62,21 +60,18 @@ void Barajar() {
     estado.CartasEnMazo = estado.TotalBaraja;
     estado.NumDescartes = 0;
     estado.PosicionMazo = 1;
-    if (!JuegoEnMesa().mazo_seguido) {
+    if (!JuegoEnMesa().mazo_seguido)
         DibujarMazo(estado.MazoX, estado.MazoY, estado.TotalBaraja);
-    }
     estado.Baraja.Borra();
     SiembraDelReloj(plataforma().Reloj());
     for (Integer palo = kOros; palo <= kBastos; ++palo) {
         for (Integer valor = 1; valor <= estado.ColumnasBaraja; ++valor) {
-            if (estado.ValorEnBaraja(valor)) {
+            if (estado.ValorEnBaraja(valor))
                 MeteValor(palo, valor);
-            }
         }
     }
-    for (int comodin = 1; comodin <= estado.ComodinesBaraja; ++comodin) {
+    for (int comodin = 1; comodin <= estado.ComodinesBaraja; ++comodin)
         MeteEnBaraja(kComodin, EnteroDe(kValorComodin + comodin));
-    }
 }
 
 void PonCarta(Integer asiento, Integer serie, int lugar, Integer palo, Integer valor,
@@ -96,9 +91,8 @@ void CompactarMano(Integer asiento) {
     Integer* carta = &estado.Mano(asiento, estado.SerieActual, 1, 0);
     Integer* libre = carta;
     for (int lugar = 1; lugar <= kLugares; ++lugar, carta += kCampos) {
-        if (carta[kPalo] == kSinCarta) {
+        if (carta[kPalo] == kSinCarta)
             continue;
-        }
         if (libre != carta) {
             std::copy_n(carta, kCampos, libre);
             std::fill_n(carta, kCampos, Integer{0});
@@ -113,9 +107,8 @@ void OrdenarMano(Integer asiento) {
         juego.ordena_mano(asiento);
         return;
     }
-    if (juego.clave_orden == nullptr) {
+    if (juego.clave_orden == nullptr)
         return;
-    }
     const Integer serie = estado.SerieActual;
     std::vector<CartaConClave> cartas;
     for (int lugar = 1; lugar <= estado.NumCartas(asiento, serie); ++lugar) {

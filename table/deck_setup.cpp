@@ -26,15 +26,13 @@ constexpr std::array<const char*, 13> kNombreFrances{"As",   "Dos",   "Tres", "C
 template <std::size_t N>
 void PonNombres(Tabla<std::string, 14>& tabla, const std::array<const char*, N>& nombres) {
     tabla.Borra();
-    for (std::size_t i = 0; i < N; ++i) {
+    for (std::size_t i = 0; i < N; ++i)
         tabla(static_cast<int>(i) + 1) = nombres[i];
-    }
 }
 
 void PonValoresDelTipo(bool francesa) {
-    for (int valor = 1; valor <= kColumnasFrancesa; ++valor) {
+    for (int valor = 1; valor <= kColumnasFrancesa; ++valor)
         estado.ValorEnBaraja(valor) = francesa || (valor != 8 && valor != 9 && valor != 13);
-    }
 }
 
 } // namespace

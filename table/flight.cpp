@@ -33,12 +33,10 @@ struct Eje {
 // The step of one way: 26 pixels for the longer, in proportion for the shorter; a way too short for a step
 // of its own is gone at once.
 int PasoDelEje(int camino, int otro) {
-    if (camino == 0) {
+    if (camino == 0)
         return 0;
-    }
-    if (std::abs(camino) >= std::abs(otro)) {
+    if (std::abs(camino) >= std::abs(otro))
         return camino > 0 ? kPasoVuelo : -kPasoVuelo;
-    }
     const int paso = Redondea(static_cast<double>(camino) * kPasoVuelo / std::abs(otro));
     return paso == 0 ? camino : paso;
 }

@@ -67,24 +67,21 @@ void LlevaCarta(Integer asiento, int desde, int hasta) {
     const Integer cartas = estado.NumCartas(asiento, estado.SerieActual);
     PonCampos(asiento, desde, {});
     CompactarMano(asiento);
-    for (int lugar = cartas; lugar > hasta; --lugar) {
+    for (int lugar = cartas; lugar > hasta; --lugar)
         PonCampos(asiento, lugar, LeeCampos(asiento, lugar - 1));
-    }
     PonCampos(asiento, hasta, movida);
 }
 
 void TrasReordenar(Integer asiento) {
     const FilaJuego& juego = JuegoEnMesa();
-    if (asiento == estado.JugadorActual && juego.tras_reordenar != nullptr) {
+    if (asiento == estado.JugadorActual && juego.tras_reordenar != nullptr)
         juego.tras_reordenar();
-    }
 }
 
 void RedibujaActivos() {
     for (int asiento = 1; asiento <= 4; ++asiento) {
-        if (estado.EstadoJugador(asiento) == kActivado) {
+        if (estado.EstadoJugador(asiento) == kActivado)
             RedibujarAsiento(asiento);
-        }
     }
 }
 
@@ -104,16 +101,14 @@ void PonMover(Integer palo, Integer valor, int x, int y) {
     mover_x = x + kAnchoMover / 2;
     mover_y = y + kAltoMover / 2;
     p.Coloca(Control::Pic_Mover, 0, {x, y, kAnchoMover, kAltoMover});
-    if (!p.EstaVisible(Control::Pic_Mover, 0)) {
+    if (!p.EstaVisible(Control::Pic_Mover, 0))
         p.Muestra(Control::Pic_Mover, 0, true);
-    }
     PintaEnMover(palo, valor);
 }
 
 void PintaMover() {
-    if (!plataforma().EstaVisible(Control::Pic_Mover, 0)) {
+    if (!plataforma().EstaVisible(Control::Pic_Mover, 0))
         return;
-    }
     if (estado.ArrastraReparto) {
         const CartaColgada carta = LaCartaColgada();
         PintaEnMover(carta.palo, carta.valor);
@@ -147,12 +142,10 @@ void SueltaArrastrada() {
     DetectaJdorYCar(mover_x, mover_y);
     // Off the cards counts as before the first: a lower target moves one place up.
     int destino = estado.CartaBajoCursor;
-    if (destino < estado.CartaMovida) {
+    if (destino < estado.CartaMovida)
         ++destino;
-    }
-    if (destino != estado.CartaMovida) {
+    if (destino != estado.CartaMovida)
         LlevaCarta(asiento, estado.CartaMovida, destino);
-    }
     estado.ArrastraCarta = false;
     CompactarMano(asiento);
     RedibujaActivos();
@@ -161,9 +154,8 @@ void SueltaArrastrada() {
 }
 
 void AbandonaArrastre() {
-    if (!estado.ArrastraCarta) {
+    if (!estado.ArrastraCarta)
         return;
-    }
     estado.ArrastraCarta = false;
     Oculta(Control::Pic_Mover);
     RedibujarAsiento(vista.asiento_arrastrado);

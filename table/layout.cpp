@@ -152,9 +152,8 @@ void ColocarCarta(int asiento, int lugar, int cartas) {
 Rectangulo FranjaMano(int asiento, int cartas) {
     const int n = std::max(cartas, 1);
     const Rectangulo zona = ZonaDe(asiento);
-    if (AsientoLateral(asiento)) {
+    if (AsientoLateral(asiento))
         return {zona.x, ALoLargo(estado.MesaArriba(asiento), 1, n), zona.ancho, LargoFranja(n)};
-    }
     return {ALoLargo(estado.MesaIzquierda(asiento), 1, n), zona.y, LargoFranja(n), zona.alto};
 }
 
@@ -204,7 +203,6 @@ void ColocarMazo() {
     const Punto centro = CentroDelMazo();
     estado.MazoX = EnteroDe(centro.x);
     estado.MazoY = EnteroDe(centro.y);
-    if (fila != nullptr && fila->coloca_mazo != nullptr) {
+    if (fila != nullptr && fila->coloca_mazo != nullptr)
         fila->coloca_mazo();
-    }
 }

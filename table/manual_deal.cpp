@@ -44,17 +44,15 @@ template <class F>
 void PorElReparto(F&& visita) {
     for (int fila = 1; fila <= estado.FilasReparto; ++fila) {
         for (int columna = 1; columna <= estado.ColumnasBaraja; ++columna) {
-            if (EnLaBaraja(fila, columna)) {
+            if (EnLaBaraja(fila, columna))
                 visita(fila, columna);
-            }
         }
     }
 }
 
 void PintaLugar(int fila, int columna) {
-    if (!plataforma().HayPantalla()) {
+    if (!plataforma().HayPantalla())
         return;
-    }
     const int x = estado.ReparteX + (columna - 1) * kPasoColumna;
     const int y = estado.ReparteY + (fila - 1) * PasoFila();
     const int ancho = kPasoColumna - kHueco;
@@ -76,9 +74,8 @@ void Extiende() {
     PorElReparto([](int fila, int columna) {
         estado.CartaEnReparto(fila, columna) = true;
         PintaLugar(fila, columna);
-        if (plataforma().HayPantalla()) {
+        if (plataforma().HayPantalla())
             plataforma().Repinta();
-        }
         Pausa(fila == kComodin ? 40 : 25);
     });
 }
@@ -106,9 +103,8 @@ void PreparaMesa() {
 
 int Repartidas() {
     int cartas = 0;
-    for (int asiento = 1; asiento <= 4; ++asiento) {
+    for (int asiento = 1; asiento <= 4; ++asiento)
         cartas += estado.NumCartas(asiento, 1);
-    }
     return cartas;
 }
 
@@ -119,9 +115,8 @@ bool RepartoRoto() {
 
 void DescubreManos() {
     for (Integer asiento = 1; asiento <= 4; ++asiento) {
-        for (int lugar = 1; lugar <= estado.NumCartas(asiento, 1); ++lugar) {
+        for (int lugar = 1; lugar <= estado.NumCartas(asiento, 1); ++lugar)
             estado.Mano(asiento, 1, lugar, kCara) = estado.CartasJugador(asiento);
-        }
         RedibujarAsiento(asiento);
     }
 }
@@ -154,9 +149,8 @@ void CierraReparto() {
 }
 
 bool Admite(Integer asiento) {
-    if (estado.NumCartas(asiento, 1) >= estado.CartasReparto) {
+    if (estado.NumCartas(asiento, 1) >= estado.CartasReparto)
         return false;
-    }
     const FilaJuego& juego = JuegoEnMesa();
     return juego.recibe_a_mano != nullptr ? juego.recibe_a_mano(asiento)
                                           : estado.EstadoJugador(asiento) == kActivado;
@@ -164,9 +158,8 @@ bool Admite(Integer asiento) {
 
 int PrimerLugarLibre(Integer asiento) {
     for (int lugar = 1; lugar <= estado.MaxCartasMano; ++lugar) {
-        if (estado.Mano(asiento, 1, lugar, kPalo) == kSinCarta) {
+        if (estado.Mano(asiento, 1, lugar, kPalo) == kSinCarta)
             return lugar;
-        }
     }
     return 0;
 }
@@ -187,9 +180,8 @@ bool RepartirAMano() {
     PreparaMesa();
     total_al_empezar = estado.TotalBaraja;
     Extiende();
-    for (int asiento = 1; asiento <= 4; ++asiento) {
+    for (int asiento = 1; asiento <= 4; ++asiento)
         RedibujarAsiento(asiento);
-    }
     MostrarNombres();
     HabilitaBoton(1, true);
     HabilitaBoton(3, true);
@@ -217,31 +209,27 @@ bool EnElReparto(int x, int y) {
 bool TomaDelReparto() {
     const int fila = estado.FilaReparto;
     const int columna = estado.ColumnaReparto;
-    if (fila == 0 || columna == 0 || !estado.CartaEnReparto(fila, columna)) {
+    if (fila == 0 || columna == 0 || !estado.CartaEnReparto(fila, columna))
         return false;
-    }
     estado.ArrastraReparto = true;
     PintaLugar(fila, columna);
     return true;
 }
 
 CartaColgada LaCartaColgada() {
-    if (!estado.ArrastraReparto) {
+    if (!estado.ArrastraReparto)
         return {};
-    }
     return {estado.FilaReparto, ValorDe(estado.FilaReparto, estado.ColumnaReparto)};
 }
 
 bool DaCartaA(Integer asiento) {
     const int lugar = PrimerLugarLibre(asiento);
-    if (!Admite(asiento) || lugar == 0) {
+    if (!Admite(asiento) || lugar == 0)
         return false;
-    }
     const CartaColgada carta = LaCartaColgada();
     PonCarta(asiento, 1, lugar, carta.palo, carta.valor, kDescubierta);
-    if (JuegoEnMesa().tapa_al_repartir) {
+    if (JuegoEnMesa().tapa_al_repartir)
         estado.Mano(asiento, 1, lugar, kTapada) = 1;
-    }
     ++estado.NumCartas(asiento, 1);
     estado.CartaEnReparto(estado.FilaReparto, estado.ColumnaReparto) = false;
     estado.UltimoRecibe = asiento;
@@ -265,9 +253,8 @@ void RecogeDeMano(Integer asiento, int lugar) {
     const int columna = ColumnaDe(palo, estado.Mano(asiento, 1, lugar, kValor));
     estado.CartaEnReparto(palo, columna) = true;
     PintaLugar(palo, columna);
-    for (int campo = 0; campo <= 5; ++campo) {
+    for (int campo = 0; campo <= 5; ++campo)
         estado.Mano(asiento, 1, lugar, campo) = 0;
-    }
     --estado.NumCartas(asiento, 1);
     CompactarMano(asiento);
     RedibujarAsiento(asiento);

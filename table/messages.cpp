@@ -41,12 +41,10 @@ bool Pregunta(const std::string& titulo, const std::string& texto, int lineas, i
                                                .aceptar = aceptar,
                                                .centrada = estado.VentanaModal});
     Sonido(0, kSonidoBoton);
-    if (modo == 2) {
+    if (modo == 2)
         estado.RespuestaMensaje = boton == Boton::Si;
-    }
-    if (modo == 3) {
+    if (modo == 3)
         estado.AyudaPulsada = boton == Boton::Ayuda;
-    }
     return boton == Boton::Si;
 }
 
@@ -105,9 +103,8 @@ int LineasDe(std::string_view texto) {
         const std::size_t fin = std::min(texto.find('\n', desde), texto.size());
         const int letras = Longitud(texto.substr(desde, fin - desde));
         lineas += std::max(1, (letras + kLetrasMensaje - 1) / kLetrasMensaje);
-        if (fin == texto.size()) {
+        if (fin == texto.size())
             return lineas;
-        }
         desde = fin + 1;
     }
 }
@@ -122,9 +119,8 @@ void CargaSugerencias() {
 
 void MostrarSugerencia(int tip) {
     Traza("MostrarSugerencia", tip);
-    if (estado.VentanaInfo != 1) {
+    if (estado.VentanaInfo != 1)
         return;
-    }
     estado.TemaActual = estado.Sugerencias(tip).Tema;
     estado.TipActual = EnteroDe(tip);
     ColocaSugerencia();
@@ -139,13 +135,11 @@ void MostrarSugerencia(int tip) {
 
 void PintaSugerencia() {
     Plataforma& p = plataforma();
-    if (!p.EstaVisible(Control::Pic_Sugerencia, 0)) {
+    if (!p.EstaVisible(Control::Pic_Sugerencia, 0))
         return;
-    }
     ColocaSugerencia();
-    if (!p.HayPantalla()) {
+    if (!p.HayPantalla())
         return;
-    }
     PintaPanel();
     PintaBotonesPanel();
 }
@@ -192,7 +186,6 @@ void Pausa(int unidades) {
 
 void Sonido(int modo, int id) {
     Traza("Sonido", modo, id);
-    if (estado.SonidoActivo) {
+    if (estado.SonidoActivo)
         plataforma().Suena(id, modo == 0);
-    }
 }

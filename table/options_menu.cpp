@@ -17,9 +17,8 @@ constexpr int kEntradaManual = 4, kEntradaSola = 5;
 // The number of the n-th entry on show, 0 for none.
 int EntradaEn(int n) {
     for (int entrada = 1; entrada <= 10; ++entrada) {
-        if (estado.Opciones(entrada) && --n == 0) {
+        if (estado.Opciones(entrada) && --n == 0)
             return entrada;
-        }
     }
     return 0;
 }
@@ -28,21 +27,18 @@ void PintaEntrada(Lienzo& lienzo, int n) {
     const int entrada = EntradaEn(n);
     const int y = kMargen / 2 + (n - 1) * kAltoEntrada;
     const bool resaltada = n == estado.OpcionResaltada;
-    if (resaltada) {
+    if (resaltada)
         lienzo.Caja({2, y, kAncho - 4, kAltoEntrada}, color::kAzulOscuro);
-    }
     const Color tinta = resaltada ? color::kBlanco : color::kNegro;
-    if (entrada == kEntradaManual && estado.ModoOrdenar) {
+    if (entrada == kEntradaManual && estado.ModoOrdenar)
         lienzo.Texto(8, y + 2, "X", {.alto = 12, .negrita = true}, tinta, Alineacion::Izquierda);
-    }
     lienzo.Texto(24, y + 2, estado.TextoOrdenar(entrada), {.alto = 12}, tinta,
                  Alineacion::Izquierda);
 }
 
 void ResaltaOpcion(int n) {
-    if (n == estado.OpcionResaltada) {
+    if (n == estado.OpcionResaltada)
         return;
-    }
     estado.OpcionResaltada = EnteroDe(n);
     PintaOpciones();
 }
@@ -51,16 +47,14 @@ void ResaltaOpcion(int n) {
 
 void PintaOpciones() {
     Plataforma& p = plataforma();
-    if (!p.HayPantalla() || !p.EstaVisible(Control::Pic_SelOpciones, 0)) {
+    if (!p.HayPantalla() || !p.EstaVisible(Control::Pic_SelOpciones, 0))
         return;
-    }
     Lienzo& lienzo = p.LienzoDe(Control::Pic_SelOpciones, 0);
     const Rectangulo todo{0, 0, kAncho, estado.NumOpciones * kAltoEntrada + kMargen};
     lienzo.Caja(todo, color::kMarfil);
     lienzo.Borde(todo, color::kBordePanel, 1);
-    for (int n = 1; n <= estado.NumOpciones; ++n) {
+    for (int n = 1; n <= estado.NumOpciones; ++n)
         PintaEntrada(lienzo, n);
-    }
 }
 
 void PonOpciones(bool ordenar) {
@@ -71,9 +65,8 @@ void PonOpciones(bool ordenar) {
 }
 
 void MuestraOpciones() {
-    if (estado.NumOpciones == 0) {
+    if (estado.NumOpciones == 0)
         return;
-    }
     const int alto = estado.NumOpciones * kAltoEntrada + kMargen;
     estado.OpcionResaltada = 0;
     plataforma().Coloca(Control::Pic_SelOpciones, 0,
@@ -85,9 +78,8 @@ void MuestraOpciones() {
 }
 
 void ApagaOpcion() {
-    if (plataforma().EstaVisible(Control::Pic_SelOpciones, 0)) {
+    if (plataforma().EstaVisible(Control::Pic_SelOpciones, 0))
         ResaltaOpcion(0);
-    }
 }
 
 void Opciones_MouseMove(int y) {
@@ -96,9 +88,8 @@ void Opciones_MouseMove(int y) {
 }
 
 void Opciones_MouseUp() {
-    if (estado.OpcionResaltada == 0) {
+    if (estado.OpcionResaltada == 0)
         return;
-    }
     Oculta(Control::Pic_SelOpciones);
     estado.OpcionElegida = EnteroDe(EntradaEn(estado.OpcionResaltada));
     if (estado.OpcionElegida == kEntradaManual) {
@@ -108,7 +99,6 @@ void Opciones_MouseUp() {
     const Integer asiento = estado.ZonaBajoCursor;
     OrdenarMano(asiento);
     const FilaJuego& juego = JuegoEnMesa();
-    if (asiento == estado.JugadorActual && juego.tras_reordenar != nullptr) {
+    if (asiento == estado.JugadorActual && juego.tras_reordenar != nullptr)
         juego.tras_reordenar();
-    }
 }

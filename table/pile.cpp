@@ -18,17 +18,14 @@ constexpr int kBajadaMazo = 13;
 void DibujarMazo(int x, int y, int n) {
     Traza("DibujarMazo", x, y, n);
     vista.cartas_mazo = n;
-    if (!plataforma().HayPantalla()) {
+    if (!plataforma().HayPantalla())
         return;
-    }
     Lienzo& mesa = plataforma().LienzoDe(Control::Mesa, 0);
     mesa.Fieltro({x - kMargenMazo, y, kAnchoCajaMazo, kAltoCajaMazo});
     const FilaJuego& juego = JuegoEnMesa();
-    if (juego.pinta_bajo_mazo != nullptr) {
+    if (juego.pinta_bajo_mazo != nullptr)
         juego.pinta_bajo_mazo(x, y);
-    }
     const int porDorso = kCartasPorDorso * std::max<int>(estado.MazosBaraja, 1);
-    for (int k = 0; k * porDorso < n; ++k) {
+    for (int k = 0; k * porDorso < n; ++k)
         mesa.Carta(x + k, y + kBajadaMazo - k, {.cara = kDorso, .orientacion = 1});
-    }
 }

@@ -76,9 +76,8 @@ void LetraALetra(int asiento, const Rectangulo& banda, const std::string& texto,
 }
 
 void PintaNombre(int asiento) {
-    if (!vista.nombres || estado.EstadoJugador(asiento) != kActivado) {
+    if (!vista.nombres || estado.EstadoJugador(asiento) != kActivado)
         return;
-    }
     const Rectangulo banda = BandaDelNombre(asiento);
     Mesa().Fieltro(banda);
     LetraALetra(asiento, banda, estado.NombreJugador(asiento),
@@ -104,9 +103,8 @@ std::string SinEspaciar(const std::string& rotulo) {
     std::string palabra;
     for (int i = 1; i <= Longitud(rotulo); ++i) {
         const std::string letra = Medio(rotulo, i, 1);
-        if (i % 2 == 0 && letra != " ") {
+        if (i % 2 == 0 && letra != " ")
             return rotulo;
-        }
         palabra += i % 2 == 0 ? "" : letra;
     }
     return palabra;
@@ -115,13 +113,11 @@ std::string SinEspaciar(const std::string& rotulo) {
 // Tells a caption when it comes, not each time the seat is painted.
 void AnunciaRotulo(int asiento) {
     const std::string& rotulo = estado.RotuloSerie(asiento, estado.SerieActual);
-    if (rotulo == vista.rotulo_dicho(asiento)) {
+    if (rotulo == vista.rotulo_dicho(asiento))
         return;
-    }
     vista.rotulo_dicho(asiento) = rotulo;
-    if (!rotulo.empty()) {
+    if (!rotulo.empty())
         plataforma().Anuncia(estado.NombreJugador(asiento) + ": " + SinEspaciar(rotulo));
-    }
 }
 
 void ParpadeaRotulo(int asiento, Integer serie) {
@@ -129,9 +125,8 @@ void ParpadeaRotulo(int asiento, Integer serie) {
     for (int vez = 0; vez < estado.ParpadeoRotulo(asiento, serie); ++vez) {
         PintaRotulo(asiento, true);
         Pausa(250);
-        if (verde) {
+        if (verde)
             Sonido(1, kSonidoParpadeo);
-        }
         Pausa(500);
         PintaRotulo(asiento, false);
     }
@@ -145,9 +140,8 @@ void ParpadeaRotulo(int asiento, Integer serie) {
 bool OcupaFranja(int asiento) {
     const Integer serie = estado.SerieActual;
     bool ocupa = !estado.RotuloSerie(asiento, serie).empty();
-    for (int lugar = 1; lugar <= estado.NumCartas(asiento, serie); ++lugar) {
+    for (int lugar = 1; lugar <= estado.NumCartas(asiento, serie); ++lugar)
         ocupa = ocupa || estado.Mano(asiento, serie, lugar, kAltura) == kLevantada;
-    }
     return ocupa;
 }
 
@@ -160,9 +154,8 @@ void LimpiaZona(int asiento) {
     }
     Mesa().Fieltro(ZonaConRealce(asiento));
     const FilaJuego& juego = JuegoEnMesa();
-    if (juego.pinta_centro != nullptr) {
+    if (juego.pinta_centro != nullptr)
         juego.pinta_centro();
-    }
 }
 
 void PintaCartas(int asiento) {
@@ -172,9 +165,8 @@ void PintaCartas(int asiento) {
         const bool en_el_aire = estado.ArrastraCarta && vista.asiento_arrastrado == asiento &&
                                 estado.CartaMovida == lugar;
         const auto campo = [&](int cual) { return estado.Mano(asiento, serie, lugar, cual); };
-        if (en_el_aire || campo(kPalo) == kSinCarta) {
+        if (en_el_aire || campo(kPalo) == kSinCarta)
             continue;
-        }
         ColocarCarta(asiento, lugar, std::max<int>(cartas, vista.abanico(asiento)));
         Mesa().Carta(estado.CartaX, estado.CartaY,
                      {.palo = campo(kPalo),
@@ -187,9 +179,8 @@ void PintaCartas(int asiento) {
 
 // In the games with money: the seat's chips, and the mark of a serie that has played.
 void PintaDinero(int asiento) {
-    if (!JuegoEnMesa().con_dinero) {
+    if (!JuegoEnMesa().con_dinero)
         return;
-    }
     PintarFichas(asiento, asiento - 1);
     if (estado.JuegoConBanca && estado.SerieTerminada(asiento, estado.SerieActual)) {
         const Rectangulo zona = ZonaDe(asiento);
@@ -211,28 +202,23 @@ void RedibujarAsiento(int asiento) {
         PintaNombre(asiento);
         PintaCartas(asiento);
     }
-    if (parpadea) {
+    if (parpadea)
         ParpadeaRotulo(asiento, serie);
-    } else if (!estado.RotuloSerie(asiento, serie).empty()) {
+    else if (!estado.RotuloSerie(asiento, serie).empty())
         MostrarRotulo(asiento);
-    }
-    if (plataforma().HayPantalla()) {
+    if (plataforma().HayPantalla())
         PintaDinero(asiento);
-    }
     const FilaJuego& juego = JuegoEnMesa();
-    if (juego.botones_asiento != nullptr) {
+    if (juego.botones_asiento != nullptr)
         juego.botones_asiento(asiento);
-    }
-    if (plataforma().HayPantalla()) {
+    if (plataforma().HayPantalla())
         plataforma().Repinta();
-    }
 }
 
 void ResaltarAsiento() {
     Traza("ResaltarAsiento");
-    if (estado.JuegoConBanca) {
+    if (estado.JuegoConBanca)
         MostrarPuntos(estado.JugadorActual);
-    }
     for (int vez = 0; vez < 2; ++vez) {
         if (plataforma().HayPantalla()) {
             LimpiaZona(estado.JugadorActual);
@@ -247,28 +233,24 @@ void ResaltarAsiento() {
 void MostrarRotulo(int asiento) {
     Traza("MostrarRotulo", asiento);
     AnunciaRotulo(asiento);
-    if (plataforma().HayPantalla()) {
+    if (plataforma().HayPantalla())
         PintaRotulo(asiento, true);
-    }
 }
 
 void MostrarNombres() {
     Traza("MostrarNombres");
     vista.nombres = true;
-    if (!plataforma().HayPantalla()) {
+    if (!plataforma().HayPantalla())
         return;
-    }
-    for (int asiento = 1; asiento <= 4; ++asiento) {
+    for (int asiento = 1; asiento <= 4; ++asiento)
         PintaNombre(asiento);
-    }
     plataforma().Repinta();
 }
 
 void MarcaGanador(int asiento, bool visible) {
     Traza("MarcaGanador", asiento, visible ? 1 : 0);
-    if (!plataforma().HayPantalla()) {
+    if (!plataforma().HayPantalla())
         return;
-    }
     const Rectangulo zona = ZonaDe(asiento);
     const lamina::Recorte& marca = lamina::kMarcaGanador;
     const int x = zona.x + (zona.ancho - marca.ancho) / 2;

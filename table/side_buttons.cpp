@@ -41,9 +41,8 @@ void Pon(Control control, int indice, const Rectangulo& donde, const lamina::Rec
     p.Nombra(control, indice, nombre);
     p.PonPuntero(control, indice, Puntero::ManoIndice);
     p.Muestra(control, indice, true);
-    if (!p.HayPantalla()) {
+    if (!p.HayPantalla())
         return;
-    }
     Lienzo& lienzo = p.LienzoDe(control, indice);
     lienzo.Fieltro({0, 0, donde.ancho, donde.alto});
     lienzo.Lamina(0, 0, recorte);
@@ -113,9 +112,8 @@ void MostrarPuntos(int asiento) {
     constexpr int kPlaca = 4;
     const lamina::Recorte& placa = lamina::kPlacaTantos;
     const FilaJuego& juego = JuegoEnMesa();
-    if (juego.puntos == nullptr) {
+    if (juego.puntos == nullptr)
         return;
-    }
     const double puntos = juego.puntos(asiento, estado.SerieActual);
     const bool medios = puntos != static_cast<int>(puntos);
     Pon(Control::Pic_Tantos, asiento,
@@ -134,9 +132,8 @@ void MostrarPuntos(int asiento) {
 void PintarNumero(Control control, int indice, int x, int y, std::string_view numero,
                   int columnas) {
     Traza("PintarNumero", NombreDe(control), numero);
-    if (!plataforma().HayPantalla()) {
+    if (!plataforma().HayPantalla())
         return;
-    }
     const std::string texto = Formato(numero, std::string(static_cast<std::size_t>(columnas), '@'));
     Lienzo& lienzo = plataforma().LienzoDe(control, indice);
     for (std::size_t i = 0; i < texto.size(); ++i) {
@@ -149,24 +146,21 @@ void PintarNumero(Control control, int indice, int x, int y, std::string_view nu
 
 void PintarMarco(Control control, int indice, int x, int y, int ancho, int alto) {
     Traza("PintarMarco", NombreDe(control), x, y, ancho, alto);
-    if (!plataforma().HayPantalla()) {
+    if (!plataforma().HayPantalla())
         return;
-    }
     Lienzo& lienzo = plataforma().LienzoDe(control, indice);
     const int extremo = lamina::kMarcoExtremoIzquierdo.ancho;
     const int arriba = y + (alto - lamina::kMarcoTira.alto) / 2;
     lienzo.Lamina(x, arriba, lamina::kMarcoExtremoIzquierdo);
-    for (int tira = extremo; tira < ancho - extremo; ++tira) {
+    for (int tira = extremo; tira < ancho - extremo; ++tira)
         lienzo.Lamina(x + tira, arriba, lamina::kMarcoTira);
-    }
     lienzo.Lamina(x + ancho - extremo, arriba, lamina::kMarcoExtremoDerecho);
 }
 
 void PintarFichas(int asiento, int area) {
     constexpr int kGruesoFicha = 3, kFichasVisibles = 8;
-    if (!plataforma().HayPantalla()) {
+    if (!plataforma().HayPantalla())
         return;
-    }
     Lienzo& mesa = plataforma().LienzoDe(Control::Mesa, 0);
     for (int ficha = 1; ficha <= 6; ++ficha) {
         const int altura = std::min<int>(estado.Fichas(asiento, ficha), kFichasVisibles);

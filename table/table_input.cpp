@@ -43,9 +43,8 @@ bool EnLaCarta(int asiento, int lugar, int cartas, int x, int y) {
 
 // The number of a pitch, 0 beyond the last and in the gap at its end.
 Integer FilaDePaso(int distancia, int paso, int cuantas) {
-    if (distancia < 0 || distancia / paso >= cuantas || distancia % paso >= paso - kHueco) {
+    if (distancia < 0 || distancia / paso >= cuantas || distancia % paso >= paso - kHueco)
         return 0;
-    }
     return EnteroDe(distancia / paso + 1);
 }
 
@@ -64,12 +63,10 @@ Integer Codigo(Puntero puntero) {
 
 Integer PunteroEnCarta() {
     const FilaJuego& juego = JuegoEnMesa();
-    if (juego.puntero_carta != nullptr) {
+    if (juego.puntero_carta != nullptr)
         return Codigo(juego.puntero_carta(estado.CartaBajoCursor));
-    }
-    if (estado.ModoApuesta) {
+    if (estado.ModoApuesta)
         return 0;
-    }
     return Codigo(CartaLegal() ? Puntero::ManoVerde : Puntero::ManoRoja);
 }
 
@@ -86,16 +83,14 @@ bool CambioEnMazo(int x, int y) {
 Integer PunteroDeMano(int x, int y) {
     DetectaJdorYCar(x, y);
     Integer codigo = 0;
-    if (estado.AsientoBajoCursor == estado.JugadorActual && estado.CartaBajoCursor != 0) {
+    if (estado.AsientoBajoCursor == estado.JugadorActual && estado.CartaBajoCursor != 0)
         codigo = PunteroEnCarta();
-    }
     return CambioEnMazo(x, y) ? Codigo(Puntero::Cambiar) : codigo;
 }
 
 Integer PunteroDeOrdenar(int x, int y) {
-    if (estado.ArrastraCarta) {
+    if (estado.ArrastraCarta)
         return Codigo(Puntero::ManoCerrada);
-    }
     DetectaJdorYCar(x, y);
     const bool movible =
         estado.CartaBajoCursor != 0 && estado.CartasJugador(estado.AsientoBajoCursor) == kVisibles;
@@ -103,9 +98,8 @@ Integer PunteroDeOrdenar(int x, int y) {
 }
 
 Integer PunteroDeReparto(int x, int y) {
-    if (estado.ArrastraReparto) {
+    if (estado.ArrastraReparto)
         return Codigo(Puntero::ManoCerrada);
-    }
     if (EnElReparto(x, y)) {
         HallaFilyCol(x, y);
         const bool queda = estado.FilaReparto != 0 && estado.ColumnaReparto != 0 &&
@@ -120,15 +114,12 @@ void CalculaPuntero(int x, int y) {
     vista.puntero_x = x;
     vista.puntero_y = y;
     estado.CursorNuevo = 0;
-    if (ManoJugable()) {
+    if (ManoJugable())
         estado.CursorNuevo = PunteroDeMano(x, y);
-    }
-    if (estado.ModoOrdenar) {
+    if (estado.ModoOrdenar)
         estado.CursorNuevo = PunteroDeOrdenar(x, y);
-    }
-    if (estado.RepartoEnCurso) {
+    if (estado.RepartoEnCurso)
         estado.CursorNuevo = PunteroDeReparto(x, y);
-    }
     if (estado.CursorNuevo != estado.CursorTabla) {
         CambiarCursor(Control::Mesa, 0, static_cast<Puntero>(estado.CursorNuevo));
         estado.CursorTabla = estado.CursorNuevo;
@@ -139,16 +130,14 @@ void MueveColgada(int x, int y) {
     const CartaColgada carta = LaCartaColgada();
     PonMover(carta.palo, carta.valor, x - 12, y - 12);
     DetectaZonaCartas(x, y);
-    if (estado.ZonaBajoCursor != 0) {
+    if (estado.ZonaBajoCursor != 0)
         DaCartaA(estado.ZonaBajoCursor);
-    }
 }
 
 void EligeLaCarta() {
     const Integer lugar = estado.CartaBajoCursor;
-    if (estado.AsientoBajoCursor != estado.JugadorActual || lugar == 0) {
+    if (estado.AsientoBajoCursor != estado.JugadorActual || lugar == 0)
         return;
-    }
     const FilaJuego& juego = JuegoEnMesa();
     if (juego.clic_carta != nullptr) {
         juego.clic_carta(lugar);
@@ -180,24 +169,20 @@ void PulsaSegunPuntero() {
     switch (static_cast<Puntero>(estado.CursorTabla)) {
     case Puntero::ManoVerde:
     case Puntero::ManoRoja: // sounds like a card, and plays none
-        if (estado.EligeCarta && !estado.ModoApuesta) {
+        if (estado.EligeCarta && !estado.ModoApuesta)
             EligeLaCarta();
-        }
         break;
     case Puntero::Voltear:
-        if (estado.EligeCarta && juego.clic_voltear != nullptr) {
+        if (estado.EligeCarta && juego.clic_voltear != nullptr)
             juego.clic_voltear(estado.CartaBajoCursor);
-        }
         break;
     case Puntero::Cambiar:
-        if (juego.clic_cambio != nullptr) {
+        if (juego.clic_cambio != nullptr)
             juego.clic_cambio();
-        }
         break;
     case Puntero::Abrirse:
-        if (juego.clic_abrir != nullptr) {
+        if (juego.clic_abrir != nullptr)
             juego.clic_abrir();
-        }
         break;
     default:
         break;
@@ -212,18 +197,14 @@ void DetectaZonaCartas(int x, int y) {
     const auto enColumna = [&](int s) {
         return Dentro(x, estado.MesaIzquierda(s), estado.MesaDerecha(s));
     };
-    if (x <= estado.MesaDerecha(1) && enFila(1)) {
+    if (x <= estado.MesaDerecha(1) && enFila(1))
         estado.ZonaBajoCursor = 1;
-    }
-    if (enColumna(2) && y <= estado.MesaAbajo(2)) {
+    if (enColumna(2) && y <= estado.MesaAbajo(2))
         estado.ZonaBajoCursor = 2;
-    }
-    if (x >= estado.MesaIzquierda(3) && enFila(3)) {
+    if (x >= estado.MesaIzquierda(3) && enFila(3))
         estado.ZonaBajoCursor = 3;
-    }
-    if (enColumna(4) && y >= estado.MesaArriba(4)) {
+    if (enColumna(4) && y >= estado.MesaArriba(4))
         estado.ZonaBajoCursor = 4;
-    }
 }
 
 void DetectaJdorYCar(int x, int y) {
@@ -231,15 +212,13 @@ void DetectaJdorYCar(int x, int y) {
     estado.CartaBajoCursor = 0;
     for (Integer asiento = 1; asiento <= 4; ++asiento) {
         const Integer cartas = estado.NumCartas(asiento, estado.SerieActual);
-        if (cartas == 0 || !EnLaFranja(asiento, x, y, cartas)) {
+        if (cartas == 0 || !EnLaFranja(asiento, x, y, cartas))
             continue;
-        }
         estado.AsientoBajoCursor = asiento;
         estado.CartaBajoCursor = 0;
         for (Integer lugar = 1; lugar <= cartas; ++lugar) {
-            if (EnLaCarta(asiento, lugar, cartas, x, y)) {
+            if (EnLaCarta(asiento, lugar, cartas, x, y))
                 estado.CartaBajoCursor = lugar;
-            }
         }
     }
 }
@@ -262,11 +241,10 @@ void RefrescaPuntero() {
 void Form_MouseMove(int x, int y) {
     ApagaOpcion();
     CalculaPuntero(x, y);
-    if (estado.ArrastraReparto) {
+    if (estado.ArrastraReparto)
         MueveColgada(x, y);
-    } else if (estado.ArrastraCarta) {
+    else if (estado.ArrastraCarta)
         MueveArrastrada(x, y);
-    }
 }
 
 void Form_MouseDown(int boton, int x, int y) {
@@ -274,9 +252,8 @@ void Form_MouseDown(int boton, int x, int y) {
     estado.RatonY = EnteroDe(y);
     estado.BotonRaton = EnteroDe(boton);
     Oculta(Control::Pic_SelOpciones);
-    if (boton != kBotonIzquierdo) {
+    if (boton != kBotonIzquierdo)
         return;
-    }
     // A pointer that rests on a card works too: its shape is reckoned anew for the press.
     CalculaPuntero(x, y);
     if (estado.RepartoEnCurso) {
@@ -292,12 +269,10 @@ void Form_MouseDown(int boton, int x, int y) {
 }
 
 void Form_MouseUp() {
-    if (estado.ArrastraReparto) {
+    if (estado.ArrastraReparto)
         DevuelveAlReparto();
-    }
-    if (estado.ArrastraCarta) {
+    if (estado.ArrastraCarta)
         SueltaArrastrada();
-    }
 }
 
 void Form_Click(int x, int y) {
@@ -310,9 +285,8 @@ void Form_Click(int x, int y) {
         PonOpciones(ofrece);
         MuestraOpciones();
     }
-    if (estado.ZonaBajoCursor == 0) {
+    if (estado.ZonaBajoCursor == 0)
         estado.ModoOrdenar = false;
-    }
 }
 
 bool TeclaActiva(int tecla) {

@@ -34,18 +34,16 @@ void LimpiaTapete() {
 
 void RedibujaSorteo() {
     for (int asiento = 1; asiento <= 4; ++asiento) {
-        if (vista.sorteada(asiento).palo == kSinCarta) {
+        if (vista.sorteada(asiento).palo == kSinCarta)
             continue;
-        }
         ColocarCarta(asiento, 1, 1);
         Mesa().Carta(estado.CartaX, estado.CartaY, vista.sorteada(asiento));
     }
 }
 
 void RedibujaMazo() {
-    if (vista.cartas_mazo == 0) {
+    if (vista.cartas_mazo == 0)
         return;
-    }
     const Punto mazo = vista.mazo_centrado ? CentroDelMazo() : Punto{estado.MazoX, estado.MazoY};
     DibujarMazo(mazo.x, mazo.y, vista.cartas_mazo);
 }
@@ -53,9 +51,8 @@ void RedibujaMazo() {
 // The plates that show, at their places of now.
 void RedibujaTantos() {
     for (int asiento = 1; asiento <= 4; ++asiento) {
-        if (plataforma().EstaVisible(Control::Pic_Tantos, asiento)) {
+        if (plataforma().EstaVisible(Control::Pic_Tantos, asiento))
             MostrarPuntos(asiento);
-        }
     }
 }
 
@@ -66,9 +63,8 @@ void CalcularMesa() {
     CalculaLugares();
     ColocarMazo();
     ColocaColumna();
-    for (int boton = 1; boton <= 8; ++boton) {
+    for (int boton = 1; boton <= 8; ++boton)
         HabilitaBoton(boton, boton != 3 && boton != 4 && boton != 8);
-    }
     PintaColumna();
 }
 
@@ -100,9 +96,8 @@ void DibujarCarta(Control control, int x, int y, int orientacion, int palo, int 
 
 void DibujarCaja(int x, int y, int ancho, int alto) {
     Traza("DibujarCaja", x, y, ancho, alto);
-    if (plataforma().HayPantalla()) {
+    if (plataforma().HayPantalla())
         Mesa().Fieltro({x, y, ancho, alto});
-    }
 }
 
 void CambiarCursor(Control control, int indice, Puntero puntero) {
@@ -115,16 +110,14 @@ void Oculta(Control control, int indice) {
 }
 
 void OcultaTantos() {
-    for (int asiento = 1; asiento <= 4; ++asiento) {
+    for (int asiento = 1; asiento <= 4; ++asiento)
         Oculta(Control::Pic_Tantos, asiento);
-    }
 }
 
 void OcultaControlesMesa() {
     OcultarContinuar();
-    for (Control control : kDeLaMesa) {
+    for (Control control : kDeLaMesa)
         Oculta(control);
-    }
     for (int indice = 1; indice <= 2; ++indice) {
         Oculta(Control::Pic_BotSuperior, indice);
         Oculta(Control::Pic_BotLateral, indice);
@@ -143,26 +136,22 @@ void LimpiarMesa() {
 }
 
 void RedibujarMesa() {
-    if (!plataforma().HayPantalla()) {
+    if (!plataforma().HayPantalla())
         return;
-    }
     LimpiaTapete();
     RedibujaMazo();
     RedibujaSorteo();
     const FilaJuego* juego = FilaDe(estado.JuegoActivo);
-    if (juego != nullptr && juego->pinta_centro != nullptr) {
+    if (juego != nullptr && juego->pinta_centro != nullptr)
         juego->pinta_centro();
-    }
     // What a finished match has left on the table stays there until the next one.
     const bool hay_asientos = estado.PartidaEnCurso || vista.nombres;
     for (int asiento = 1; asiento <= 4 && hay_asientos; ++asiento) {
-        if (vista.sorteada(asiento).palo == kSinCarta) {
+        if (vista.sorteada(asiento).palo == kSinCarta)
             RedibujarAsiento(asiento);
-        }
     }
-    if (estado.RepartoEnCurso) {
+    if (estado.RepartoEnCurso)
         PintaReparto();
-    }
     RedibujaTantos();
     PintaColumna();
     PintaSugerencia();

@@ -24,13 +24,12 @@ void Emite(const std::string& linea) {
 void Pon(std::string& linea, std::string_view texto) {
     linea += '"';
     for (char c : texto) {
-        if (c == '\r') {
+        if (c == '\r')
             linea += "\\r";
-        } else if (c == '\n') {
+        else if (c == '\n')
             linea += "\\n";
-        } else {
+        else
             linea += c;
-        }
     }
     linea += '"';
 }

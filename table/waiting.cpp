@@ -14,11 +14,10 @@ bool SiempreVale(const Evento& evento) {
 }
 
 void Atiende(const Evento& evento) {
-    if (sesion.peticion == Peticion::Ninguna || SiempreVale(evento)) {
+    if (sesion.peticion == Peticion::Ninguna || SiempreVale(evento))
         el_despacho(evento);
-    } else if (evento.tipo == TipoEvento::CierraVentana) {
+    else if (evento.tipo == TipoEvento::CierraVentana)
         sesion.cierre_pendiente = true;
-    }
 }
 
 } // namespace
@@ -30,9 +29,8 @@ void RegistraDespacho(Despacho despacho) {
 void AtiendeCierrePendiente() {
     const bool toca =
         sesion.cierre_pendiente && BotonHabilitado(7) && sesion.peticion == Peticion::Ninguna;
-    if (!toca) {
+    if (!toca)
         return;
-    }
     sesion.cierre_pendiente = false;
     Atiende({.tipo = TipoEvento::CierraVentana});
 }
@@ -40,17 +38,15 @@ void AtiendeCierrePendiente() {
 void PaseDeEventos(Pase pase) {
     AtiendeCierrePendiente();
     plataforma().Bombea();
-    while (const auto evento = plataforma().SiguienteEvento(pase)) {
+    while (const auto evento = plataforma().SiguienteEvento(pase))
         Atiende(*evento);
-    }
 }
 
 bool EsperaHasta(bool (*lista)()) {
     while (!lista()) {
         AtiendeCierrePendiente();
-        if (!PartidaSigue()) {
+        if (!PartidaSigue())
             return false;
-        }
         if (!plataforma().EsperaEvento()) {
             sesion.sin_eventos = true;
             estado.PartidaEnCurso = false;

@@ -25,9 +25,8 @@ void PreparaBaraja() {
                 .paso = 1,
                 .max_mano = 11});
     PonReglasDeBanca();
-    for (int valor = 1; valor <= 13; ++valor) {
+    for (int valor = 1; valor <= 13; ++valor)
         estado.ValorCarta(valor) = std::min(valor, 10);
-    }
 }
 
 void ColocaMazo() {

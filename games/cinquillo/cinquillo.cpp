@@ -39,11 +39,10 @@ bool EsManual(Integer asiento) {
 
 // The tip of a turn's beginning goes by the number of the turn before.
 void SugiereAlEmpezar() {
-    if (estado.AzarTurno < 0.25F) {
+    if (estado.AzarTurno < 0.25F)
         MostrarSugerencia(kTipTutor);
-    } else if (estado.AzarTurno < 0.8F) {
+    else if (estado.AzarTurno < 0.8F)
         MostrarSugerencia(kTipReglas);
-    }
 }
 
 void PreparaEleccion(Integer asiento) {
@@ -51,29 +50,24 @@ void PreparaEleccion(Integer asiento) {
     estado.JugadaHecha = false;
     estado.EligeCarta = EsManual(asiento);
     HabilitaBoton(kBotonTutor, EsManual(asiento));
-    if (!EsManual(asiento)) {
+    if (!EsManual(asiento))
         Pausa(300);
-    }
     EligeCartaCinquillo();
     if (EsManual(asiento)) {
         RefrescaPuntero();
-        if (estado.AzarTurno < 0.4F) {
+        if (estado.AzarTurno < 0.4F)
             MostrarSugerencia(kTipTutor);
-        }
     }
 }
 
 // The seat's choice stands in CartaElegida; false when the match was left.
 [[nodiscard]] bool EsperaEleccion(Integer asiento) {
-    if (!EsManual(asiento) && !estado.PausaEntreJugadas) {
+    if (!EsManual(asiento) && !estado.PausaEntreJugadas)
         return true;
-    }
-    if (!EsperaContinuar()) {
+    if (!EsperaContinuar())
         return false;
-    }
-    if (!estado.JugadaHecha) {
+    if (!estado.JugadaHecha)
         EligeCartaCinquillo();
-    }
     return true;
 }
 
@@ -99,9 +93,8 @@ void ExtiendeCarta(Integer asiento) {
     --estado.NumCartas(asiento, 1);
     bazas.RegistroBazas(asiento + kFilaPalo, estado.NumBaza) = palo;
     bazas.RegistroBazas(asiento + kFilaValor, estado.NumBaza) = valor;
-    for (int campo = 0; campo <= 5; ++campo) {
+    for (int campo = 0; campo <= 5; ++campo)
         estado.Mano(asiento, 1, lugar, campo) = 0;
-    }
     CompactarMano(asiento);
     RedibujarAsiento(asiento);
     const Punto hasta = LugarTendido(palo, valor);
@@ -116,13 +109,11 @@ void ExtiendeCarta(Integer asiento) {
 [[nodiscard]] bool TurnoDeAsiento() {
     SiguienteAsiento(estado.JugadorActual);
     const Integer asiento = estado.JugadorActual;
-    if (EsManual(asiento)) {
+    if (EsManual(asiento))
         SugiereAlEmpezar();
-    }
     PaseDeEventos(Pase::DePaso);
-    if (!PartidaSigue()) {
+    if (!PartidaSigue())
         return false;
-    }
     if (asiento == estado.JugadorMano) {
         ++estado.NumBaza;
         estado.CartasEnBaza = 0;
@@ -130,16 +121,14 @@ void ExtiendeCarta(Integer asiento) {
     ++estado.CartasEnBaza;
     estado.AzarTurno = AzarDeTurno();
     EligeCartaCinquillo();
-    if (bazas.NumJugables == 0) {
+    if (bazas.NumJugables == 0)
         return true;
-    }
     ResaltarAsiento();
     PreparaEleccion(asiento);
     const bool elegida = EsperaEleccion(asiento);
     CierraEleccion();
-    if (!elegida) {
+    if (!elegida)
         return false;
-    }
     ExtiendeCarta(asiento);
     return true;
 }
@@ -153,9 +142,8 @@ Negativos CuentaNegativos() {
     int total = 0;
     for (int asiento = 1; asiento <= 4; ++asiento) {
         Integer& suyos = negativos[static_cast<std::size_t>(asiento)];
-        for (int lugar = 1; lugar <= estado.NumCartas(asiento, 1); ++lugar) {
+        for (int lugar = 1; lugar <= estado.NumCartas(asiento, 1); ++lugar)
             suyos = EnteroDe(suyos + PuntosDeCarta(estado.Mano(asiento, 1, lugar, kValor)));
-        }
         total += suyos;
     }
     negativos[static_cast<std::size_t>(estado.GanadorMano)] = EnteroDe(total);
@@ -165,9 +153,8 @@ Negativos CuentaNegativos() {
 std::string TextoFinal(const Negativos& negativos) {
     std::vector<int> perdedores;
     for (int asiento = 1; asiento <= 4; ++asiento) {
-        if (asiento != estado.GanadorMano) {
+        if (asiento != estado.GanadorMano)
             perdedores.push_back(asiento);
-        }
     }
     const auto puntos = [&](int asiento) { return negativos[static_cast<std::size_t>(asiento)]; };
     std::ranges::stable_sort(perdedores, {}, puntos);
@@ -200,20 +187,17 @@ void RegistraMano(const Negativos& negativos) {
 
 void DescubreManos() {
     for (int asiento = 1; asiento <= 4; ++asiento) {
-        for (int lugar = 1; lugar <= estado.NumCartas(asiento, 1); ++lugar) {
+        for (int lugar = 1; lugar <= estado.NumCartas(asiento, 1); ++lugar)
             estado.Mano(asiento, 1, lugar, kCara) = kDescubierta;
-        }
         RedibujarAsiento(asiento);
     }
 }
 
 void CierraBotones() {
-    for (int boton : {1, 3, 7, 8}) {
+    for (int boton : {1, 3, 7, 8})
         HabilitaBoton(boton, false);
-    }
-    if (estado.SistemaReparto == kRepartoAutomatico) {
+    if (estado.SistemaReparto == kRepartoAutomatico)
         HabilitaBoton(2, false);
-    }
 }
 
 [[nodiscard]] bool CierreDeMano() {
@@ -223,9 +207,8 @@ void CierraBotones() {
     DescubreManos();
     ParpadeaGanador();
     const Negativos negativos = CuentaNegativos();
-    if (!CuentaFinalMano(TextoFinal(negativos))) {
+    if (!CuentaFinalMano(TextoFinal(negativos)))
         return false;
-    }
     RegistraMano(negativos);
     ApuntaMano();
     return true;
@@ -233,16 +216,14 @@ void CierraBotones() {
 
 // One hand from the deal to its record; false when the match was left.
 [[nodiscard]] bool JuegaMano() {
-    if (!IniciarJuego()) {
+    if (!IniciarJuego())
         return false;
-    }
     HabilitaBoton(1, true);
     estado.Juegos(estado.JuegosJugados).Inicio = estado.NombreJugador(estado.JugadorMano);
     PonAntesDelMano();
     do {
-        if (!TurnoDeAsiento()) {
+        if (!TurnoDeAsiento())
             return false;
-        }
     } while (estado.NumCartas(estado.JugadorActual, 1) > 0);
     return CierreDeMano();
 }

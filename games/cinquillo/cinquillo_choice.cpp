@@ -29,25 +29,22 @@ constexpr Rangos kAltos = Bit(6) | Bit(7) | Bit(10) | Bit(11) | Bit(12);
 
 // The ranks that lie farther out than a card, on its side of the 5; on both for the 5 itself.
 constexpr Rangos MasFuera(Integer valor) {
-    if (valor == kCinco) {
+    if (valor == kCinco)
         return kBajos | kAltos;
-    }
     return valor < kCinco ? kBajos & (Bit(valor) - 1) : kAltos & ~((Bit(valor) << 1U) - 1);
 }
 
 // The ranks that may be laid right after a card; none beyond the As and the Rey.
 constexpr Rangos Siguientes(Integer valor) {
-    if (valor == kCinco) {
+    if (valor == kCinco)
         return Bit(4) | Bit(6);
-    }
     return valor < kCinco ? Bit(valor - 1) : Bit(valor == 7 ? 10 : valor + 1);
 }
 
 // What the seat keeps from the others, once the card is laid, by holding the next one outward.
 Rangos Cerrados(Rangos propios, Integer valor) {
-    if (valor == kCinco) {
+    if (valor == kCinco)
         return ((propios & Bit(4)) != 0 ? kBajos : 0) | ((propios & Bit(6)) != 0 ? kAltos : 0);
-    }
     return (propios & Siguientes(valor)) != 0 ? MasFuera(valor) : 0;
 }
 
@@ -65,9 +62,8 @@ Integer DistanciaMedia(Integer valor, Rangos rangos) {
 }
 
 Integer HaciaElCinco(Integer valor) {
-    if (valor < kCinco) {
+    if (valor < kCinco)
         return static_cast<Integer>(valor + 1);
-    }
     return static_cast<Integer>(valor == 10 ? 7 : valor - 1);
 }
 
@@ -76,16 +72,13 @@ Integer Valora(Integer asiento, Rangos propios, Integer valor) {
     const Integer nivel = estado.NivelJugador(asiento);
     Rangos mios = MasFuera(valor) & propios;
     Rangos ajenos = MasFuera(valor) & ~propios;
-    if (nivel >= kNivelVeSiguiente) {
+    if (nivel >= kNivelVeSiguiente)
         mios &= ~Siguientes(valor);
-    }
-    if (nivel >= kNivelCuentaPropias) {
+    if (nivel >= kNivelCuentaPropias)
         ajenos &= ~Cerrados(propios, valor);
-    }
     Integer contra = DistanciaMedia(valor, ajenos);
-    if (estado.CaracterJugador(asiento) == kAgresivo) {
+    if (estado.CaracterJugador(asiento) == kAgresivo)
         contra = Redondea(contra * kPesoAjenoAgresivo);
-    }
     return EnteroDe(DistanciaMedia(valor, mios) * 100 + 28 - contra);
 }
 
@@ -119,9 +112,8 @@ void MeteJugable(Integer valor, int lugar) {
 
 int LugarEnLista(Integer nivel) {
     const double azar = estado.AzarTurno;
-    if (nivel < kNivelSinRuido && ParteEntera(azar * 100 + 1) > nivel) {
+    if (nivel < kNivelSinRuido && ParteEntera(azar * 100 + 1) > nivel)
         return std::min<int>(ParteEntera(bazas.NumJugables * azar + 1), bazas.NumJugables);
-    }
     return 1;
 }
 
@@ -133,9 +125,8 @@ bool EsJugable(Integer palo, Integer valor) {
 
 void EligeCartaCinquillo() {
     const Integer asiento = estado.JugadorActual;
-    if (estado.TutorPulsado) {
+    if (estado.TutorPulsado)
         estado.NivelJugador(asiento) = 100;
-    }
     bazas.CartasJugables.Borra();
     bazas.NumJugables = 0;
     const RangosPorPalo rangos = RangosDeLaMano(asiento);
@@ -144,9 +135,8 @@ void EligeCartaCinquillo() {
         const Integer* carta = CamposDe(asiento, lugar);
         const Integer palo = carta[kPalo];
         const Integer valor = carta[kValor];
-        if (EsJugable(palo, valor)) {
+        if (EsJugable(palo, valor))
             MeteJugable(Valora(asiento, rangos(palo), valor), lugar);
-        }
     }
     estado.CartaElegida = bazas.NumJugables == 0
                               ? Integer{0}
@@ -155,9 +145,8 @@ void EligeCartaCinquillo() {
 
 bool LugarJugable(int lugar) {
     for (int sitio = 1; sitio <= bazas.NumJugables; ++sitio) {
-        if (bazas.CartasJugables(sitio, 2) == lugar) {
+        if (bazas.CartasJugables(sitio, 2) == lugar)
             return true;
-        }
     }
     return false;
 }

@@ -38,15 +38,13 @@ void LimpiaColumna(Lienzo& mesa, Integer palo) {
     int arriba = 0;
     int abajo = 0;
     for (Integer valor = 12; valor >= 1; --valor) {
-        if (bazas.CartaJugada(palo, valor) == 0) {
+        if (bazas.CartaJugada(palo, valor) == 0)
             continue;
-        }
         abajo = LugarTendido(palo, valor).y + kAltoCarta;
         arriba = arriba == 0 ? abajo - kAltoCarta : arriba;
     }
-    if (abajo > 0) {
+    if (abajo > 0)
         mesa.Fieltro({LugarTendido(palo, 1).x, arriba, kAnchoCarta, abajo - arriba});
-    }
 }
 
 } // namespace
@@ -57,18 +55,15 @@ Punto LugarTendido(Integer palo, Integer valor) {
 }
 
 void PintaTendido() {
-    if (!plataforma().HayPantalla()) {
+    if (!plataforma().HayPantalla())
         return;
-    }
     Lienzo& mesa = plataforma().LienzoDe(Control::Mesa, 0);
-    for (Integer palo = kOros; palo <= kBastos; ++palo) {
+    for (Integer palo = kOros; palo <= kBastos; ++palo)
         LimpiaColumna(mesa, palo);
-    }
     for (Integer palo = kOros; palo <= kBastos; ++palo) {
         for (Integer valor = 12; valor >= 1; --valor) {
-            if (bazas.CartaJugada(palo, valor) == 0) {
+            if (bazas.CartaJugada(palo, valor) == 0)
                 continue;
-            }
             const Punto lugar = LugarTendido(palo, valor);
             mesa.Carta(lugar.x, lugar.y,
                        {.palo = palo, .valor = valor, .cara = kDescubierta, .orientacion = 1});

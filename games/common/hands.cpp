@@ -26,24 +26,21 @@ bool EnEquipo(int asiento, Integer ganador) {
 }
 
 void SueltaJuegoMasAntiguo() {
-    for (int juego = 1; juego < estado.JuegosJugados; ++juego) {
+    for (int juego = 1; juego < estado.JuegosJugados; ++juego)
         estado.Juegos(juego) = std::move(estado.Juegos(juego + 1));
-    }
     estado.Juegos(estado.JuegosJugados) = {};
     --estado.JuegosJugados;
 }
 
 void CuentaJuego() {
-    if (estado.JuegosJugados > kJuegosGuardados) {
+    if (estado.JuegosJugados > kJuegosGuardados)
         SueltaJuegoMasAntiguo();
-    }
     ++estado.JuegosJugados;
     sesion.mano_apuntada = false;
     for (int paso = 0; estado.JuegosJugados > 1 && paso < 4; ++paso) {
         SiguienteAsiento(estado.JugadorMano);
-        if (estado.EstadoJugador(estado.JugadorMano) == kActivado) {
+        if (estado.EstadoJugador(estado.JugadorMano) == kActivado)
             return;
-        }
     }
 }
 
@@ -85,9 +82,8 @@ void PonMesaDeMano() {
     BorraBazas();
     LimpiarMesa();
     MostrarNombres();
-    for (int asiento = 1; asiento <= 4; ++asiento) {
+    for (int asiento = 1; asiento <= 4; ++asiento)
         RedibujarAsiento(asiento);
-    }
 }
 
 // A manual deal that a change of the rules has broken off is dealt again, by whatever system holds by then.
@@ -96,9 +92,8 @@ void PonMesaDeMano() {
     do {
         PonMesaDeMano();
         a_mano = estado.SistemaReparto == kRepartoManual;
-        if (!Repartir()) {
+        if (!Repartir())
             return false;
-        }
     } while (a_mano && !RepartoCompleto());
     return true;
 }
@@ -114,9 +109,8 @@ bool AlguienManual() {
 }
 
 bool GanaLaPartida(Integer ganador) {
-    if (estado.JuegosGanados(ganador) < estado.LimitePartida) {
+    if (estado.JuegosGanados(ganador) < estado.LimitePartida)
         return false;
-    }
     estado.GanadorPartida = ganador;
     return true;
 }
@@ -139,16 +133,13 @@ void PonAltura(Integer altura) {
 bool IniciarJuego(void (*al_descubrir)()) {
     AplicaReglasPendientes();
     CuentaJuego();
-    if (!RepartirHastaCompletar()) {
+    if (!RepartirHastaCompletar())
         return false;
-    }
-    if (al_descubrir != nullptr) {
+    if (al_descubrir != nullptr)
         al_descubrir();
-    }
     estado.ManoEnCurso = true;
-    for (int boton : {2, 3, 7, 8}) {
+    for (int boton : {2, 3, 7, 8})
         HabilitaBoton(boton, true);
-    }
     return true;
 }
 
@@ -162,9 +153,8 @@ void ParpadeaGanador() {
     for (int vez = 0; vez < 4; ++vez) {
         for (const bool visible : {true, false}) {
             for (int asiento = 1; asiento <= 4; ++asiento) {
-                if (EnEquipo(asiento, estado.GanadorMano)) {
+                if (EnEquipo(asiento, estado.GanadorMano))
                     MarcaGanador(asiento, visible);
-                }
             }
             Pausa(visible ? 490 : 200);
         }
@@ -183,9 +173,8 @@ std::string TextoGana(Integer ganador, const std::string& que) {
 bool CuentaFinalMano(const std::string& texto) {
     Pausa(750);
     Mensaje("Final de la mano", texto, LineasDe(texto), 1);
-    if (estado.PausaEntreJugadas || AlguienManual()) {
+    if (estado.PausaEntreJugadas || AlguienManual())
         return EsperaContinuar();
-    }
     PaseDeEventos(Pase::DePaso);
     Pausa(500);
     return PartidaSigue();
@@ -204,17 +193,15 @@ void FinalPartida() {
     OcultarContinuar();
     estado.PartidaEnCurso = false;
     GuardarPartida();
-    for (int boton : {7, 1, 3}) {
+    for (int boton : {7, 1, 3})
         HabilitaBoton(boton, true);
-    }
 }
 
 void JuegaPartida(bool (*mano)()) {
     bool ganada = YaGanada();
     while (!ganada) {
-        if (!mano()) {
+        if (!mano())
             return;
-        }
         ganada = GanaLaPartida(estado.GanadorMano);
     }
     FinalPartida();
@@ -222,9 +209,8 @@ void JuegaPartida(bool (*mano)()) {
 
 void AconsejaCarta(void (*elige)()) {
     elige();
-    if (estado.CartaElegida == 0) {
+    if (estado.CartaElegida == 0)
         return;
-    }
     for (int vez = 0; vez < 2; ++vez) {
         PonAltura(kLevantada);
         Pausa(180);

@@ -19,20 +19,17 @@ bool PuedePedir(int asiento) {
 } // namespace
 
 void PonBotonesDeSerie(int asiento) {
-    if (asiento != estado.JugadorActual) {
+    if (asiento != estado.JugadorActual)
         return;
-    }
     for (int indice = 1; indice <= 2; ++indice) {
-        if (PuedePedir(asiento)) {
+        if (PuedePedir(asiento))
             BotonSuperior(asiento, 1, indice);
-        } else {
+        else
             Oculta(Control::Pic_BotSuperior, indice);
-        }
-        if (estado.SeriesJugador(asiento) > 1) {
+        if (estado.SeriesJugador(asiento) > 1)
             BotonLateral(asiento, 1, indice);
-        } else {
+        else
             Oculta(Control::Pic_BotLateral, indice);
-        }
     }
 }
 
@@ -51,7 +48,6 @@ void RotuloDeSerie(std::string& primera, std::string& segunda) {
     }
     primera = fase == kFaseApuestas ? "Apuesta" : "Juega";
     segunda = estado.NombreJugador(asiento);
-    if (estado.SeriesJugador(asiento) > 1) {
+    if (estado.SeriesJugador(asiento) > 1)
         segunda += " (" + Numero(estado.SerieActual) + ")";
-    }
 }

@@ -21,9 +21,8 @@ constexpr int kCartas = 5;
 // OrdenCarta runs the other way here, from rank slot to rank: slots 1 to 12 hold the 2 to the Rey and slot 13
 // the As, the highest.
 void PonFuerzas() {
-    for (int fuerza = 1; fuerza <= 12; ++fuerza) {
+    for (int fuerza = 1; fuerza <= 12; ++fuerza)
         estado.OrdenCarta(fuerza) = EnteroDe(fuerza + 1);
-    }
     estado.OrdenCarta(13) = 1;
 }
 
@@ -35,9 +34,8 @@ void PreparaBaraja() {
                 .reparto = kCartas,
                 .paso = 1,
                 .max_mano = kCartas});
-    for (int valor = 2; valor <= estado.CartasBaraja; ++valor) {
+    for (int valor = 2; valor <= estado.CartasBaraja; ++valor)
         estado.ValorEnBaraja(valor) = false;
-    }
     PonFuerzas();
 }
 
@@ -56,13 +54,11 @@ bool RecibeAMano(Integer asiento) {
 // What is left of an earlier mixing moves to the first places behind the deck: those already dealt are free.
 int JuntaLoQueQueda() {
     int detras = estado.TotalBaraja + 1;
-    if (estado.PosicionMazo <= detras) {
+    if (estado.PosicionMazo <= detras)
         return estado.PosicionMazo + estado.CartasEnMazo;
-    }
     for (int i = 0; i < estado.CartasEnMazo; ++i, ++detras) {
-        for (int campo = 1; campo <= 2; ++campo) {
+        for (int campo = 1; campo <= 2; ++campo)
             estado.Baraja(detras, campo) = estado.Baraja(estado.PosicionMazo + i, campo);
-        }
     }
     estado.PosicionMazo = EnteroDe(estado.TotalBaraja + 1);
     return detras;
@@ -77,9 +73,8 @@ void MezclaDescartes(Integer /*asiento*/, Integer n) {
         3, 1);
     const int mezcladas = std::max(estado.NumDescartes - n, 0);
     const int primero = JuntaLoQueQueda();
-    for (int lugar = primero; lugar < primero + mezcladas; ++lugar) {
+    for (int lugar = primero; lugar < primero + mezcladas; ++lugar)
         estado.Baraja(lugar, 1) = kSinCarta;
-    }
     for (int i = 1; i <= mezcladas; ++i) {
         int lugar = 0;
         do {
@@ -90,9 +85,8 @@ void MezclaDescartes(Integer /*asiento*/, Integer n) {
     }
     // The seat's own discards are the first of the new pile.
     for (int i = 1; i <= estado.NumDescartes - mezcladas; ++i) {
-        for (int campo = 1; campo <= 2; ++campo) {
+        for (int campo = 1; campo <= 2; ++campo)
             estado.Descartes(i, campo) = estado.Descartes(mezcladas + i, campo);
-        }
     }
     estado.NumDescartes = n;
     estado.CartasEnMazo = EnteroDe(estado.CartasEnMazo + mezcladas);
@@ -100,9 +94,8 @@ void MezclaDescartes(Integer /*asiento*/, Integer n) {
 
 bool HayCartaLevantada(Integer asiento) {
     for (int lugar = 1; lugar <= estado.NumCartas(asiento, 1); ++lugar) {
-        if (estado.Mano(asiento, 1, lugar, kAltura) == kLevantada) {
+        if (estado.Mano(asiento, 1, lugar, kAltura) == kLevantada)
             return true;
-        }
     }
     return false;
 }

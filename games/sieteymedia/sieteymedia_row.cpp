@@ -20,9 +20,8 @@ void PreparaBaraja() {
     PonReglasDeBanca();
     for (int valor = 1; valor <= 7; ++valor) {
         estado.ValorCarta(valor) = valor;
-        if (valor <= 3) {
+        if (valor <= 3)
             estado.ValorCarta(valor + 9) = Currency::DeDiezmilesimas(Currency::kUnidad / 2);
-        }
     }
 }
 
@@ -54,13 +53,11 @@ void VolteaSerie(int /*lugar*/) {
     const Integer asiento = estado.JugadorActual;
     const Integer serie = estado.SerieActual;
     Sonido(0, kSonidoPosa);
-    for (int lugar = 1; lugar <= estado.NumCartas(asiento, serie); ++lugar) {
+    for (int lugar = 1; lugar <= estado.NumCartas(asiento, serie); ++lugar)
         estado.Mano(asiento, serie, lugar, kTapada) = 0;
-    }
     RedibujarAsiento(asiento);
-    if (PuntosSerie(asiento, serie) == kSieteYMediaJusto) {
+    if (PuntosSerie(asiento, serie) == kSieteYMediaJusto)
         estado.EsperandoJugada = false;
-    }
 }
 
 TextosSorteo Textos() {

@@ -26,9 +26,8 @@ protected:
         estado.JugadorActual = 2;
         estado.NombreJugador(2) = "Ana";
         estado.NombreJugador(4) = "Luis";
-        for (int asiento = 1; asiento <= 4; ++asiento) {
+        for (int asiento = 1; asiento <= 4; ++asiento)
             estado.SeriesJugador(asiento) = 1;
-        }
     }
     void TearDown() override { estado = {}; }
 
@@ -36,9 +35,8 @@ protected:
         estado.FaseApuesta = fase;
         Rotulo rotulo{estado.NombreJugador(estado.JugadorActual), "automático"};
         const FilaJuego& fila = *FilaDe(juego);
-        if (fila.rotulo_continuar != nullptr) {
+        if (fila.rotulo_continuar != nullptr)
             fila.rotulo_continuar(rotulo.primera, rotulo.segunda);
-        }
         return rotulo;
     }
 };
@@ -76,9 +74,8 @@ TEST_F(RotulosContinuar, BankGamesSayTheStageAndTheSerieOfSeveral) {
 TEST_F(RotulosContinuar, ManualSeatIsOfferedToBePlayedForInEveryGame) {
     estado.JugadorActual = 4;
     for (const FilaJuego* fila : FilasDeJuegos()) {
-        for (Integer fase : {Integer{2}, Integer{4}}) {
+        for (Integer fase : {Integer{2}, Integer{4}})
             EXPECT_EQ(DeJuego(fila->id, fase), (Rotulo{"Luis", "automático"})) << fila->nombre;
-        }
     }
 }
 
