@@ -15,22 +15,17 @@
 namespace {
 
 constexpr int kSonidoBoton = 9;
-constexpr int kBotonTutor = 4;
 
 void BotonNueva() {
     if (ConfirmarNueva())
         sesion.peticion = Peticion::NuevaPartida;
 }
 
-void BotonPersonal() {
+// The forms that change what is played.
+template <Forma forma>
+void BotonDeForma() {
     AntesDeLaForma();
-    plataforma().Abre(Forma::Personal);
-    TrasLaForma();
-}
-
-void BotonNormas() {
-    AntesDeLaForma();
-    plataforma().Abre(Forma::Normas);
+    plataforma().Abre(forma);
     TrasLaForma();
 }
 
@@ -63,9 +58,15 @@ void BotonEstadistica() {
 }
 
 using Accion = void (*)();
-constexpr Accion kAcciones[] = {nullptr,     BotonNueva, BotonPersonal,
-                                BotonNormas, BotonTutor, BotonInforme,
-                                BotonAyuda,  BotonSalir, BotonEstadistica};
+constexpr Accion kAcciones[] = {nullptr,
+                                BotonNueva,
+                                BotonDeForma<Forma::Personal>,
+                                BotonDeForma<Forma::Normas>,
+                                BotonTutor,
+                                BotonInforme,
+                                BotonAyuda,
+                                BotonSalir,
+                                BotonEstadistica};
 
 // What hangs on the pointer goes back to its place before anything else happens.
 void SueltaLoColgado() {
@@ -130,12 +131,12 @@ void Tecla(int tecla) {
     if (estado.PartidaEnCurso)
         PulsaContinuar();
     else
-        PulsaBoton(1);
+        PulsaBoton(kBotonNueva);
 }
 
 void CierraVentana() {
-    if (BotonHabilitado(7))
-        PulsaBoton(7);
+    if (BotonHabilitado(kBotonSalir))
+        PulsaBoton(kBotonSalir);
     else
         sesion.cierre_pendiente = true;
 }
@@ -172,7 +173,7 @@ void DespachaEvento(const Evento& evento) {
 }
 
 void PulsaBoton(int indice) {
-    if (indice < 1 || indice > 8 || !BotonHabilitado(indice))
+    if (indice < kBotonNueva || indice > kBotonEstadis || !BotonHabilitado(indice))
         return;
     SueltaLoColgado();
     Oculta(Control::Pic_SelOpciones);

@@ -60,7 +60,7 @@ void AnunciaContinuacion() {
     Mensaje("Continuar la partida anterior",
             "Continua  el  desarrollo  de  la  partida  que  no  finalizó en la sesión anterior.",
             2, 1);
-    HabilitaBoton(1, true);
+    HabilitaBoton(kBotonNueva, true);
 }
 
 // What one hand hands on to the next is nothing at the beginning of a match or of a session.
@@ -138,7 +138,7 @@ void IniciarSesion() {
     if (estado.PartidaEnCurso)
         ReanudaPartida();
     else
-        HabilitaBoton(3, true);
+        HabilitaBoton(kBotonNormas, true);
 }
 
 void NuevaPartida() {
@@ -159,7 +159,7 @@ void NuevaPartida() {
     GuardarPartida();
     if (juego.sortea_inicio && !SorteoInicial())
         return;
-    HabilitaBoton(1, true);
+    HabilitaBoton(kBotonNueva, true);
     GuardarPartida();
     juego.driver();
 }

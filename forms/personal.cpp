@@ -16,7 +16,6 @@ namespace personal {
 namespace {
 
 constexpr Integer kBanca = 2; // the seat that holds the bank of Black Jack
-constexpr int kBotonTutor = 4;
 constexpr Integer kVentanaCerrada = 2;
 
 constexpr const char* kNoSeCambia = "Selector desactivado";

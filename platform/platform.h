@@ -36,6 +36,10 @@ enum class Control {
     Ultimo = Pic_APBotAnular,
 };
 
+// The main buttons: the indices of Pic_Boton.
+inline constexpr int kBotonNueva = 1, kBotonPersonal = 2, kBotonNormas = 3, kBotonTutor = 4,
+                     kBotonMarcador = 5, kBotonAyuda = 6, kBotonSalir = 7, kBotonEstadis = 8;
+
 // The name of a control as the game writes it ("Pic_BotContinuar"), and the control of a name.
 const char* NombreDe(Control control);
 std::optional<Control> ControlDe(std::string_view nombre);

@@ -1,6 +1,7 @@
 #include "table/button_column.h"
 
 #include <array>
+#include <optional>
 #include <string>
 
 #include "core/game_state.h"
@@ -22,34 +23,25 @@ constexpr Fuente kLetraContinuar{.alto = 12, .negrita = true, .tope = 78};
 struct BotonPrincipal {
     int x, y;
     const char* nombre;
+    // What it opens, where that may not be there.
+    std::optional<Forma> forma = std::nullopt;
 };
 
 constexpr std::array<BotonPrincipal, 9> kBotones{{
     {0, 0, ""},
     {20, 5, "Nueva partida"},
-    {24, 125, "Personalizar"},
-    {20, 65, "Normas"},
+    {24, 125, "Personalizar", Forma::Personal},
+    {20, 65, "Normas", Forma::Normas},
     {20, 245, "Tutor de juego"},
-    {20, 305, "Marcador"},
+    {20, 305, "Marcador", Forma::Marcador},
     {20, 365, "Ayuda"},
     {20, 425, "Salir"},
-    {20, 185, "Estadísticas"},
+    {20, 185, "Estadísticas", Forma::Estadis},
 }};
 
-// The button's form, where it opens one that may not be there.
 bool TieneLoSuyo(int boton) {
-    switch (boton) {
-    case 2:
-        return plataforma().TieneForma(Forma::Personal);
-    case 3:
-        return plataforma().TieneForma(Forma::Normas);
-    case 5:
-        return plataforma().TieneForma(Forma::Marcador);
-    case 8:
-        return plataforma().TieneForma(Forma::Estadis);
-    default:
-        return true;
-    }
+    const std::optional<Forma> forma = kBotones.at(static_cast<std::size_t>(boton)).forma;
+    return !forma || plataforma().TieneForma(*forma);
 }
 
 void PintaBoton(int boton) {

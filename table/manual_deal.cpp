@@ -88,9 +88,9 @@ void CentraReparto() {
 void PreparaMesa() {
     estado.CursorTabla = 0;
     CambiarCursor(Control::Mesa, 0, Puntero::Flecha);
-    HabilitaBoton(7, true);
-    HabilitaBoton(4, false);
-    HabilitaBoton(8, false);
+    HabilitaBoton(kBotonSalir, true);
+    HabilitaBoton(kBotonTutor, false);
+    HabilitaBoton(kBotonEstadis, false);
     estado.RepartoEnCurso = true;
     estado.ArrastraReparto = false;
     estado.FilasReparto = static_cast<Integer>(estado.ComodinesBaraja > 0 ? 5 : 4);
@@ -183,8 +183,8 @@ bool RepartirAMano() {
     for (int asiento = 1; asiento <= 4; ++asiento)
         RedibujarAsiento(asiento);
     MostrarNombres();
-    HabilitaBoton(1, true);
-    HabilitaBoton(3, true);
+    HabilitaBoton(kBotonNueva, true);
+    HabilitaBoton(kBotonNormas, true);
     const FilaJuego& juego = JuegoEnMesa();
     estado.JugadoresEnMano =
         juego.cuenta_reparto != nullptr ? juego.cuenta_reparto() : estado.NumJugadores;

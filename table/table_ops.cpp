@@ -64,7 +64,8 @@ void CalcularMesa() {
     ColocarMazo();
     ColocaColumna();
     for (int boton = 1; boton <= 8; ++boton)
-        HabilitaBoton(boton, boton != 3 && boton != 4 && boton != 8);
+        HabilitaBoton(boton,
+                      boton != kBotonNormas && boton != kBotonTutor && boton != kBotonEstadis);
     PintaColumna();
 }
 

@@ -27,8 +27,8 @@ void RegistraDespacho(Despacho despacho) {
 }
 
 void AtiendeCierrePendiente() {
-    const bool toca =
-        sesion.cierre_pendiente && BotonHabilitado(7) && sesion.peticion == Peticion::Ninguna;
+    const bool toca = sesion.cierre_pendiente && BotonHabilitado(kBotonSalir) &&
+                      sesion.peticion == Peticion::Ninguna;
     if (!toca)
         return;
     sesion.cierre_pendiente = false;

@@ -29,7 +29,6 @@ namespace {
 
 constexpr int kTipTutor = 50, kTipReglas = 15;
 constexpr int kFilaPalo = 5, kFilaValor = 10; // rows of RegistroBazas before seat 1
-constexpr int kBotonTutor = 4;
 
 using Negativos = std::array<Integer, 5>;
 
@@ -197,7 +196,7 @@ void CierraBotones() {
     for (int boton : {1, 3, 7, 8})
         HabilitaBoton(boton, false);
     if (estado.SistemaReparto == kRepartoAutomatico)
-        HabilitaBoton(2, false);
+        HabilitaBoton(kBotonPersonal, false);
 }
 
 [[nodiscard]] bool CierreDeMano() {
@@ -218,7 +217,7 @@ void CierraBotones() {
 [[nodiscard]] bool JuegaMano() {
     if (!IniciarJuego())
         return false;
-    HabilitaBoton(1, true);
+    HabilitaBoton(kBotonNueva, true);
     estado.Juegos(estado.JuegosJugados).Inicio = estado.NombreJugador(estado.JugadorMano);
     PonAntesDelMano();
     do {

@@ -138,7 +138,7 @@ bool IniciarJuego(void (*al_descubrir)()) {
     if (al_descubrir != nullptr)
         al_descubrir();
     estado.ManoEnCurso = true;
-    for (int boton : {2, 3, 7, 8})
+    for (int boton : {kBotonPersonal, kBotonNormas, kBotonSalir, kBotonEstadis})
         HabilitaBoton(boton, true);
     return true;
 }
@@ -193,7 +193,7 @@ void FinalPartida() {
     OcultarContinuar();
     estado.PartidaEnCurso = false;
     GuardarPartida();
-    for (int boton : {7, 1, 3})
+    for (int boton : {kBotonSalir, kBotonNueva, kBotonNormas})
         HabilitaBoton(boton, true);
 }
 

@@ -13,7 +13,6 @@
 namespace {
 
 constexpr int kSerie = 1;
-constexpr int kBotonNueva = 1;
 
 [[nodiscard]] bool EmpiezaMano() {
     if (!IniciarJuego(DescubreTriunfo))

@@ -18,7 +18,6 @@
 namespace {
 
 constexpr int kSerie = 1;
-constexpr int kBotonTutor = 4;
 
 bool EsManual(Integer asiento) {
     return estado.ControlJugador(asiento) == kManual;

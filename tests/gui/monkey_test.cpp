@@ -471,7 +471,7 @@ class PruebaMono : public QObject {
         if (estado.RepartoEnCurso)
             Arrastra(PuntoDelReparto(), PuntoDeZona(1 + Hasta(3)));
         else if (!estado.PartidaEnCurso)
-            Clic(PuntoDe(Control::Pic_Boton, 1), Qt::LeftButton);
+            Clic(PuntoDe(Control::Pic_Boton, kBotonNueva), Qt::LeftButton);
         else if (DeCada(3))
             Clic(PuntoDeCarta(estado.JugadorActual == 0 ? 4 : estado.JugadorActual),
                  Qt::LeftButton);

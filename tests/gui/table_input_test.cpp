@@ -269,8 +269,8 @@ private Q_SLOTS:
         visto = Puntero::Flecha;
         mesa_->PonForma(Forma::Marcador,
                         [](QWidget*) { visto = mesa->PunteroDe(Control::Mesa, 0); });
-        HabilitaBoton(5, true);
-        QTest::mouseClick(Vista(Control::Pic_Boton, 5), Qt::LeftButton);
+        HabilitaBoton(kBotonMarcador, true);
+        QTest::mouseClick(Vista(Control::Pic_Boton, kBotonMarcador), Qt::LeftButton);
         Pasa();
         QVERIFY(visto == Puntero::RelojArena);
         QVERIFY(ElPuntero() == Puntero::Flecha);
@@ -434,12 +434,12 @@ private Q_SLOTS:
 
     void UnBotonDevuelveLoQueCuelga() {
         PonReparto();
-        HabilitaBoton(6, true);
+        HabilitaBoton(kBotonAyuda, true);
         Aprieta(EnLugarDelReparto(kOros, 2));
         QVERIFY(estado.ArrastraReparto);
         mesa_->PonForma(Forma::Marcador, [](QWidget*) {});
-        HabilitaBoton(5, true);
-        Vista(Control::Pic_Boton, 5)->Pulsa();
+        HabilitaBoton(kBotonMarcador, true);
+        Vista(Control::Pic_Boton, kBotonMarcador)->Pulsa();
         Pasa();
         QVERIFY(!estado.ArrastraReparto && estado.CartaEnReparto(kOros, 2));
         QVERIFY(Vista(Control::Pic_Mover) == nullptr);

@@ -189,8 +189,8 @@ private Q_SLOTS:
 
     void UnBotonQueSeEscondeDevuelveElFocoALaMesa() {
         PonContinuar();
-        mesa_->Coloca(Control::Pic_Boton, 1, {20, 5, 50, 50});
-        mesa_->Muestra(Control::Pic_Boton, 1, true);
+        mesa_->Coloca(Control::Pic_Boton, kBotonNueva, {20, 5, 50, 50});
+        mesa_->Muestra(Control::Pic_Boton, kBotonNueva, true);
         Boton("Pic_BotContinuar")->setFocus();
         mesa_->Muestra(Control::Pic_BotContinuar, 0, false);
         QCOMPARE(QApplication::focusWidget(), Tapete());

@@ -185,7 +185,7 @@ TEST_F(Arranque, CancelarEnLaPantallaEstrechaNoLlegaALaMesa) {
 
 TEST_F(Arranque, UnaTeclaEmpiezaUnaPartidaYElBotonDeSalirAcaba) {
     escritorio.guion.Tecla('n');
-    escritorio.guion.PulsaControl({Control::Pic_Boton, 7});
+    escritorio.guion.PulsaControl({Control::Pic_Boton, kBotonSalir});
     EXPECT_EQ(ArrancaPrograma(), 0);
     EXPECT_THAT(TitulosDichos(), testing::Contains("Comienza la Partida"));
     EXPECT_EQ(TitulosDichos().back(), "Posponer la partida en curso");

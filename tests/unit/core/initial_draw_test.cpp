@@ -129,7 +129,7 @@ TEST_F(Sorteo, LaPartidaQueSeDejaCortaElSorteo) {
     SorteoSera({kSiete, kSeis, kTresOros, kAsOros});
     estado.JugadorMano = 2;
     p.traviesa = true;
-    p.guion.PulsaControl({Control::Pic_Boton, 7});
+    p.guion.PulsaControl({Control::Pic_Boton, kBotonSalir});
     EmpiezaTraza();
     EXPECT_FALSE(SorteoInicial());
     EXPECT_EQ(TrazaDe("MoverCarta").size(), 1U);

@@ -22,9 +22,6 @@ using testing::Not;
 
 namespace {
 
-constexpr int kNueva = 1, kPersonal = 2, kNormas = 3, kTutor = 4, kInforme = 5, kAyuda = 6,
-              kSalir = 7, kEstadistica = 8;
-
 struct Botones : MesaViva {
     Botones() {
         p.formas = {Forma::Personal, Forma::Normas, Forma::Marcador, Forma::Estadis};
@@ -87,10 +84,10 @@ TEST_F(Botones, UnNumeroQueNoEsBotonTampoco) {
 }
 
 TEST_F(Botones, TodosSuenanMenosElTutor) {
-    PulsaBoton(kAyuda);
+    PulsaBoton(kBotonAyuda);
     EXPECT_THAT(p.sonidos, ElementsAre(SonidoPedido{9, true}));
     p.sonidos.clear();
-    PulsaBoton(kTutor);
+    PulsaBoton(kBotonTutor);
     EXPECT_THAT(p.sonidos, Not(Contains(SonidoPedido{9, true})));
 }
 
@@ -98,7 +95,7 @@ TEST_F(Botones, DejanDeOrdenarEscondenElMenuYDevuelvenLaFlecha) {
     estado.ModoOrdenar = true;
     estado.CursorTabla = 2;
     p.Muestra(Control::Pic_SelOpciones, 0, true);
-    PulsaBoton(kAyuda);
+    PulsaBoton(kBotonAyuda);
     EXPECT_FALSE(estado.ModoOrdenar);
     EXPECT_FALSE(p.EstaVisible(Control::Pic_SelOpciones, 0));
     EXPECT_EQ(estado.CursorTabla, 0);
@@ -108,12 +105,12 @@ TEST_F(Botones, DejanDeOrdenarEscondenElMenuYDevuelvenLaFlecha) {
 TEST_F(Botones, MientrasDuraSuAccionEstaElReloj) {
     Puntero durante = Puntero::Flecha;
     p.al_abrir = [&](Forma) { durante = PunteroEnMesa(); };
-    PulsaBoton(kInforme);
+    PulsaBoton(kBotonMarcador);
     EXPECT_EQ(durante, Puntero::RelojArena);
 }
 
 TEST_F(Botones, NuevaSinPartidaNoPregunta) {
-    PulsaBoton(kNueva);
+    PulsaBoton(kBotonNueva);
     EXPECT_EQ(sesion.peticion, Peticion::NuevaPartida);
     EXPECT_THAT(p.mensajes, IsEmpty());
 }
@@ -121,7 +118,7 @@ TEST_F(Botones, NuevaSinPartidaNoPregunta) {
 TEST_F(Botones, NuevaConPartidaPreguntaSiSeAbandona) {
     estado.PartidaEnCurso = true;
     p.respuestas = {Boton::No};
-    PulsaBoton(kNueva);
+    PulsaBoton(kBotonNueva);
     EXPECT_EQ(sesion.peticion, Peticion::Ninguna);
     ASSERT_EQ(p.mensajes.size(), 1U);
     EXPECT_EQ(p.mensajes[0].titulo, "Abandonar la partida en curso");
@@ -130,14 +127,14 @@ TEST_F(Botones, NuevaConPartidaPreguntaSiSeAbandona) {
         "¿Desea  abandonar  la  partida  que  está  jugando  para comenzar una nueva partida?");
     EXPECT_EQ(p.mensajes[0].lineas, 2);
     EXPECT_EQ(p.mensajes[0].modo, 2);
-    PulsaBoton(kNueva);
+    PulsaBoton(kBotonNueva);
     EXPECT_EQ(sesion.peticion, Peticion::NuevaPartida);
 }
 
 TEST_F(Botones, PersonalizarEsModalYGuarda) {
     bool modal = false;
     p.al_abrir = [&](Forma) { modal = estado.VentanaModal; };
-    PulsaBoton(kPersonal);
+    PulsaBoton(kBotonPersonal);
     EXPECT_THAT(p.formas_abiertas, ElementsAre(Forma::Personal));
     EXPECT_TRUE(modal);
     EXPECT_FALSE(estado.VentanaModal);
@@ -152,19 +149,19 @@ TEST_F(Botones, ConOtrosJugadoresEmpiezaUnaPartidaConSuBaraja) {
         ActivarAsientos();
         estado.JugadoresCambiados = true;
     };
-    PulsaBoton(kPersonal);
+    PulsaBoton(kBotonPersonal);
     EXPECT_EQ(estado.TotalBaraja, 36);
     EXPECT_EQ(sesion.peticion, Peticion::NuevaPartida);
 }
 
 TEST_F(Botones, ElCambioDeJugadoresDeOtraVezNoCuenta) {
     estado.JugadoresCambiados = true;
-    PulsaBoton(kPersonal);
+    PulsaBoton(kBotonPersonal);
     EXPECT_EQ(sesion.peticion, Peticion::Ninguna);
 }
 
 TEST_F(Botones, LasNormasDelMismoJuegoSoloGuardan) {
-    PulsaBoton(kNormas);
+    PulsaBoton(kBotonNormas);
     EXPECT_THAT(p.formas_abiertas, ElementsAre(Forma::Normas));
     EXPECT_TRUE(EstaGuardado());
     EXPECT_EQ(sesion.peticion, Peticion::Ninguna);
@@ -172,22 +169,22 @@ TEST_F(Botones, LasNormasDelMismoJuegoSoloGuardan) {
 
 TEST_F(Botones, OtroJuegoEnLasNormasPideSuSesion) {
     p.al_abrir = [](Forma) { estado.JuegoActivo = kTute; };
-    PulsaBoton(kNormas);
+    PulsaBoton(kBotonNormas);
     EXPECT_EQ(estado.JuegoPrevio, kCinquillo);
     EXPECT_EQ(sesion.peticion, Peticion::NuevaSesion);
 }
 
 TEST_F(Botones, ElInformeSeAbreSiempreYLaEstadisticaConJuegos) {
-    PulsaBoton(kInforme);
-    PulsaBoton(kEstadistica);
+    PulsaBoton(kBotonMarcador);
+    PulsaBoton(kBotonEstadis);
     EXPECT_THAT(p.formas_abiertas, ElementsAre(Forma::Marcador));
     estado.JuegosJugados = 1;
-    PulsaBoton(kEstadistica);
+    PulsaBoton(kBotonEstadis);
     EXPECT_THAT(p.formas_abiertas, ElementsAre(Forma::Marcador, Forma::Estadis));
 }
 
 TEST_F(Botones, LaAyudaSeAbreEnSuPrincipio) {
-    PulsaBoton(kAyuda);
+    PulsaBoton(kBotonAyuda);
     EXPECT_THAT(p.temas_ayuda, ElementsAre(0));
 }
 
@@ -199,7 +196,7 @@ TEST_F(Botones, ElTutorEnsenaUnaCartaYDejaElTurno) {
     estado.EligeCarta = true;
     estado.JugadaHecha = true;
     EmpiezaTraza();
-    PulsaBoton(kTutor);
+    PulsaBoton(kBotonTutor);
     EXPECT_TRUE(estado.EsperandoJugada);
     EXPECT_FALSE(estado.JugadaHecha);
     EXPECT_FALSE(estado.TutorPulsado);
@@ -212,7 +209,7 @@ TEST_F(Botones, ElTutorEnsenaUnaCartaYDejaElTurno) {
 }
 
 TEST_F(Botones, SinPartidaSeSaleSinPreguntar) {
-    PulsaBoton(kSalir);
+    PulsaBoton(kBotonSalir);
     EXPECT_THAT(p.mensajes, IsEmpty());
     EXPECT_EQ(sesion.peticion, Peticion::Salir);
     EXPECT_TRUE(EstaGuardado());
@@ -221,7 +218,7 @@ TEST_F(Botones, SinPartidaSeSaleSinPreguntar) {
 TEST_F(Botones, ConPartidaSePreguntaSiSePospone) {
     estado.PartidaEnCurso = true;
     p.respuestas = {Boton::No};
-    PulsaBoton(kSalir);
+    PulsaBoton(kBotonSalir);
     EXPECT_EQ(sesion.peticion, Peticion::Ninguna);
     EXPECT_FALSE(EstaGuardado());
     ASSERT_EQ(p.mensajes.size(), 1U);
@@ -269,7 +266,7 @@ TEST_F(SalidaEnCualquierMomento, EnElRepartoLaManoNoCuenta) {
 
 TEST_F(SalidaEnCualquierMomento, EnElRepartoAManoTampoco) {
     estado.SistemaReparto = kRepartoManual;
-    p.guion.PulsaControl({Control::Pic_Boton, kSalir});
+    p.guion.PulsaControl({Control::Pic_Boton, kBotonSalir});
     ManoCinquillo();
     EXPECT_THAT(Titulos(), ElementsAre("Posponer la partida en curso"));
     SeReanuda(3, 3);
@@ -286,7 +283,7 @@ TEST_F(SalidaEnCualquierMomento, AlEmpezarUnTurnoSinEspera) {
 
 TEST_F(SalidaEnCualquierMomento, EnElTurnoDeUnaPersona) {
     BarajaSera({});
-    p.guion.PulsaControl({Control::Pic_Boton, kSalir});
+    p.guion.PulsaControl({Control::Pic_Boton, kBotonSalir});
     ManoCinquillo();
     EXPECT_EQ(estado.JugadorMano, 4); // the lead had moved on
     SeReanuda(3, 3);
@@ -296,7 +293,7 @@ TEST_F(SalidaEnCualquierMomento, EnUnaPreguntaLaSesionQueAcabaNoSePierde) {
     // The desktop ends the session while the box is open: the next pass hears of it.
     p.al_preguntar = [this](const CajaMensaje&) { Termina(); };
     p.respuestas = {Boton::No};
-    p.guion.PulsaControl({Control::Pic_Boton, kNueva});
+    p.guion.PulsaControl({Control::Pic_Boton, kBotonNueva});
     ManoCinquillo();
     SeReanuda(3, 3);
 }

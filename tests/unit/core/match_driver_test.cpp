@@ -50,7 +50,7 @@ struct Partida : MesaViva {
         sesion = sesion_antes;
         return leido;
     }
-    void NuevaEnLaEspera() { p.guion.PulsaControl({Control::Pic_Boton, 1}); }
+    void NuevaEnLaEspera() { p.guion.PulsaControl({Control::Pic_Boton, kBotonNueva}); }
 };
 
 } // namespace
@@ -89,7 +89,7 @@ TEST_F(Partida, SinPartidaGuardadaLaMesaQuedaVacia) {
     IniciarSesion();
     EXPECT_FALSE(estado.PartidaEnCurso);
     EXPECT_THAT(p.mensajes, IsEmpty());
-    EXPECT_TRUE(BotonHabilitado(3));
+    EXPECT_TRUE(BotonHabilitado(kBotonNormas));
     EXPECT_FALSE(p.EstaVisible(Control::Pic_Sugerencia, 0));
     EXPECT_FALSE(p.EstaVisible(Control::Pic_BotDobSeg, 0));
     EXPECT_FALSE(p.EstaVisible(Control::Pic_BotContinuar, 0));
@@ -276,7 +276,7 @@ TEST_F(Partida, DiezMilPartidasNuevasDejanLaPilaComoUna) {
 TEST_F(Partida, OtroJuegoEnLasNormasDejaElDeAntesYTomaElSuyo) {
     p.formas = {Forma::Normas};
     p.al_abrir = [](Forma) { estado.JuegoActivo = kBrisca; };
-    p.guion.PulsaControl({Control::Pic_Boton, 3});
+    p.guion.PulsaControl({Control::Pic_Boton, kBotonNormas});
     NuevaPartida();
     EXPECT_EQ(sesion.peticion, Peticion::NuevaSesion);
     EXPECT_TRUE(AtiendePeticiones());
@@ -292,7 +292,7 @@ TEST_F(Partida, OtroJuegoEnLasNormasDejaElDeAntesYTomaElSuyo) {
 
 TEST_F(Partida, LaMesaOciosaEmpiezaConUnaTeclaYAcabaConSalir) {
     p.guion.Tecla('x');
-    p.guion.PulsaControl({Control::Pic_Boton, 7});
+    p.guion.PulsaControl({Control::Pic_Boton, kBotonSalir});
     BucleSesion();
     EXPECT_THAT(Titulos(), ElementsAre("Comienza la Partida", "Posponer la partida en curso"));
     EXPECT_EQ(sesion.peticion, Peticion::Salir);
@@ -309,8 +309,8 @@ TEST_F(Partida, AlFinQuedanHabilitadosNuevaNormasYSalir) {
     TodoSolo();
     estado.LimitePartida = 1;
     NuevaPartida();
-    EXPECT_TRUE(BotonHabilitado(1));
-    EXPECT_TRUE(BotonHabilitado(3));
-    EXPECT_TRUE(BotonHabilitado(7));
-    EXPECT_FALSE(BotonHabilitado(4));
+    EXPECT_TRUE(BotonHabilitado(kBotonNueva));
+    EXPECT_TRUE(BotonHabilitado(kBotonNormas));
+    EXPECT_TRUE(BotonHabilitado(kBotonSalir));
+    EXPECT_FALSE(BotonHabilitado(kBotonTutor));
 }

@@ -511,11 +511,11 @@ TEST_F(PersonalTest, TheTutorGoesWithWhoeverNowPlaysTheSeatOnTurn) {
     mesa.Responde(kAceptar);
     personal::PulsaSelector(kSelControl + 1);
     EXPECT_TRUE(personal::Cierra());
-    EXPECT_TRUE(BotonHabilitado(4));
+    EXPECT_TRUE(BotonHabilitado(kBotonTutor));
     personal::Abre();
     personal::PulsaSelector(kSelControl + 1);
     EXPECT_TRUE(personal::Cierra());
-    EXPECT_FALSE(BotonHabilitado(4));
+    EXPECT_FALSE(BotonHabilitado(kBotonTutor));
 }
 
 TEST_F(PersonalTest, ChangesOfLevelAndCharacterStandAtTheNextDecision) {

@@ -36,20 +36,20 @@ TEST_F(Columna, LosBotonesEstanEnSuLugar) {
 }
 
 TEST_F(Columna, DeshabilitarPoneElPunteroProhibido) {
-    HabilitaBoton(1, false);
-    EXPECT_EQ(p.PunteroDe(Control::Pic_Boton, 1), Puntero::Prohibido);
-    EXPECT_FALSE(BotonHabilitado(1));
-    HabilitaBoton(1, true);
-    EXPECT_EQ(p.PunteroDe(Control::Pic_Boton, 1), Puntero::ManoIndice);
+    HabilitaBoton(kBotonNueva, false);
+    EXPECT_EQ(p.PunteroDe(Control::Pic_Boton, kBotonNueva), Puntero::Prohibido);
+    EXPECT_FALSE(BotonHabilitado(kBotonNueva));
+    HabilitaBoton(kBotonNueva, true);
+    EXPECT_EQ(p.PunteroDe(Control::Pic_Boton, kBotonNueva), Puntero::ManoIndice);
 }
 
 TEST_F(Columna, UnBotonSinSuVentanaSigueDeshabilitado) {
     p.formas.clear();
-    HabilitaBoton(3, true);
-    EXPECT_FALSE(BotonHabilitado(3));
+    HabilitaBoton(kBotonNormas, true);
+    EXPECT_FALSE(BotonHabilitado(kBotonNormas));
     p.formas = {Forma::Normas};
-    HabilitaBoton(3, true);
-    EXPECT_TRUE(BotonHabilitado(3));
+    HabilitaBoton(kBotonNormas, true);
+    EXPECT_TRUE(BotonHabilitado(kBotonNormas));
 }
 
 TEST_F(Columna, EntreManosElBotonVerdeDiceContinuar) {

@@ -179,7 +179,7 @@ TEST_F(Ordenar, FueraDelTurnoLoElegidoNoCambia) {
 TEST_F(Ordenar, UnBotonDevuelveLaCartaASuLugar) {
     Toma(4, 3);
     Mueve(400, 520);
-    PulsaBoton(6);
+    PulsaBoton(kBotonAyuda);
     EXPECT_FALSE(estado.ArrastraCarta);
     EXPECT_FALSE(estado.ModoOrdenar);
     EXPECT_FALSE(p.EstaVisible(Control::Pic_Mover, 0));

@@ -196,13 +196,13 @@ TEST_F(Lugares, ConOtroTamanoElMazoSigueEnSuSitio) {
 }
 
 TEST_F(Lugares, UnTamanoNuevoNoTocaLoQueEstaHabilitado) {
-    HabilitaBoton(1, false);
-    HabilitaBoton(4, true);
+    HabilitaBoton(kBotonNueva, false);
+    HabilitaBoton(kBotonTutor, true);
     p.Mide(1366, 768);
     CambiaTamano();
     EXPECT_EQ(estado.AnchoMesa, 1276);
-    EXPECT_FALSE(BotonHabilitado(1));
-    EXPECT_TRUE(BotonHabilitado(4));
+    EXPECT_FALSE(BotonHabilitado(kBotonNueva));
+    EXPECT_TRUE(BotonHabilitado(kBotonTutor));
     EXPECT_EQ(p.Tablero().LugarDe({Control::Pic_Botonera, 0}).x, 1276);
 }
 

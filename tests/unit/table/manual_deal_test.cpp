@@ -91,10 +91,10 @@ TEST_F(RepartoAMano, ElRepartoSeCentraYEsperaTodaLaBaraja) {
         EXPECT_FALSE(estado.CartaEnReparto(palo, 9));
         EXPECT_TRUE(estado.CartaEnReparto(palo, 12));
     }
-    EXPECT_TRUE(BotonHabilitado(7));
-    EXPECT_TRUE(BotonHabilitado(1));
-    EXPECT_FALSE(BotonHabilitado(4));
-    EXPECT_FALSE(BotonHabilitado(8));
+    EXPECT_TRUE(BotonHabilitado(kBotonSalir));
+    EXPECT_TRUE(BotonHabilitado(kBotonNueva));
+    EXPECT_FALSE(BotonHabilitado(kBotonTutor));
+    EXPECT_FALSE(BotonHabilitado(kBotonEstadis));
 }
 
 TEST_F(RepartoAMano, CadaCartaSeExtiendeConSuPausaYLosComodinesConOtra) {
@@ -225,8 +225,8 @@ TEST_F(RepartoAMano, UnBotonDevuelveLoQueCuelga) {
     p.formas = {Forma::Personal};
     Extendido();
     Toma({kOros, 1});
-    HabilitaBoton(2, true);
-    PulsaBoton(2);
+    HabilitaBoton(kBotonPersonal, true);
+    PulsaBoton(kBotonPersonal);
     EXPECT_FALSE(estado.ArrastraReparto);
     EXPECT_TRUE(estado.CartaEnReparto(kOros, 1));
 }
@@ -272,7 +272,7 @@ TEST_F(RepartoAMano, SiLasNormasVuelvenAlAutomaticoSeReparteDeNuevo) {
     p.al_abrir = [](Forma) { estado.SistemaReparto = kRepartoAutomatico; };
     PonEsquina();
     EncolaDa({kOros, 1}, 3);
-    p.guion.PulsaControl({Control::Pic_Boton, 3});
+    p.guion.PulsaControl({Control::Pic_Boton, kBotonNormas});
     ASSERT_TRUE(IniciarJuego());
     EXPECT_TRUE(estado.ManoEnCurso);
     EXPECT_FALSE(estado.RepartoEnCurso);
@@ -291,7 +291,7 @@ TEST_F(RepartoAMano, OtraBarajaEnLasNormasExtiendeLaNueva) {
         estado.CartasBaraja = 6;
         ConstruirBaraja();
     };
-    p.guion.PulsaControl({Control::Pic_Boton, 3});
+    p.guion.PulsaControl({Control::Pic_Boton, kBotonNormas});
     EXPECT_TRUE(RepartirAMano());
     EXPECT_FALSE(RepartoCompleto());
     EXPECT_FALSE(estado.RepartoEnCurso);
@@ -334,7 +334,7 @@ TEST_F(RepartoAMano, UnComodinSeDaComoComodin) {
 }
 
 TEST_F(RepartoAMano, SalirDesdeElRepartoDejaSinMano) {
-    p.guion.PulsaControl({Control::Pic_Boton, 7});
+    p.guion.PulsaControl({Control::Pic_Boton, kBotonSalir});
     EXPECT_FALSE(RepartirAMano());
     EXPECT_EQ(sesion.peticion, Peticion::Salir);
     EXPECT_FALSE(estado.RepartoEnCurso);

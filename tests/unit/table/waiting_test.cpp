@@ -57,7 +57,7 @@ TEST_F(Espera, ControlCNoHaceNada) {
 }
 
 TEST_F(Espera, AcabaSiLaPartidaSeDeja) {
-    p.guion.PulsaControl({Control::Pic_Boton, 1});
+    p.guion.PulsaControl({Control::Pic_Boton, kBotonNueva});
     EXPECT_FALSE(EsperaContinuar());
     EXPECT_EQ(sesion.peticion, Peticion::NuevaPartida);
 }
@@ -77,13 +77,13 @@ TEST_F(Espera, CerrarLaVentanaEsElBotonDeSalir) {
 }
 
 TEST_F(Espera, DondeNoSePuedeSalirSePreguntaEnCuantoSePuede) {
-    HabilitaBoton(7, false);
+    HabilitaBoton(kBotonSalir, false);
     CierraVentana();
     p.guion.PulsaControl({Control::Pic_BotContinuar, 0});
     EXPECT_TRUE(EsperaContinuar());
     EXPECT_TRUE(p.mensajes.empty());
     EXPECT_TRUE(sesion.cierre_pendiente);
-    HabilitaBoton(7, true);
+    HabilitaBoton(kBotonSalir, true);
     PaseDeEventos(Pase::DePaso);
     EXPECT_EQ(Titulos(), (std::vector<std::string>{"Posponer la partida en curso"}));
     EXPECT_EQ(sesion.peticion, Peticion::Salir);
@@ -101,7 +101,7 @@ TEST_F(Espera, SiSeContestaQueNoElCierreSeOlvida) {
 
 TEST_F(Espera, ConAlgoPedidoLosClicsSePierdenYElTamanoNo) {
     sesion.peticion = Peticion::NuevaPartida;
-    p.guion.PulsaControl({Control::Pic_Boton, 7});
+    p.guion.PulsaControl({Control::Pic_Boton, kBotonSalir});
     PaseDeEventos(Pase::DeEspera);
     EXPECT_TRUE(p.mensajes.empty());
     p.Mide(1024, 768);

@@ -259,7 +259,7 @@ TEST_F(ManoDeCinquillo, ConRepartoAManoPersonalizarSigueHabilitado) {
     ReparteMitades();
     bool visto = false;
     p.al_preguntar = [&](const CajaMensaje& caja) {
-        visto = visto || (caja.titulo == "Final de la mano" && BotonHabilitado(2));
+        visto = visto || (caja.titulo == "Final de la mano" && BotonHabilitado(kBotonPersonal));
     };
     Cuando("ResaltarAsiento()", [] { estado.SistemaReparto = kRepartoManual; });
     ManoCinquillo();
@@ -315,7 +315,7 @@ TEST_F(ManoDeCinquillo, SoloEnElTurnoDeUnaPersonaEstaElTutor) {
     ReparteMitades();
     EmpiezaTraza();
     ManoCinquillo(); // stops in seat 1's wait, and leaves it
-    EXPECT_FALSE(BotonHabilitado(4));
+    EXPECT_FALSE(BotonHabilitado(kBotonTutor));
     EXPECT_FALSE(estado.EligeCarta);
 }
 
@@ -324,7 +324,7 @@ TEST_F(ManoDeCinquillo, ElTutorEnUnTurnoDePersonaNoAcabaLaEspera) {
     estado.CartasJugador(1) = kVisibles;
     estado.NivelJugador(1) = 20;
     ReparteMitades();
-    p.guion.PulsaControl({Control::Pic_Boton, 4});
+    p.guion.PulsaControl({Control::Pic_Boton, kBotonTutor});
     EmpiezaTraza();
     ManoCinquillo();
     EXPECT_EQ(estado.NivelJugador(1), 100);

@@ -16,7 +16,7 @@ using namespace prueba;
 namespace {
 
 constexpr ControlMesa kContinuar{Control::Pic_BotContinuar, 0};
-constexpr ControlMesa kTutor{Control::Pic_Boton, 4};
+constexpr ControlMesa kTutor{Control::Pic_Boton, kBotonTutor};
 
 // Four seats, seat 1 to play next; a seat's turn is played with `Turno`.
 struct TurnoDeTrick : testing::Test {
