@@ -80,12 +80,6 @@ struct FilaJuego {
     Integer (*banca_siguiente)() = nullptr;
     // More to clear at a new match.
     void (*nueva_partida)() = nullptr;
-
-    // The page of statistics; the figure of a seat in the history; the page of the report. A report whose hook
-    // is empty is not on offer for the game.
-    void (*pagina_estadistica)(Lienzo& lienzo) = nullptr;
-    Integer (*cifra_historico)(Integer asiento) = nullptr;
-    void (*pagina_informe)(int pagina) = nullptr;
 };
 
 // The row of a game; nullptr for a number that is no game.
