@@ -8,6 +8,7 @@
 #include "core/game_state.h"
 #include "core/settings.h"
 #include "core/text.h"
+#include "games/game_table.h"
 
 namespace {
 
@@ -62,24 +63,22 @@ void ReparaAsientos() {
     }
 }
 
-// The bank of Black Jack sits in seat 2, and all cards lie face up.
-void ImponBanca() {
-    constexpr int kBanca = 2;
-    estado.NombreJugador(kBanca) = "Banca";
-    estado.EstadoJugador(kBanca) = kActivado;
-    estado.NivelJugador(kBanca) = 100;
-    estado.ControlJugador(kBanca) = kAutomatico;
+void ImponBanca(Integer banca) {
+    estado.NombreJugador(banca) = "Banca";
+    estado.EstadoJugador(banca) = kActivado;
+    estado.NivelJugador(banca) = 100;
+    estado.ControlJugador(banca) = kAutomatico;
     for (int asiento = 1; asiento <= 4; ++asiento)
         estado.CartasJugador(asiento) = kVisibles;
     estado.SistemaReparto = kAutomatico;
 }
 
-// Nobody plays alone, and Cinquillo is for four, each for himself.
-void ReparaJugadores() {
+// Too few seats for the game: all of them play.
+void ReparaJugadores(const FilaJuego& juego) {
     CuentaJugadores();
-    if (estado.JuegoActivo == kCinquillo)
+    if (juego.sin_parejas)
         estado.ModalidadJuego = kIndividual;
-    if (estado.NumJugadores >= (estado.JuegoActivo == kCinquillo ? 4 : 2))
+    if (estado.NumJugadores >= juego.minimo_asientos)
         return;
     for (int asiento = 1; asiento <= 4; ++asiento)
         estado.EstadoJugador(asiento) = kActivado;
@@ -135,8 +134,9 @@ void ReparaJuego() {
         Encaja(estado.*regla.campo, regla.limites);
     estado.LeyApertura = std::max(estado.LeyApertura, estado.CartasBaraja);
     estado.PasoSentido = estado.SentidoJuego == kInverso ? -1 : 1;
-    if (estado.JuegoActivo == kBlackJack)
-        ImponBanca();
-    ReparaJugadores();
+    const FilaJuego& juego = JuegoEnMesa();
+    if (juego.asiento_banca != 0)
+        ImponBanca(juego.asiento_banca);
+    ReparaJugadores(juego);
     ReparaDinero();
 }

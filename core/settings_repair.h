@@ -6,5 +6,6 @@
 void ReparaGeneral();
 
 // Everything that a game's file holds: seats, rules, who leads, results and money, and the bank's values in
-// Black Jack. Counts NumJugadores and takes PasoSentido from SentidoJuego.
+// Black Jack. Counts NumJugadores and takes PasoSentido from SentidoJuego. JuegoActivo that is no game:
+// std::logic_error.
 void ReparaJuego();

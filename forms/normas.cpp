@@ -29,16 +29,19 @@ Integer marcado = 0;
 struct Reglas {
     Integer juego;
     std::vector<int> controles;
+    const char* encabezado = ""; // above its line in the list of games
 };
 
 const std::vector<Reglas>& LasReglas() {
     static const std::vector<Reglas> kReglas{
-        {kPoker, {kSelReparto, kSelBaraja, kSelComodines, kSelLey, 21, 22, 23}},
-        {kBlackJack, {21, 23}},
-        {kTute, {kSelReparto, kSelModalidad, 24}},
-        {kBrisca, {kSelReparto, kSelModalidad, 24}},
-        {kSieteYMedia, {kSelReparto, 21, 23}},
-        {kCinquillo, {kSelReparto, 24}},
+        {kPoker,
+         {kSelReparto, kSelBaraja, kSelComodines, kSelLey, kSpinResto, kSpinSalida, kSpinMaxima},
+         "Baraja Francesa"},
+        {kBlackJack, {kSpinResto, kSpinMaxima}},
+        {kTute, {kSelReparto, kSelModalidad, kSpinLimite}, "Baraja Española"},
+        {kBrisca, {kSelReparto, kSelModalidad, kSpinLimite}},
+        {kSieteYMedia, {kSelReparto, kSpinResto, kSpinMaxima}},
+        {kCinquillo, {kSelReparto, kSpinLimite}},
     };
     return kReglas;
 }
@@ -96,14 +99,8 @@ void Deja() {
 }
 
 const char* Encabezado(Integer juego) {
-    switch (juego) {
-    case kPoker:
-        return "Baraja Francesa";
-    case kTute:
-        return "Baraja Española";
-    default:
-        return "";
-    }
+    const auto reglas = std::ranges::find(LasReglas(), juego, &Reglas::juego);
+    return reglas != LasReglas().end() ? reglas->encabezado : "";
 }
 
 bool SePuedeElegir(Integer juego) {

@@ -81,7 +81,7 @@ const char* AvisoDeCandado(int control) {
 }
 
 bool EsLaBanca(Integer asiento) {
-    return estado.JuegoActivo == kBlackJack && asiento == kBanca;
+    return asiento != 0 && asiento == JuegoEnMesa().asiento_banca;
 }
 
 // Beyond its name and its state a seat shows its settings while it plays by them.

@@ -7,7 +7,8 @@
 
 #include "core/tabla.h"
 
-inline constexpr int kPrimerSpin = 21, kUltimoSpin = 24;
+inline constexpr int kSpinResto = 21, kSpinSalida = 22, kSpinMaxima = 23, kSpinLimite = 24;
+inline constexpr int kPrimerSpin = kSpinResto, kUltimoSpin = kSpinLimite;
 
 // The spin at hand: its working value and its range.
 struct SpinDeTrabajo {

@@ -22,6 +22,10 @@ struct FilaJuego {
     // Deck fields for the rules in force (not the image).
     void (*prepara_baraja)() = nullptr;
 
+    Integer minimo_asientos = 2; // so many seats play at least
+    bool sin_parejas = false;    // everybody plays alone, whatever ModalidadJuego was
+    Integer asiento_banca =
+        0; // the computer holds the bank there for good, and all cards lie open; 0: nowhere
     bool con_dinero = false;      // the seats get RestoInicial in chips
     bool sortea_inicio = true;    // a match begins with the draw for the first player
     bool sorteo_da_banca = false; // ... and it decides JugadorBanca instead of JugadorMano

@@ -65,6 +65,7 @@ const FilaJuego& FilaBlackJack() {
     static const FilaJuego kFila{.id = kBlackJack,
                                  .nombre = "Black Jack",
                                  .prepara_baraja = PreparaBaraja,
+                                 .asiento_banca = 2,
                                  .con_dinero = true,
                                  .sortea_inicio = false,
                                  .mazo_seguido = true,

@@ -259,6 +259,8 @@ const FilaJuego& FilaCinquillo() {
         .nombre = "Cinquillo",
         .driver = ManoCinquillo,
         .prepara_baraja = PreparaBaraja,
+        .minimo_asientos = 4,
+        .sin_parejas = true,
         .pinta_centro = PintaTendido,
         .clave_orden = ClaveOrden,
         .carta_legal = LugarJugable,
