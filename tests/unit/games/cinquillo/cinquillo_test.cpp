@@ -396,8 +396,9 @@ TEST_F(ManoDeCinquillo, UnaCartaArrastradaVuelveAntesDeQueCambieSuMano) {
     p.guion.RatonMueve(250, 80);
     p.guion.RatonSuelta(250, 80, 1);
     p.al_preguntar = [](const CajaMensaje& caja) {
-        if (caja.titulo == "Final de la mano")
+        if (caja.titulo == "Final de la mano") {
             EXPECT_EQ(CartasALaVista(), 40);
+        }
     };
     ManoCinquillo();
     EXPECT_FALSE(estado.ArrastraCarta);

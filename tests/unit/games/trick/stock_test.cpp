@@ -93,8 +93,9 @@ TEST(Mazo, ElTuteDeDosRobaCatorceVecesYLigaSeisBazas) {
         const Integer tenia = estado.NumCartas(perdedor, 1);
         RobaCartas();
         EXPECT_EQ(estado.NumCartas(perdedor, 1), tenia + (baza <= 14 ? 1 : 0)) << baza;
-        if (baza == 14)
+        if (baza == 14) {
             EXPECT_EQ(EnMano(perdedor, 6), Carta(pinta.palo, estado.ValorTriunfo));
+        }
     }
     EXPECT_EQ(estado.NumCartas(2, 1), 0);
     EXPECT_EQ(estado.CartasEnMazo, 0);
