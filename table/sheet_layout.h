@@ -1,3 +1,4 @@
+#pragma once
 // Where every small image lies on the sheet (Pic_BmpVario), told once: the program cuts by these
 // rectangles and the tool that paints the sheet fills them, each from the drawing of the same name
 // in assets/sheet. Units are table pixels; the sheet itself is kept kEscala times as large, so that a
@@ -5,7 +6,6 @@
 //
 // Nothing here reads or writes the state. Indices outside their bounds are clamped to the nearest
 // piece, so a bad one can only show the wrong picture.
-#pragma once
 
 #include <algorithm>
 #include <array>
@@ -21,7 +21,7 @@ struct Recorte {
     friend constexpr bool operator==(const Recorte&, const Recorte&) = default;
 };
 
-/// How a button is drawn.
+// How a button is drawn.
 enum class Aspecto { Arriba, Pulsado, Apagado };
 
 inline constexpr int kRadioEsquinaCarta = 6; // beyond it the corner of a card belongs to the felt
@@ -29,29 +29,29 @@ inline constexpr int kEscala = 3;            // sheet and card images are kept t
 inline constexpr int kAncho = 512;
 inline constexpr int kAlto = 520;
 
-/// Round main button 1..8, 51 apart in the top row; the other two looks have a row each.
+// Round main button 1..8, 51 apart in the top row; the other two looks have a row each.
 constexpr Recorte BotonPrincipal(int numero, Aspecto aspecto = Aspecto::Arriba) {
     const int y = aspecto == Aspecto::Arriba ? 0 : aspecto == Aspecto::Apagado ? 172 : 223;
     return {51 * (std::clamp(numero, 1, 8) - 1), y, 50, 50};
 }
 
-/// Digit 0..9 of the score displays.
+// Digit 0..9 of the score displays.
 constexpr Recorte Digito(int cifra) {
     return {11 * std::clamp(cifra, 0, 9), 52, 10, 17};
 }
 
-/// Chip of denomination 1..6 (1, 2, 5, 10, 20, 50 points), upright.
+// Chip of denomination 1..6 (1, 2, 5, 10, 20, 50 points), upright.
 constexpr Recorte Ficha(int denominacion) {
     return {34 * (std::clamp(denominacion, 1, 6) - 1), 101, 33, 33};
 }
 
-/// The four buttons of the bet board, in the order Pasar, Igualar, Apostar, Anular.
+// The four buttons of the bet board, in the order Pasar, Igualar, Apostar, Anular.
 constexpr Recorte BotonApuesta(int numero, bool pulsado = false) {
     return {126 * (std::clamp(numero, 1, 4) - 1), pulsado ? 333 : 304, 124, 27};
 }
 
-/// Arrow that browses series: 1 back, 2 on; lateral for the seats at the sides, where it points
-/// up and down instead of left and right.
+// Arrow that browses series: 1 back, 2 on; lateral for the seats at the sides, where it points
+// up and down instead of left and right.
 constexpr Recorte BotonLateral(int numero, bool vertical, bool pulsado = false) {
     const int lugar = (vertical ? 2 : 0) + std::clamp(numero, 1, 2) - 1;
     return {48 * lugar + (pulsado ? 24 : 0), 274, 23, 23};
@@ -110,7 +110,7 @@ inline constexpr Recorte kSentidoDirecto{0, 364, 96, 96};
 inline constexpr Recorte kSentidoInverso{97, 364, 96, 96};
 inline constexpr Recorte kEmblemaPortada{194, 364, 150, 150};
 
-/// A drawing of assets/sheet and its place.
+// A drawing of assets/sheet and its place.
 struct Pieza {
     std::string_view archivo; // without ".svg"
     Recorte sitio;
@@ -217,7 +217,7 @@ inline constexpr std::array kPiezas{
     Pieza{"emblema_portada", kEmblemaPortada},
 };
 
-/// A pointer of the table: the drawing of assets/cursors and the pixel that points.
+// A pointer of the table: the drawing of assets/cursors and the pixel that points.
 struct Puntero {
     std::string_view nombre;  // as the program asks for it
     std::string_view archivo; // without ".svg"

@@ -7,7 +7,8 @@
 
 #include "platform/platform.h"
 
-// Layout from the window's size, the pile's place, the button column, pointers of the eight buttons (3, 4 and 8 disabled).
+// Layout from the window's size, the pile's place, the button column with its pointers: Normas, Tutor de juego and
+// Estadísticas disabled.
 void CalcularMesa();
 // A new size of the window: places only, then everything is painted anew.
 void CambiaTamano();

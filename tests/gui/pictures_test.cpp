@@ -26,7 +26,7 @@ QImage Celda(const QImage& baraja, int palo, int valor) {
         .convertToFormat(QImage::Format_RGB32);
 }
 
-/// How many pixels of two pictures an eye tells apart.
+// How many pixels of two pictures an eye tells apart.
 int Diferencia(const QImage& una, const QImage& otra) {
     int puntos = 0;
     for (int y = 0; y < una.height(); ++y) {
@@ -77,7 +77,7 @@ int Opacos(const QImage& imagen) {
     return puntos;
 }
 
-/// Mean saturation of the pixels that are not clear, 0..255.
+// Mean saturation of the pixels that are not clear, 0..255.
 double Viveza(const QImage& imagen) {
     double suma = 0;
     int puntos = 0;

@@ -50,8 +50,8 @@ struct Carpetas {
     throw std::runtime_error(archivo.toStdString() + ": " + queja);
 }
 
-/// Paints a drawing into a box given in pixels of the picture. The drawing's own size must have the
-/// proportions of `medida`, in pixels of the table; anything else is a mistake of the drawing.
+// Paints a drawing into a box given in pixels of the picture. The drawing's own size must have the
+// proportions of `medida`, in pixels of the table; anything else is a mistake of the drawing.
 void Pinta(QPainter& pintor, const QString& archivo, const QRect& donde, const QSize& medida) {
     QSvgRenderer dibujo(archivo);
     if (!dibujo.isValid())
@@ -85,7 +85,7 @@ QString NombreLamina(const Carpetas& carpetas, std::string_view pieza) {
            QStringLiteral(".svg");
 }
 
-/// All the cards of a deck in rows by palo, `escala` times as large and `hueco` pixels apart.
+// All the cards of a deck in rows by palo, `escala` times as large and `hueco` pixels apart.
 QImage PintaBaraja(const Carpetas& carpetas, const Baraja& baraja, int escala, int hueco,
                    QRgb fondo) {
     const int ancho = kAnchoCarta * escala, alto = kAltoCarta * escala;
@@ -122,7 +122,7 @@ QImage PintaLaminas(const Carpetas& carpetas, int escala) {
     return imagen;
 }
 
-/// One drawing alone, on nothing.
+// One drawing alone, on nothing.
 QImage PintaSuelta(const QString& archivo, const QSize& medida, const QSize& pixeles) {
     QImage imagen = Lienzo(pixeles.width(), pixeles.height(), 0);
     QPainter pintor(&imagen);
@@ -169,7 +169,7 @@ void HazRecursos(const Carpetas& carpetas) {
     HazIconos(carpetas);
 }
 
-/// The sheet on felt, with a row of the loose cards, the icon and the pointers under it.
+// The sheet on felt, with a row of the loose cards, the icon and the pointers under it.
 QImage PintaMuestra(const Carpetas& carpetas) {
     constexpr int escala = 2, hueco = 10;
     const QImage laminas = PintaLaminas(carpetas, escala);
