@@ -2,8 +2,7 @@
 
 import math
 
-import pips
-from figure import crown, limb
+from figure import crown
 from geometry import mirror, pts, regular, spline
 from palette import *
 

@@ -2,7 +2,6 @@
 
 import math
 
-import pips
 from card import HEIGHT, WIDTH, paper
 from geometry import regular, spline
 from palette import *

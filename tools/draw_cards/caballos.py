@@ -44,6 +44,28 @@ BODY = [(98, 154), (124, 158), (148, 180), (164, 206), (184, 222), (206, 229), (
         (82, 158)]
 
 
+def mane_locks(g, mane):
+    locks = spline([(92, 150, 0), (112, 146), (140, 162), (162, 196), (172, 218, 0), (158, 214), (160, 226, 0), (146, 208),
+                    (144, 222, 0), (132, 196), (126, 208, 0), (120, 180), (110, 188, 0), (108, 166)], closed=True)
+    g.path(locks, mane, INK, 2.8)
+    g.path(spline([(94, 152, 0), (80, 152), (70, 172), (74, 182, 0), (84, 166), (88, 174, 0)], closed=True), mane, INK, 2.4)
+
+
+def eye_and_nostril(g):
+    g.ellipse(80, 185, 5.4, 4.6, WHITE, INK, 2)
+    g.circle(79, 185.5, 3, INK)
+    g.path(spline([(72, 180), (80, 177), (88, 182)]), None, INK, 2)
+    g.ellipse(52, 229, 2.6, 3.6, INK)
+
+
+def bridle(g, harness, trim):
+    for points in ([(96, 158), (98, 186), (90, 206), (66, 234)], [(60, 192), (70, 204), (84, 212)],
+                   [(76, 164), (88, 172), (99, 176)]):
+        g.path(spline(points), None, INK, 6.4)
+        g.path(spline(points), None, harness, 3.4)
+    g.circle(66, 234, 4.2, trim, INK, 2)
+
+
 def horse(g, coat, harness=RED, trim=GOLD_LIGHT, dapple=False):
     """Walking, the far forefoot lifted."""
     body, far, mane, horn = COATS[coat]
@@ -76,23 +98,10 @@ def horse(g, coat, harness=RED, trim=GOLD_LIGHT, dapple=False):
                         (128, 280, 4), (122, 240, 4), (136, 226, 4.5), (130, 206, 4), (228, 296, 4), (146, 208, 3.4)):
             g.circle(x, y, r, "#e6eaf0")
     g.path(spline([(88, 219), (100, 208), (101, 192)]), None, INK, 1.6, 0.6)
-    # mane
-    locks = spline([(92, 150, 0), (112, 146), (140, 162), (162, 196), (172, 218, 0), (158, 214), (160, 226, 0), (146, 208),
-                    (144, 222, 0), (132, 196), (126, 208, 0), (120, 180), (110, 188, 0), (108, 166)], closed=True)
-    g.path(locks, mane, INK, 2.8)
-    g.path(spline([(94, 152, 0), (80, 152), (70, 172), (74, 182, 0), (84, 166), (88, 174, 0)], closed=True), mane, INK, 2.4)
-    # eye, nostril, mouth
-    g.ellipse(80, 185, 5.4, 4.6, WHITE, INK, 2)
-    g.circle(79, 185.5, 3, INK)
-    g.path(spline([(72, 180), (80, 177), (88, 182)]), None, INK, 2)
-    g.ellipse(52, 229, 2.6, 3.6, INK)
+    mane_locks(g, mane)
+    eye_and_nostril(g)
     g.path(spline([(48, 241), (56, 237), (64, 236)]), None, INK, 2)
-    # bridle
-    for points in ([(96, 158), (98, 186), (90, 206), (66, 234)], [(60, 192), (70, 204), (84, 212)],
-                   [(76, 164), (88, 172), (99, 176)]):
-        g.path(spline(points), None, INK, 6.4)
-        g.path(spline(points), None, harness, 3.4)
-    g.circle(66, 234, 4.2, trim, INK, 2)
+    bridle(g, harness, trim)
     # breast strap and crupper
     for points in ([(102, 250), (124, 258), (148, 252)], [(226, 248), (246, 256), (264, 252)]):
         g.path(spline(points), None, INK, 9)
@@ -263,20 +272,10 @@ def rearing(g, coat, harness, trim=GOLD_LIGHT):
         g.path(spline(fore), None, INK, 3)
         hoof(g, 117, 370, -34, horn, 0.92)
         g.path(spline([(132, 302), (160, 309), (196, 311), (222, 302), (196, 300), (160, 299)], closed=True), far, opacity=0.7)
-        locks = spline([(92, 150, 0), (112, 146), (140, 162), (162, 196), (172, 218, 0), (158, 214), (160, 226, 0), (146, 208),
-                        (144, 222, 0), (132, 196), (126, 208, 0), (120, 180), (110, 188, 0), (108, 166)], closed=True)
-        g.path(locks, mane, INK, 2.8)
-        g.path(spline([(94, 152, 0), (80, 152), (70, 172), (74, 182, 0), (84, 166), (88, 174, 0)], closed=True), mane, INK, 2.4)
-        g.ellipse(80, 185, 5.4, 4.6, WHITE, INK, 2)
-        g.circle(79, 185.5, 3, INK)
-        g.path(spline([(72, 180), (80, 177), (88, 182)]), None, INK, 2)
-        g.ellipse(52, 229, 2.6, 3.6, INK)
+        mane_locks(g, mane)
+        eye_and_nostril(g)
         g.path(spline([(48, 241), (56, 236), (66, 236)]), None, INK, 2)
-        for points in ([(96, 158), (98, 186), (90, 206), (66, 234)], [(60, 192), (70, 204), (84, 212)],
-                       [(76, 164), (88, 172), (99, 176)]):
-            g.path(spline(points), None, INK, 6.4)
-            g.path(spline(points), None, harness, 3.4)
-        g.circle(66, 234, 4.2, trim, INK, 2)
+        bridle(g, harness, trim)
         for points in ([(102, 250), (124, 258), (148, 252)], [(226, 248), (246, 256), (264, 252)]):
             g.path(spline(points), None, INK, 9)
             g.path(spline(points), None, harness, 5.4)

@@ -5,7 +5,7 @@ import math
 import pips
 from card import HEIGHT, WIDTH, french_index, paper
 from figure import *
-from geometry import mirror, pts, regular, spline
+from geometry import pts, spline
 from palette import *
 from sotas import mark
 

@@ -1,8 +1,7 @@
 """The eight pointers of the table, 32 by 32, and a light rim so that they stand out on felt."""
 
-import glyphs
 from figure import limb
-from geometry import mirror, spline, transform
+from geometry import spline, transform
 from palette import *
 from svg import Drawing
 

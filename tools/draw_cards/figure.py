@@ -6,7 +6,7 @@ face: -1 to the left, 0 straight, 1 to the right.
 
 import math
 
-from geometry import mirror, pts, spline
+from geometry import pts, spline
 from palette import *
 
 

@@ -1,11 +1,8 @@
 """The French deck: fifty-two cards of diamantes, corazones, picas and tréboles."""
 
-import math
-
-import glyphs
 import pips
 from card import HEIGHT, WIDTH, french_index, paper
-from geometry import pts, regular, spline
+from geometry import spline
 from palette import *
 
 SUITS = ("diamantes", "corazones", "picas", "treboles")

@@ -3,7 +3,7 @@
 Each glyph is a list of strokes on a grid 10 wide and 16 high, drawn with a round pen.
 """
 
-from geometry import spline, transform
+from geometry import transform
 
 STROKES = {
     "0": ["M 5,1 C 1.6,1 0.8,4.2 0.8,8 C 0.8,11.8 1.6,15 5,15 C 8.4,15 9.2,11.8 9.2,8 C 9.2,4.2 8.4,1 5,1 Z"],

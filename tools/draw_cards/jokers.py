@@ -6,7 +6,7 @@ import glyphs
 import pips
 from card import both_corners, paper
 from figure import *
-from geometry import mirror, pts, regular, spline
+from geometry import mirror, pts, spline
 from palette import *
 from sotas import mark, neck
 

@@ -4,8 +4,6 @@ Nominal sizes (half width, half height): coin 36 x 36, cup 31 x 44, sword 24 x 6
 club 24 x 66, French signs 30 x 33.
 """
 
-import math
-
 from geometry import num, pts, regular, spline
 from palette import *
 

@@ -2,11 +2,10 @@
 
 import math
 
-import back
 import buttons
 import glyphs
 import pips
-from buttons import COLOURS, plain_button
+from buttons import plain_button
 from figure import crown
 from geometry import mirror, pts, regular, spline
 from palette import *
@@ -267,9 +266,6 @@ def knob():
 
 
 # -- frames and panels
-
-BAR = [(0, "#8f9c55"), (0.1, "#fff1b8"), (0.22, GOLD), (0.3, "#5c3608"), (0.34, "#2c5aa8"), (1, "#0d2450")]
-
 
 def frame_bar(part):
     """A bar 24 high with a gold rim: left end, strip, right end."""

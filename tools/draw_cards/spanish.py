@@ -2,7 +2,6 @@
 
 import pips
 from card import paper, spanish_frame, spanish_index
-from geometry import spline
 from palette import *
 
 SUITS = ("oros", "copas", "espadas", "bastos")
