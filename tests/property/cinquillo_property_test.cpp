@@ -5,18 +5,21 @@
 #include <rapidcheck/gtest.h>
 
 #include <array>
+#include <functional>
 #include <set>
+#include <string>
+#include <vector>
 
 #include "core/main_buttons.h"
 #include "core/match_driver.h"
 #include "core/random.h"
 #include "core/text.h"
 #include "games/common/trick_state.h"
+#include "platform/headless/headless_platform.h"
 #include "table/deck.h"
 #include "table/waiting.h"
 #include "tests/support/trick_hands.h"
 #include "tools/common/fresh_table.h"
-#include "tools/simula/match.h"
 
 namespace {
 
@@ -24,7 +27,6 @@ using prueba::Carta;
 using rc::gen::inRange;
 
 constexpr Integer kFilaPalo = 5, kFilaValor = 10;
-constexpr int kPartidasDeUnCaso = 10;
 
 struct OrdenDeCartas {
     bool operator()(const Carta& a, const Carta& b) const {
@@ -216,18 +218,4 @@ RC_GTEST_PROP(Cinquillo, SeaQuienSeaCadaPartidaSigueLasReglasYAcaba, ()) {
     NuevaPartida();
     RC_ASSERT(!sesion.sin_eventos);
     RevisaPartida();
-}
-
-RC_GTEST_PROP(Cinquillo, LasPartidasSimuladasCumplenLoSuyo, ()) {
-    OpcionesSimula opciones;
-    opciones.juego = kCinquillo;
-    opciones.semilla = *rc::gen::arbitrary<std::uint32_t>();
-    opciones.azar = true;
-    opciones.limite = *inRange(1, 6);
-    Simulacion simulacion(opciones);
-    for (int partida = 0; partida < kPartidasDeUnCaso; ++partida) {
-        const Totales totales = simulacion.Juega(partida); // throws when an invariant breaks
-        RC_ASSERT(totales.manos >= opciones.limite);
-        RC_ASSERT(totales.manos <= 4 * (opciones.limite - 1) + 1);
-    }
 }

@@ -20,26 +20,23 @@ constexpr Revision kRevisiones[] = {
     {kCinquillo, RevisaManoCinquillo, RevisaPartidaCinquillo},
 };
 
-const Revision* RevisionDelJuego() {
+const Revision& RevisionDelJuego() {
     const auto* fin = std::end(kRevisiones);
     const auto* esta = std::find_if(std::begin(kRevisiones), fin, [](const Revision& r) {
         return r.juego == estado.JuegoActivo;
     });
-    return esta == fin ? nullptr : esta;
+    Exige(esta != fin, "nadie revisa el juego {}", estado.JuegoActivo);
+    return *esta;
 }
 
 } // namespace
 
 void RevisaFinalDeMano() {
-    const Revision* revision = RevisionDelJuego();
-    if (revision != nullptr)
-        revision->mano();
+    RevisionDelJuego().mano();
 }
 
 void RevisaFinalDePartida() {
     Exige(!estado.PartidaEnCurso, "la partida acaba");
     Exige(estado.GanadorPartida >= 1 && estado.GanadorPartida <= 4, "la partida tiene ganador");
-    const Revision* revision = RevisionDelJuego();
-    if (revision != nullptr)
-        revision->partida();
+    RevisionDelJuego().partida();
 }

@@ -33,6 +33,8 @@ void PonOpciones(CLI::App& app, OpcionesSimula& opciones) {
     app.add_option("--sentido", opciones.sentido, "1 directo, 2 inverso")->capture_default_str();
     app.add_flag("--azar", opciones.azar,
                  "niveles, caracteres, nombres y sentido de cada partida al azar");
+    app.add_flag("--personas", opciones.personas,
+                 "asientos manuales al azar, que siguen el consejo");
     app.add_option("--procesos", opciones.procesos, "procesos a la vez; 0, uno por núcleo")
         ->capture_default_str();
     app.add_flag("--firma", opciones.firma, "un número sobre todo lo decidido");

@@ -42,6 +42,16 @@ void SientaAlAzar() {
     estado.SentidoJuego = static_cast<Integer>(AzarEntre(2));
 }
 
+// Who plays by hand sees the cards, and here takes what the wait proposes.
+void RepartePersonas(bool al_azar) {
+    for (int asiento = 1; asiento <= 4; ++asiento) {
+        const bool persona = al_azar && AzarEntre(2) == 1;
+        estado.ControlJugador(asiento) = persona ? kManual : kAutomatico;
+        if (persona)
+            estado.CartasJugador(asiento) = kVisibles;
+    }
+}
+
 bool SonDeAsientos(const std::vector<int>& numeros, int desde, int hasta) {
     if (numeros.empty())
         return true;
@@ -113,9 +123,9 @@ void Simulacion::PreparaPartida(std::int64_t n) {
     estado.SentidoJuego = static_cast<Integer>(opciones_.sentido);
     if (opciones_.azar)
         SientaAlAzar();
+    RepartePersonas(opciones_.personas);
     for (int asiento = 1; asiento <= 4; ++asiento) {
         const auto i = static_cast<std::size_t>(asiento - 1);
-        estado.ControlJugador(asiento) = kAutomatico;
         estado.EstadoJugador(asiento) = asiento <= opciones_.asientos ? kActivado : kDesactivado;
         if (!opciones_.niveles.empty())
             estado.NivelJugador(asiento) = static_cast<Integer>(opciones_.niveles[i]);

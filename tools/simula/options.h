@@ -17,8 +17,9 @@ struct OpcionesSimula {
     std::vector<int> niveles; // of seats 1..4; empty for the default ones
     std::vector<int> caracteres;
     int sentido = 1;
-    bool azar = false; // levels, characters, names and direction of each match from its seed
-    int procesos = 0;  // 0: as many as the machine has cores
+    bool azar = false;     // levels, characters, names and direction of each match from its seed
+    bool personas = false; // who plays by hand, from the seed of each match; nobody otherwise
+    int procesos = 0;      // 0: as many as the machine has cores
     bool firma = false;
     bool revisa = true; // what must hold, at the end of each hand and of each match
 };
