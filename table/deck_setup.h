@@ -5,13 +5,13 @@
 
 // The sizes of a deck and its deal, as the rules of each game give them.
 struct MedidasBaraja {
-    Integer tipo; // kBarajaEspanola or kBarajaFrancesa
-    Integer valores_por_palo;
+    Integer tipo = 0; // kBarajaEspanola or kBarajaFrancesa
+    Integer valores_por_palo = 0;
     Integer comodines = 0;
     Integer mazos = 1;
-    Integer reparto; // cards dealt to a seat
-    Integer paso;    // cards at a time
-    Integer max_mano;
+    Integer reparto = 0; // cards dealt to a seat
+    Integer paso = 0;    // cards at a time
+    Integer max_mano = 0;
 };
 
 // TipoBaraja, ValoresPorPalo, CartasNormales, ComodinesBaraja, TotalBaraja, MazosBaraja, CartasReparto,

@@ -56,15 +56,15 @@ bool PreparaEntorno(int argc, char** argv) {
     return sin_ventana || hay_pantalla;
 }
 
-void Presenta(QApplication& programa) {
-    programa.setApplicationName(QStringLiteral("zovin"));
-    programa.setApplicationVersion(QStringLiteral(ZOVIN_VERSION));
-    programa.setDesktopFileName(QStringLiteral("local.zovin.Zovin"));
-    programa.setQuitOnLastWindowClosed(false);
+void Presenta() {
+    QApplication::setApplicationName(QStringLiteral("zovin"));
+    QApplication::setApplicationVersion(QStringLiteral(ZOVIN_VERSION));
+    QApplication::setDesktopFileName(QStringLiteral("local.zovin.Zovin"));
+    QApplication::setQuitOnLastWindowClosed(false);
     QIcon icono;
     for (const int lado : {16, 32, 48, 64, 128})
         icono.addFile(QStringLiteral(":/arte/zovin-%1.png").arg(lado), QSize(lado, lado));
-    programa.setWindowIcon(icono);
+    QApplication::setWindowIcon(icono);
 }
 
 // Qt's own words, as in the file dialogs, in the program's language.
@@ -117,7 +117,7 @@ int main(int argc, char** argv) {
         return 1;
     }
     QApplication programa(argc, argv);
-    Presenta(programa);
+    Presenta();
     QTranslator traductor;
     HablaEspanol(traductor);
     try {

@@ -208,7 +208,7 @@ QImage Imagenes::Carta(const ImagenCarta& carta) const {
 QImage Imagenes::MiniCarta(const ImagenCarta& carta, const QSize& tamano) const {
     const QImage entera = Derecha(carta);
     if (entera.isNull())
-        return entera;
+        return {};
     QImage esquina = entera.copy(QRect({0, 0}, tamano.boundedTo(entera.size())));
     const double grueso = ratio_;
     const double radio = kRadioMiniCarta * ratio_;
