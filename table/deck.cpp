@@ -110,8 +110,11 @@ void OrdenarMano(Integer asiento) {
     if (juego.clave_orden == nullptr)
         return;
     const Integer serie = estado.SerieActual;
+    CompactarMano(asiento);
     std::vector<CartaConClave> cartas;
-    for (int lugar = 1; lugar <= estado.NumCartas(asiento, serie); ++lugar) {
+    for (int lugar = 1; lugar <= estado.NumCartas(asiento, serie) &&
+                        estado.Mano(asiento, serie, lugar, kPalo) != kSinCarta;
+         ++lugar) {
         CartaConClave carta;
         for (int campo = 0; campo <= 5; ++campo) {
             carta.campos[static_cast<std::size_t>(campo)] =

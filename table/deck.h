@@ -17,10 +17,10 @@ void Barajar();
 // n more cards for SerieActual of the seat, covered or not. Writes Mano, NumCartas, CartasEnMazo, PosicionMazo.
 void RobarCartas(Integer asiento, Integer n, Integer tapada);
 
-// The cards of SerieActual in the order that the game shows them.
+// The cards of SerieActual in the order that the game shows them; the place of a played card is closed up.
 void OrdenarMano(Integer asiento);
 
-// Closes the gaps of the seat's Mano in SerieActual, order kept, and recounts NumCartas... of that serie.
+// Closes the gaps of the seat's Mano in SerieActual, order kept. NumCartas stays as it is.
 void CompactarMano(Integer asiento);
 
 // A face-up or covered card for place lugar of a serie, all fields written.
