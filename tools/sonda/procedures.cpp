@@ -46,6 +46,11 @@ void RatonSuelta(int, int, int, int) {
     Form_MouseUp();
 }
 
+// A click has no place of its own: it is where the button went down.
+void Clic() {
+    Form_Click(estado.RatonX, estado.RatonY);
+}
+
 void Tecla(int tecla) {
     DespachaEvento({.tipo = TipoEvento::Tecla, .tecla = tecla});
 }
@@ -139,7 +144,7 @@ const std::unordered_map<std::string, Llamada>& LaTabla() {
         {"Form_MouseMove", Llama(&RatonMueve)},
         {"Form_MouseDown", Llama(&RatonPulsa)},
         {"Form_MouseUp", Llama(&RatonSuelta)},
-        {"Form_Click", Llama(&Form_Click)},
+        {"Form_Click", Llama(&Clic)},
         {"Form_KeyPress", Llama(&Tecla)},
 
         // Messages, tips and pacing.
