@@ -273,6 +273,17 @@ private Q_SLOTS:
         }));
     }
 
+    void AClickOnTheWordsOfACheckBoxInvertsItToo() {
+        QVERIFY(Con(AbreVistaPersonal, [](Abierta& forma) {
+            auto& pausa = forma.En<QAbstractButton>("Pic_Buleano_2");
+            const QPoint palabras(pausa.width() - 3, pausa.height() / 2);
+            QTest::mouseClick(&pausa, Qt::LeftButton, {}, palabras);
+            QVERIFY(!estado.PausaEntreJugadas);
+            QTest::mouseClick(&pausa, Qt::LeftButton, {}, palabras);
+            QVERIFY(estado.PausaEntreJugadas);
+        }));
+    }
+
     void EscIsTheExitButton() {
         for (const Abre abre : {AbreVistaPersonal, AbreVistaNormas}) {
             mesa_.sonidos.clear();
