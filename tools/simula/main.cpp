@@ -54,7 +54,8 @@ void Cuenta(const OpcionesSimula& opciones, const Totales& totales, double segun
 
 } // namespace
 
-int main(int argc, char** argv) {
+// What nobody catches ends the tool with its words, as it should.
+int main(int argc, char** argv) { // NOLINT(bugprone-exception-escape)
     OpcionesSimula opciones;
     CLI::App app{"Partidas automáticas sin pantalla"};
     PonOpciones(app, opciones);

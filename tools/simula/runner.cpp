@@ -110,6 +110,7 @@ Totales Simula(const OpcionesSimula& opciones) {
     if (procesos == 1)
         return JuegaParte(opciones, 0, 1);
     std::vector<Obrero> obreros;
+    obreros.reserve(static_cast<std::size_t>(procesos));
     for (int parte = 0; parte < procesos; ++parte)
         obreros.push_back(Contrata(opciones, parte, procesos));
     Totales totales;

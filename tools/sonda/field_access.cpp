@@ -42,7 +42,7 @@ template <class T>
 std::array<int, T::kDimensiones> IndicesDe(std::size_t celda) {
     std::array<int, T::kDimensiones> indices{};
     for (std::size_t d = T::kDimensiones; d-- > 0;) {
-        const auto cuantos = static_cast<std::size_t>(T::kTopes[d] + 1);
+        const auto cuantos = static_cast<std::size_t>(T::kTopes[d]) + 1;
         indices[d] = static_cast<int>(celda % cuantos);
         celda /= cuantos;
     }

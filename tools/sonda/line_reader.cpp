@@ -52,7 +52,7 @@ std::string Lector::Palabra() {
     std::size_t n = 0;
     while (n < resto_.size() && !EsBlanco(resto_[n]))
         ++n;
-    const std::string palabra(resto_.substr(0, n));
+    std::string palabra(resto_.substr(0, n));
     resto_.remove_prefix(n);
     return palabra;
 }
@@ -64,7 +64,7 @@ std::string Lector::Identificador() {
         ++n;
     if (n == 0 || (resto_.front() >= '0' && resto_.front() <= '9'))
         throw ErrorConsola("falta un nombre");
-    const std::string nombre(resto_.substr(0, n));
+    std::string nombre(resto_.substr(0, n));
     resto_.remove_prefix(n);
     return nombre;
 }

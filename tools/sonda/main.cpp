@@ -9,7 +9,8 @@
 #include "tools/sonda/console.h"
 #include "tools/sonda/picture_view.h"
 
-int main(int argc, char** argv) {
+// What nobody catches ends the tool with its words, as it should.
+int main(int argc, char** argv) { // NOLINT(bugprone-exception-escape)
     CLI::App app{"Consola de líneas de la lógica de los juegos"};
     std::string carpeta;
     app.add_option("--carpeta", carpeta, "carpeta de los ficheros, en vez de la memoria");

@@ -78,7 +78,8 @@ bool EmpiezaJuego() {
     return estado.JuegoActivo == kCinquillo ? IniciarJuego() : IniciarJuego(DescubreTriunfo);
 }
 
-const std::unordered_map<std::string, Llamada>& LaTabla() {
+// One line a procedure that the console knows.
+const std::unordered_map<std::string, Llamada>& LaTabla() { // NOLINT(readability-function-size)
     static const std::unordered_map<std::string, Llamada> kTabla{
         // State and match.
         {"SiguienteAsiento", Llama(&SiguienteAsiento)},

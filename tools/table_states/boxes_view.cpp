@@ -10,11 +10,11 @@
 namespace {
 
 struct CasoCaja {
-    const char* nombre;
-    const char* titulo;
-    const char* texto;
-    int lineas; // 0: as many as the text takes
-    int modo;
+    const char* nombre = "";
+    const char* titulo = "";
+    const char* texto = "";
+    int lineas = 0; // 0: as many as the text takes
+    int modo = 1;
     bool aceptar = false;
 };
 

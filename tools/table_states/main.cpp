@@ -70,7 +70,7 @@ QImage Trozo(const QImage& cuadro, const Rectangulo& r, double ratio) {
 struct Taller {
     PlataformaCuadro& mesa;
     QSize tamano;
-    double ratio;
+    double ratio = 1;
     QString Sufijo() const {
         return QStringLiteral("-%1x%2@%3")
             .arg(tamano.width())
