@@ -7,7 +7,7 @@
 #include "platform/canvas.h"
 
 struct Estampa {
-    const char* nombre;
+    const char* nombre = "";
     void (*prepara)(int vez); // vez from 1; the table is new
     int veces = 1;            // so many states
     Rectangulo (*trozo)(int) =
