@@ -8,11 +8,10 @@
 
 struct Estampa {
     const char* nombre = "";
-    void (*prepara)(int vez); // vez from 1; the table is new
-    int veces = 1;            // so many states
-    Rectangulo (*trozo)(int) =
-        nullptr; // what of the table is kept of each, the states then stand in one
-                 // picture; empty: all of it, a picture each
+    void (*prepara)(int vez) = nullptr; // vez from 1; the table is new
+    int veces = 1;                      // so many states
+    // What of the table is kept of each, the states then stand in one picture. Empty: all of it, a picture each.
+    Rectangulo (*trozo)(int) = nullptr;
 };
 
 const std::vector<Estampa>& Estampas();
