@@ -24,8 +24,8 @@ struct FilaJuego {
 
     Integer minimo_asientos = 2; // so many seats play at least
     bool sin_parejas = false;    // everybody plays alone, whatever ModalidadJuego was
-    Integer asiento_banca =
-        0; // the computer holds the bank there for good, and all cards lie open; 0: nowhere
+    // The computer holds the bank there for good, and all cards lie open; 0: nowhere.
+    Integer asiento_banca = 0;
     bool con_dinero = false;      // the seats get RestoInicial in chips
     bool sortea_inicio = true;    // a match begins with the draw for the first player
     bool sorteo_da_banca = false; // ... and it decides JugadorBanca instead of JugadorMano
@@ -84,6 +84,12 @@ struct FilaJuego {
     Integer (*banca_siguiente)() = nullptr;
     // More to clear at a new match.
     void (*nueva_partida)() = nullptr;
+
+    // The page of statistics; the figure of a seat in the history; the page of the report. A report whose hook
+    // is empty is not on offer for the game.
+    void (*pagina_estadistica)(Lienzo& lienzo) = nullptr;
+    Integer (*cifra_historico)(Integer asiento) = nullptr;
+    void (*pagina_informe)(int pagina) = nullptr;
 };
 
 // The row of a game; nullptr for a number that is no game.
