@@ -1,5 +1,7 @@
 #include "platform/qt/felt.h"
 
+#include <QCursor>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -96,11 +98,15 @@ void Tapete::resizeEvent(QResizeEvent*) {
 }
 
 void Tapete::Avisa(TipoEvento tipo, const QMouseEvent& evento) {
+    Avisa(tipo, evento.position(), evento.button() == Qt::RightButton ? 2 : 1);
+}
+
+void Tapete::Avisa(TipoEvento tipo, QPointF donde, int boton) {
     Evento raton;
     raton.tipo = tipo;
-    raton.x = static_cast<int>(std::floor(evento.position().x()));
-    raton.y = static_cast<int>(std::floor(evento.position().y()));
-    raton.boton = evento.button() == Qt::RightButton ? 2 : 1;
+    raton.x = static_cast<int>(std::floor(donde.x()));
+    raton.y = static_cast<int>(std::floor(donde.y()));
+    raton.boton = boton;
     cola_.Pon(raton);
 }
 
@@ -135,6 +141,15 @@ void Tapete::mouseMoveEvent(QMouseEvent* evento) {
         Avisa(TipoEvento::RatonSuelta, *evento);
     }
     Avisa(TipoEvento::RatonMueve, *evento);
+}
+
+// A press that waits in the queue when a dialog opens has its release swallowed: without this its card would hang on
+// the pointer until the next move.
+void Tapete::TrasUnDialogo() {
+    if (!apretado_ || (QGuiApplication::mouseButtons() & kBotones) != Qt::NoButton)
+        return;
+    apretado_ = false;
+    Avisa(TipoEvento::RatonSuelta, mapFromGlobal(QPointF(QCursor::pos())), 1);
 }
 
 void Tapete::keyPressEvent(QKeyEvent* evento) {

@@ -42,6 +42,8 @@ public:
     CapaVuelo& ElVuelo() { return vuelo_; }
     void PonPuntero(Puntero puntero);
     Puntero ElPuntero() const { return puntero_; }
+    // A dialog stood before the table: what was let go over it is told now.
+    void TrasUnDialogo();
     // Called, outside of painting, when the screen has another pixel ratio than the pictures.
     std::function<void()> al_cambiar_ratio;
 
@@ -57,6 +59,7 @@ protected:
 
 private:
     void Avisa(TipoEvento tipo, const QMouseEvent& evento);
+    void Avisa(TipoEvento tipo, QPointF donde, int boton);
 
     Imagenes& imagenes_;
     ColaEventos& cola_;

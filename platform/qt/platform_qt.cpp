@@ -290,7 +290,9 @@ Boton PlataformaQt::Pregunta(const CajaMensaje& caja) {
                                    ventana_->viewport()->size() - QSize(kAnchoBotonera, 0))
                            : pantalla;
     dialogo.CentraEn(caja.centrada ? pantalla : mesa);
-    return dialogo.Responde();
+    const Boton respuesta = dialogo.Responde();
+    mesa_->TrasUnDialogo();
+    return respuesta;
 }
 
 void PlataformaQt::Abre(Forma forma) {
@@ -299,6 +301,7 @@ void PlataformaQt::Abre(Forma forma) {
         return;
     mesa_->update(Sucio());
     abre->second(Padre());
+    mesa_->TrasUnDialogo();
 }
 
 bool PlataformaQt::TieneForma(Forma forma) const {

@@ -92,6 +92,24 @@ private Q_SLOTS:
         QVERIFY(tipos.back() == TipoEvento::RatonSuelta);
     }
 
+    // The press is still in the queue when the box opens; its release goes to nobody.
+    void LoQueSeSueltaSobreUnaCajaSeDiceDespues() {
+        QWindow* ventana = mesa_->Ventana().windowHandle();
+        QTest::mousePress(ventana, Qt::LeftButton, {}, {5, 5});
+        QTimer cierra;
+        connect(&cierra, &QTimer::timeout, Tapete(), [ventana] {
+            if (QWidget* caja = QApplication::activeModalWidget(); caja != nullptr) {
+                QTest::mouseRelease(ventana, Qt::LeftButton, {}, {5, 5});
+                caja->close();
+            }
+        });
+        cierra.start(10);
+        mesa_->Pregunta({.titulo = "Una", .texto = "Hola", .lineas = 1, .modo = 1});
+        const auto tipos = Tipos();
+        QCOMPARE(std::ranges::count(tipos, TipoEvento::RatonSuelta), 1);
+        QVERIFY(tipos.back() == TipoEvento::RatonSuelta);
+    }
+
     void LosMovimientosSeFundenHastaElUltimo() {
         for (int x = 10; x < 60; ++x)
             QTest::mouseMove(Tapete(), {x, 20});
