@@ -67,6 +67,8 @@ void AnunciaContinuacion() {
 void BorraManos() {
     for (Integer asiento = 1; asiento <= 4; ++asiento)
         VaciaMano(asiento);
+    bazas.CartaJugada.Borra();
+    bazas.CartaEnMesa.Borra();
     estado.PaloTriunfo = 0;
     estado.ValorTriunfo = 0;
     estado.GanadorBaza = 0;

@@ -97,6 +97,15 @@ TEST_F(Partida, SinPartidaGuardadaLaMesaQuedaVacia) {
         EXPECT_FALSE(p.EstaVisible(Control::Pic_Tantos, indice));
 }
 
+// A new size paints the table from the state: what lay there in the last match would come back.
+TEST_F(Partida, LoJugadoEnLaSesionAnteriorNoVuelveALaMesa) {
+    bazas.CartaJugada(kOros, 5) = 2;
+    bazas.CartaEnMesa(2, 1) = kOros;
+    IniciarSesion();
+    EXPECT_EQ(bazas.CartaJugada(kOros, 5), 0);
+    EXPECT_EQ(bazas.CartaEnMesa(2, 1), kSinCarta);
+}
+
 TEST_F(Partida, UnaPartidaGuardadaSigueDondeQuedo) {
     HayPartidaGuardada();
     IniciarSesion();
