@@ -13,8 +13,6 @@
 #include "tests/support/live_table.h"
 
 using namespace prueba;
-using testing::Contains;
-using testing::Each;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
