@@ -1,76 +1,20 @@
-// The two forms as dialogs: reached by keyboard, spoken by name, dragged, held, typed into.
+// What the two forms have in common as dialogs: reached by keyboard, spoken by name, waiting with the desktop.
 
-#include <QAbstractButton>
-#include <QApplication>
-#include <QDialog>
-#include <QElapsedTimer>
 #include <QLineEdit>
-#include <QSlider>
 #include <QTemporaryDir>
-#include <QTest>
-#include <QTimer>
-#include <functional>
 #include <set>
 
-#include "core/game_state.h"
-#include "core/match_driver.h"
-#include "forms/controls_view.h"
 #include "forms/normas.h"
 #include "forms/normas_view.h"
 #include "forms/personal.h"
 #include "forms/personal_view.h"
 #include "forms/selector.h"
-#include "games/game_table.h"
-#include "platform/headless/headless_platform.h"
 #include "platform/qt/platform_qt.h"
-#include "platform/qt/pointers.h"
-#include "table/table_ops.h"
+#include "tests/gui/open_form.h"
+
+using namespace prueba;
 
 namespace {
-
-using Abre = void (*)(QWidget*);
-
-// The open form and its controls by name.
-class Abierta {
-public:
-    explicit Abierta(QDialog& cual) : dialogo(cual) {}
-
-    template <class T = QWidget>
-    T& En(const QString& nombre) {
-        T* control = dialogo.findChild<T*>(nombre);
-        if (control == nullptr)
-            qFatal("no hay %s", qPrintable(nombre));
-        return *control;
-    }
-    QAbstractButton& Selector(int control) {
-        return En<QAbstractButton>(QStringLiteral("Pic_Selector_%1").arg(control));
-    }
-    bool Hay(const QString& nombre) { return dialogo.findChild<QWidget*>(nombre) != nullptr; }
-    // On the arrow, as with the mouse.
-    void Pulsa(int control) {
-        auto& vista = En<SelectorVista>(QStringLiteral("Pic_Selector_%1").arg(control));
-        QTest::mouseClick(&vista, Qt::LeftButton, {}, vista.Flecha().center());
-    }
-    void Sal() { QTest::mouseClick(&En("Pic_BotSalir"), Qt::LeftButton); }
-
-    QDialog& dialogo;
-};
-
-// Opens a form, does something to it, and takes it away when it is still there afterwards.
-bool Con(Abre abre, const std::function<void(Abierta&)>& hace) {
-    bool hecho = false;
-    QTimer::singleShot(0, [&] {
-        auto* dialogo = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        if (dialogo == nullptr || !QTest::qWaitForWindowActive(dialogo))
-            return;
-        Abierta abierta(*dialogo);
-        hace(abierta);
-        hecho = true;
-        dialogo->done(QDialog::Rejected);
-    });
-    abre(nullptr);
-    return hecho;
-}
 
 bool EstaDentro(const QWidget& control, const QWidget& ventana) {
     const QRect sitio(control.mapTo(&ventana, QPoint(0, 0)), control.size());
@@ -79,30 +23,8 @@ bool EstaDentro(const QWidget& control, const QWidget& ventana) {
 
 } // namespace
 
-class PruebaFormas : public QObject {
+class PruebaFormas : public QObject, protected MesaDeFormas {
     Q_OBJECT
-
-    PlataformaSinPantalla mesa_;
-
-    void Empieza(Integer juego) {
-        UsaPlataforma(mesa_);
-        mesa_.Limpia();
-        estado = {};
-        sesion = {};
-        PonValoresPorDefecto();
-        estado.JuegoActivo = juego;
-        estado.VelocidadJuego = 50;
-        estado.SonidoActivo = true;
-        CalcularMesa();
-        IniciarTablas();
-        mesa_.sonidos.clear();
-    }
-    std::vector<int> Sonidos() {
-        std::vector<int> ids;
-        for (const SonidoPedido& sonido : mesa_.sonidos)
-            ids.push_back(sonido.id);
-        return ids;
-    }
 
 private Q_SLOTS:
     void init() { Empieza(kTute); }
@@ -295,134 +217,6 @@ private Q_SLOTS:
         }
     }
 
-    // ---- Personal
-
-    void OnlyTheArrowOfASelectorTakesTheMouse() {
-        QVERIFY(Con(AbreVistaPersonal, [](Abierta& forma) {
-            QTest::mouseClick(&forma.Selector(kSelSentido), Qt::LeftButton, {}, QPoint(20, 30));
-            QCOMPARE(estado.SentidoJuego, kDirecto);
-            forma.Pulsa(kSelSentido);
-            QCOMPARE(estado.SentidoJuego, kInverso);
-        }));
-    }
-
-    void ThePictureOfTheDirectionFlips() {
-        QVERIFY(Con(AbreVistaPersonal, [](Abierta& forma) {
-            QWidget& rosa = forma.En("Pic_Sentido");
-            const QImage directo = rosa.grab().toImage();
-            forma.Pulsa(kSelSentido);
-            QVERIFY(rosa.grab().toImage() != directo);
-            forma.Pulsa(kSelSentido);
-            QCOMPARE(rosa.grab().toImage(), directo);
-        }));
-    }
-
-    void ASeatThatIsSwitchedOffHidesItsSettings() {
-        QVERIFY(Con(AbreVistaPersonal, [](Abierta& forma) {
-            const QSize antes = forma.dialogo.size();
-            forma.Pulsa(kSelEstado + 3);
-            QVERIFY(!forma.Selector(kSelControl + 3).isVisible());
-            QVERIFY(!forma.En("Pic_Potenciometro_13").isVisible());
-            QVERIFY(forma.En("Txt_Nombre_3").isVisible());
-            QVERIFY(forma.Selector(kSelEstado + 3).isVisible());
-            QCOMPARE(forma.dialogo.size(), antes);
-        }));
-    }
-
-    void TheBankShowsItsNameAndStateOnly() {
-        Empieza(kBlackJack);
-        estado.NombreJugador(2) = "Banca";
-        QVERIFY(Con(AbreVistaPersonal, [](Abierta& forma) {
-            QVERIFY(forma.En<QLineEdit>("Txt_Nombre_2").isReadOnly());
-            QCOMPARE(forma.En<QLineEdit>("Txt_Nombre_2").text(), QString("Banca"));
-            QVERIFY(!forma.Selector(kSelCartas + 2).isVisible());
-            QVERIFY(!forma.Selector(kSelCaracter + 2).isVisible());
-        }));
-    }
-
-    void ANameIsFormedWhileItIsTyped() {
-        QVERIFY(Con(AbreVistaPersonal, [](Abierta& forma) {
-            auto& nombre = forma.En<QLineEdit>("Txt_Nombre_1");
-            nombre.setFocus();
-            nombre.selectAll();
-            QTest::keyClicks(&nombre, " maRÍA, ruiz");
-            QCOMPARE(nombre.text(), QString("María Rui"));
-            QCOMPARE(nombre.cursorPosition(), 9);
-            nombre.setCursorPosition(1);
-            QTest::keyClicks(&nombre, "x");
-            QCOMPARE(nombre.text(), QString("Mxaría Ru"));
-            QCOMPARE(nombre.cursorPosition(), 2);
-            QCOMPARE(estado.NombreJugador(1), std::string("Mxaría Ru"));
-        }));
-    }
-
-    void AKnobIsDraggedByTheMousesChange() {
-        QVERIFY(Con(AbreVistaPersonal, [](Abierta& forma) {
-            auto& nivel = forma.En<DeslizadorVista>("Pic_Potenciometro_11");
-            const QPoint desde = nivel.Pomo().center() + QPoint(3, 2);
-            QTest::mouseMove(&nivel, desde);
-            QCOMPARE(nivel.cursor().pixmap().toImage(),
-                     CursorDe(Puntero::Ordenar).pixmap().toImage());
-            QTest::mousePress(&nivel, Qt::LeftButton, {}, desde);
-            QTest::mouseMove(&nivel, desde + QPoint(20, 0));
-            const Integer tras_20 = estado.NivelJugador(1);
-            QVERIFY(tras_20 > 60 && tras_20 < 90);
-            QTest::mouseMove(&nivel, desde + QPoint(300, 0));
-            QCOMPARE(estado.NivelJugador(1), Integer{100});
-            QTest::mouseMove(&nivel, desde - QPoint(300, 0));
-            QCOMPARE(estado.NivelJugador(1), Integer{0});
-            QTest::mouseMove(&nivel, desde + QPoint(20, 0));
-            QCOMPARE(estado.NivelJugador(1), tras_20);
-            QTest::mouseRelease(&nivel, Qt::LeftButton, {}, desde + QPoint(20, 0));
-            for (int x : {5, 10, 15})
-                QTest::mouseMove(&nivel, desde - QPoint(x, 0));
-            QCOMPARE(estado.NivelJugador(1), tras_20);
-            QTRY_COMPARE(nivel.cursor().shape(), Qt::ArrowCursor);
-        }));
-    }
-
-    void APressBesideTheKnobMovesNothing() {
-        QVERIFY(Con(AbreVistaPersonal, [](Abierta& forma) {
-            auto& nivel = forma.En<DeslizadorVista>("Pic_Potenciometro_11");
-            QTest::mouseClick(&nivel, Qt::LeftButton, {}, nivel.Pomo().center() + QPoint(40, 0));
-            QCOMPARE(estado.NivelJugador(1), Integer{50});
-        }));
-    }
-
-    void AQuestionIsAskedOverWhatWasJustPressed() {
-        QString al_preguntar;
-        mesa_.respuestas = {Boton::No};
-        QVERIFY(Con(AbreVistaPersonal, [&](Abierta& forma) {
-            forma.Pulsa(kSelCartas + 4);
-            QCOMPARE(forma.Selector(kSelCartas + 4).accessibleName(),
-                     QString("Cartas del jugador (abajo): Visibles"));
-            QCOMPARE(static_cast<int>(mesa_.mensajes.size()), 1);
-        }));
-    }
-
-    void AClosingThatIsRefusedLeavesTheFormOpen() {
-        QVERIFY(Con(AbreVistaPersonal, [this](Abierta& forma) {
-            for (int asiento : {1, 2, 3})
-                forma.Pulsa(kSelEstado + asiento);
-            forma.Sal();
-            QVERIFY(forma.dialogo.isVisible());
-            QCOMPARE(mesa_.mensajes.back().titulo, std::string("Número de Jugadores"));
-            forma.dialogo.close();
-            QVERIFY(forma.dialogo.isVisible());
-            forma.Pulsa(kSelEstado + 1);
-            forma.Sal();
-            QVERIFY(!forma.dialogo.isVisible());
-        }));
-        QCOMPARE(estado.NumJugadores, Integer{2});
-        QVERIFY(!personal::Abierta());
-    }
-
-    void TakenAwayFromOutsideItPutsTheSeatsBack() {
-        QVERIFY(Con(AbreVistaPersonal, [](Abierta& forma) { forma.Pulsa(kSelEstado + 1); }));
-        QCOMPARE(estado.EstadoJugador(1), kActivado);
-        QVERIFY(!personal::Abierta());
-    }
-
     void TheHelpButtonsOpenTheirTopics() {
         for (const Abre abre : {AbreVistaPersonal, AbreVistaNormas}) {
             QVERIFY(Con(abre, [](Abierta& forma) {
@@ -430,155 +224,6 @@ private Q_SLOTS:
             }));
         }
         QCOMPARE(mesa_.temas_ayuda, (std::vector<int>{2210, 2200}));
-    }
-
-    // ---- Normas
-
-    void ThePokerFormIsTheWiderOne() {
-        int ancho_tute = 0;
-        QVERIFY(Con(AbreVistaNormas, [&](Abierta& f) { ancho_tute = f.dialogo.width(); }));
-        Empieza(kPoker);
-        QVERIFY(Con(AbreVistaNormas, [&](Abierta& forma) {
-            QVERIFY(forma.dialogo.width() > ancho_tute + 100);
-            const auto y = [&](const char* nombre) {
-                return forma.En(nombre).mapTo(&forma.dialogo, QPoint(0, 0)).y();
-            };
-            QCOMPARE(y("Pic_Selector_5") - y("Pic_Selector_1"), 60);
-            QCOMPARE(y("Pic_Selector_2") - y("Pic_Selector_3"), 60);
-            QCOMPARE(y("Pic_Spin_22") - y("Pic_Spin_21"), 60);
-            QCOMPARE(y("Pic_Spin_21"), y("Pic_Selector_1"));
-        }));
-    }
-
-    void InBlackJackThereAreTheListAndTwoNumbers() {
-        Empieza(kBlackJack);
-        QVERIFY(Con(AbreVistaNormas, [](Abierta& forma) {
-            QVERIFY(forma.Hay("Tex_Spin_21") && forma.Hay("Tex_Spin_23"));
-            QVERIFY(!forma.Hay("Tex_Spin_22") && !forma.Hay("Tex_Spin_24"));
-            QVERIFY(forma.dialogo.findChildren<SelectorVista*>().isEmpty());
-        }));
-    }
-
-    void AHeldArrowKeepsSteppingUntilItIsReleased() {
-        QVERIFY(Con(AbreVistaNormas, [this](Abierta& forma) {
-            QWidget& flecha = forma.En("Pic_SpinSube_24");
-            QCOMPARE(flecha.size(), QSize(15, 9));
-            const QImage arriba = flecha.grab().toImage();
-            QTest::mousePress(&flecha, Qt::LeftButton);
-            QCOMPARE(estado.LimitePartida, Integer{4});
-            QCOMPARE(flecha.cursor().shape(), Qt::BlankCursor);
-            QVERIFY(flecha.grab().toImage() != arriba);
-            QTRY_COMPARE_WITH_TIMEOUT(estado.LimitePartida, Integer{7}, 2000);
-            QTest::mouseRelease(&flecha, Qt::LeftButton);
-            QCOMPARE(flecha.cursor().shape(), Qt::ArrowCursor);
-            const Integer al_soltar = estado.LimitePartida;
-            QTest::qWait(400);
-            QCOMPARE(estado.LimitePartida, al_soltar);
-            QCOMPARE(flecha.grab().toImage(), arriba);
-            QCOMPARE(forma.En<QLineEdit>("Tex_Spin_24").text(), QString::number(al_soltar));
-            QCOMPARE(Sonidos(), std::vector<int>(static_cast<std::size_t>(al_soltar - 3), 4));
-        }));
-    }
-
-    void AStepOfAHeldArrowTakesTwice60AtTheMiddleSpeed() {
-        QVERIFY(Con(AbreVistaNormas, [](Abierta& forma) {
-            QWidget& flecha = forma.En("Pic_SpinSube_24");
-            QElapsedTimer reloj;
-            reloj.start();
-            QTest::mousePress(&flecha, Qt::LeftButton);
-            QTRY_COMPARE_WITH_TIMEOUT(estado.LimitePartida, Integer{6}, 5000);
-            QTest::mouseRelease(&flecha, Qt::LeftButton);
-            QVERIFY2(reloj.elapsed() >= 230, qPrintable(QString::number(reloj.elapsed())));
-        }));
-    }
-
-    void AClickOnAnArrowIsOneStepAlsoAtFullSpeed() {
-        estado.VelocidadJuego = 100;
-        QVERIFY(Con(AbreVistaNormas, [](Abierta& forma) {
-            QWidget& flecha = forma.En("Pic_SpinBaja_24");
-            QTest::mousePress(&flecha, Qt::LeftButton);
-            QTest::mouseRelease(&flecha, Qt::LeftButton, {}, {}, 50);
-            QTest::qWait(200);
-            QCOMPARE(estado.LimitePartida, Integer{2});
-        }));
-    }
-
-    void AHeldArrowStopsAtTheExtreme() {
-        estado.LimitePartida = 998;
-        QVERIFY(Con(AbreVistaNormas, [this](Abierta& forma) {
-            QWidget& flecha = forma.En("Pic_SpinSube_24");
-            QTest::mousePress(&flecha, Qt::LeftButton);
-            QTest::qWait(400);
-            QCOMPARE(estado.LimitePartida, Integer{999});
-            QCOMPARE(Sonidos(), std::vector<int>{4});
-            QTest::mouseRelease(&flecha, Qt::LeftButton);
-        }));
-    }
-
-    void UpAndDownStepFromTheTextBox() {
-        QVERIFY(Con(AbreVistaNormas, [](Abierta& forma) {
-            auto& numero = forma.En<QLineEdit>("Tex_Spin_24");
-            QTest::keyClick(&numero, Qt::Key_Up);
-            QCOMPARE(numero.text(), QString("4"));
-            QTest::keyClick(&numero, Qt::Key_Down);
-            QTest::keyClick(&numero, Qt::Key_Down);
-            QCOMPARE(numero.text(), QString("2"));
-            QCOMPARE(estado.LimitePartida, Integer{2});
-        }));
-    }
-
-    void ATypedNumberOverTheMaximumShowsTheMaximum() {
-        Empieza(kBlackJack);
-        QVERIFY(Con(AbreVistaNormas, [](Abierta& forma) {
-            auto& resto = forma.En<QLineEdit>("Tex_Spin_21");
-            QCOMPARE(resto.text(), QString("200"));
-            resto.selectAll();
-            QTest::keyClicks(&resto, "99");
-            QCOMPARE(resto.text(), QString("99"));
-            QTest::keyClicks(&resto, "9");
-            QCOMPARE(resto.text(), QString("995"));
-            resto.selectAll();
-            QTest::keyClicks(&resto, "doce");
-            QCOMPARE(resto.text(), QString("doce"));
-            QCOMPARE(estado.RestoInicial, Integer{0});
-            forma.Sal();
-        }));
-        QCOMPARE(estado.RestoInicial, Integer{5});
-    }
-
-    void AGameThatCannotBePlayedIsListedAndGrey() {
-        QVERIFY(Con(AbreVistaNormas, [](Abierta& forma) {
-            for (const FilaJuego* fila : FilasDeJuegos()) {
-                const QString nombre = QStringLiteral("Pic_Buleano_%1").arg(fila->id);
-                auto& linea = forma.En<QAbstractButton>(nombre);
-                QCOMPARE(linea.text(), QString::fromUtf8(fila->nombre));
-                QCOMPARE(linea.isChecked(), fila->id == estado.JuegoActivo);
-                QCOMPARE(linea.isEnabled(),
-                         fila->driver != nullptr || fila->id == estado.JuegoActivo);
-            }
-        }));
-    }
-
-    void CancelarPutsTheMarksOfTheListBack() {
-        mesa_.respuestas = {Boton::No};
-        QVERIFY(Con(AbreVistaNormas, [](Abierta& forma) {
-            auto& cinquillo = forma.En<QAbstractButton>("Pic_Buleano_70");
-            QTest::mouseClick(&cinquillo, Qt::LeftButton, {}, QPoint(8, 8));
-            QVERIFY(!cinquillo.isChecked());
-            QVERIFY(forma.En<QAbstractButton>("Pic_Buleano_51").isChecked());
-            QTest::mouseClick(&forma.En("Pic_Buleano_51"), Qt::LeftButton, {}, QPoint(8, 8));
-            QVERIFY(forma.En<QAbstractButton>("Pic_Buleano_51").isChecked());
-        }));
-        QCOMPARE(estado.JuegoActivo, kTute);
-    }
-
-    void AceptarClosesTheFormWithTheNewGame() {
-        mesa_.respuestas = {Boton::Si};
-        QVERIFY(Con(AbreVistaNormas, [](Abierta& forma) {
-            QTest::mouseClick(&forma.En("Pic_Buleano_70"), Qt::LeftButton, {}, QPoint(8, 8));
-            QVERIFY(!forma.dialogo.isVisible());
-        }));
-        QCOMPARE(estado.JuegoActivo, kCinquillo);
     }
 
     // ---- on the desktop

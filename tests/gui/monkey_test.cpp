@@ -13,16 +13,12 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
-#include <QWheelEvent>
-#include <QWindow>
 #include <array>
 #include <atomic>
 #include <chrono>
 #include <cstdio>
 #include <deque>
 #include <functional>
-#include <random>
-#include <stdexcept>
 #include <thread>
 
 #include "core/main_buttons.h"
@@ -30,14 +26,17 @@
 #include "core/settings.h"
 #include "forms/normas_view.h"
 #include "forms/personal_view.h"
-#include "games/game_table.h"
 #include "platform/qt/message_box.h"
 #include "platform/qt/platform_qt.h"
 #include "table/layout.h"
 #include "table/table_ops.h"
 #include "table/waiting.h"
 #include "tests/gui/deck_images.h"
+#include "tests/gui/random_hand.h"
+#include "tests/gui/random_match.h"
 #include "tests/gui/table_checks.h"
+
+using namespace prueba;
 
 namespace {
 
@@ -45,23 +44,6 @@ constexpr int kEventos = 20000;
 constexpr qint64 kMilisegundosLargo = 180'000;
 constexpr int kAccionesPorSesion = 5000;
 constexpr int kPaciencia = 20000; // steps within which a box is answered and a match left
-
-struct Fallo : std::runtime_error {
-    using std::runtime_error::runtime_error;
-};
-
-std::mt19937_64 azar;
-
-int Hasta(int n) {
-    return std::uniform_int_distribution<int>(0, n)(azar);
-}
-bool DeCada(int n) {
-    return Hasta(n - 1) == 0;
-}
-template <class T>
-const T& UnoDe(const std::vector<T>& varios) {
-    return varios[static_cast<std::size_t>(Hasta(static_cast<int>(varios.size()) - 1))];
-}
 
 // Somewhere the pictures differ in a whole square of a few pixels. The edge of a round corner that was painted over
 // itself is thinner.
@@ -117,52 +99,6 @@ private:
     Milisegundos ahora_ = 0;
 };
 
-// The mouse and the keyboard of a machine, as the window system hands them on.
-class Mano {
-public:
-    int eventos = 0;
-
-    void Mueve(QWindow* ventana, const QPoint& donde) {
-        Raton(ventana, donde, Qt::NoButton, QEvent::MouseMove);
-    }
-    void Aprieta(QWindow* ventana, const QPoint& donde, Qt::MouseButton boton) {
-        botones_ |= boton;
-        Raton(ventana, donde, boton, QEvent::MouseButtonPress);
-    }
-    void Suelta(QWindow* ventana, const QPoint& donde, Qt::MouseButton boton) {
-        botones_ &= ~Qt::MouseButtons(boton);
-        Raton(ventana, donde, boton, QEvent::MouseButtonRelease);
-    }
-    // The button is let go where nobody tells the window: under a screen lock, over another desktop.
-    void SueltaSinDecirlo() { botones_ = Qt::NoButton; }
-    // The game has been told that no button is down.
-    bool EstaQuieta() const { return botones_ == Qt::NoButton && botones_dichos_ == Qt::NoButton; }
-
-    void Tecla(QWindow* ventana, Qt::Key tecla, const QString& letra, bool repetida) {
-        ++eventos;
-        QKeyEvent baja(QEvent::KeyPress, tecla, Qt::NoModifier, letra, repetida);
-        QCoreApplication::sendEvent(ventana, &baja);
-    }
-    void Rueda(QWindow* ventana, const QPoint& donde) {
-        ++eventos;
-        QWheelEvent rueda(donde, ventana->mapToGlobal(donde), {}, {0, DeCada(2) ? 120 : -120},
-                          botones_, Qt::NoModifier, Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(ventana, &rueda);
-    }
-
-private:
-    void Raton(QWindow* ventana, const QPoint& donde, Qt::MouseButton boton, QEvent::Type tipo) {
-        ++eventos;
-        botones_dichos_ = botones_;
-        ++hora_;
-        qt_handleMouseEvent(ventana, donde, ventana->mapToGlobal(donde), botones_, boton, tipo,
-                            Qt::NoModifier, hora_);
-    }
-
-    Qt::MouseButtons botones_ = Qt::NoButton, botones_dichos_ = Qt::NoButton;
-    int hora_ = 1;
-};
-
 // Ends the whole test with the seed on the screen when nothing moves any more.
 class Vigia {
 public:
@@ -189,66 +125,6 @@ private:
     std::atomic<int> latidos_ = 0;
     std::jthread hilo_;
 };
-
-// What a session is played with.
-void PonAjustes() {
-    const std::string carpeta = estado.CarpetaPrograma;
-    BorraEstado();
-    PonValoresPorDefecto();
-    estado.SaltoLinea = "\r\n";
-    estado.CarpetaPrograma = estado.CarpetaTrabajo = carpeta;
-    std::vector<Integer> juegos;
-    for (const FilaJuego* fila : FilasDeJuegos()) {
-        if (fila->driver != nullptr && !fila->con_dinero)
-            juegos.push_back(fila->id);
-    }
-    estado.JuegoActivo = UnoDe(juegos);
-    estado.VelocidadJuego = UnoDe(std::vector<Integer>{100, 100, 99, 96, 50, 0});
-    const int activos = estado.JuegoActivo == kCinquillo ? 4 : 2 + Hasta(2);
-    for (int asiento = 1; asiento <= 4; ++asiento) {
-        const bool juega = asiento > 4 - activos;
-        estado.EstadoJugador(asiento) = juega ? kActivado : kDesactivado;
-        estado.ControlJugador(asiento) = DeCada(asiento == 4 ? 5 : 2) ? kAutomatico : kManual;
-        const bool a_la_vista = estado.ControlJugador(asiento) == kManual || DeCada(2);
-        estado.CartasJugador(asiento) = a_la_vista ? kVisibles : kOcultas;
-        estado.NivelJugador(asiento) = static_cast<Integer>(Hasta(100));
-    }
-    CuentaJugadores();
-    estado.ModalidadJuego =
-        activos == 4 && estado.JuegoActivo != kCinquillo && DeCada(2) ? kDosParejas : kIndividual;
-    estado.SistemaReparto = DeCada(3) ? kRepartoManual : kRepartoAutomatico;
-    estado.PausaEntreJugadas = DeCada(2);
-    estado.SentidoJuego = DeCada(2) ? kInverso : kDirecto;
-    estado.VentanaInfo = DeCada(4) ? 2 : 1;
-    estado.LimitePartida = static_cast<Integer>(1 + Hasta(2));
-    sesion = {};
-    if (GrabarIniGeneral() != ErrorArchivo::Ninguno || GrabarIniJuego() != ErrorArchivo::Ninguno)
-        throw Fallo("no se pueden grabar los ajustes");
-}
-
-std::string DiAjustes() {
-    std::string texto = std::string(JuegoEnMesa().nombre) + ", velocidad " +
-                        std::to_string(estado.VelocidadJuego) + ", reparto " +
-                        std::to_string(estado.SistemaReparto) + ", sentido " +
-                        std::to_string(estado.SentidoJuego) + ", pausa " +
-                        (estado.PausaEntreJugadas ? "sí" : "no") + ", asientos ";
-    for (int asiento = 1; asiento <= 4; ++asiento)
-        texto += estado.EstadoJugador(asiento) != kActivado  ? "-"
-                 : estado.ControlJugador(asiento) == kManual ? "m"
-                                                             : "a";
-    return texto;
-}
-
-std::string DiMomento() {
-    std::string texto = JuegoEnMesa().nombre;
-    for (const auto& [nombre, puesta] : {std::pair{"PartidaEnCurso", estado.PartidaEnCurso},
-                                         {"ManoEnCurso", estado.ManoEnCurso},
-                                         {"RepartoEnCurso", estado.RepartoEnCurso},
-                                         {"EsperandoJugada", estado.EsperandoJugada},
-                                         {"ModoOrdenar", estado.ModoOrdenar}})
-        texto += puesta ? std::string(", ") + nombre : "";
-    return texto;
-}
 
 } // namespace
 
