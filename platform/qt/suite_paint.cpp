@@ -10,6 +10,7 @@
 #include <qdrawutil.h>
 
 #include "platform/qt/canvas_qt.h"
+#include "platform/qt/pointers.h"
 #include "platform/qt/sheet_images.h"
 
 namespace {
@@ -69,7 +70,7 @@ void PintaPanel(QPainter& p, const QRect& donde, const QString& titulo) {
 
 BotonSuite::BotonSuite(const QString& texto, QWidget* padre) : QPushButton(texto, padre) {
     setFont(LetraDe({.alto = 14, .negrita = true}));
-    setCursor(Qt::PointingHandCursor);
+    setCursor(CursorDe(Puntero::ManoIndice));
     setAttribute(Qt::WA_Hover);
     setAutoDefault(false);
 }

@@ -8,6 +8,7 @@
 #include <functional>
 
 #include "platform/qt/message_box.h"
+#include "platform/qt/pointers.h"
 
 namespace {
 
@@ -65,6 +66,16 @@ private Q_SLOTS:
         aceptar.aceptar = true;
         CajaQt cuatro(aceptar, nullptr);
         QCOMPARE(Botones(cuatro), (QStringList{"Pic_Si=Aceptar", "Pic_No=Cancelar"}));
+    }
+
+    void LosBotonesLlevanLaManoQueSenala() {
+        const QImage mano = CursorDe(Puntero::ManoIndice).pixmap().toImage();
+        QVERIFY(!mano.isNull());
+        for (int modo : {1, 2, 3}) {
+            CajaQt caja(Caja(modo), nullptr);
+            for (const QPushButton* boton : caja.findChildren<QPushButton*>())
+                QCOMPARE(boton->cursor().pixmap().toImage(), mano);
+        }
     }
 
     void LosBotonesContestan() {
