@@ -16,6 +16,29 @@ class PruebaPersonal : public QObject, protected MesaDeFormas {
 private Q_SLOTS:
     void init() { Empieza(kTute); }
 
+    void TheSelectorsOfASeatAreNarrowerThanTheTables() {
+        QVERIFY(Con(AbreVistaPersonal, [](Abierta& forma) {
+            for (int clase : {kSelEstado, kSelCartas, kSelControl, kSelCaracter}) {
+                for (int asiento = 1; asiento <= 4; ++asiento)
+                    QCOMPARE(forma.Selector(clase + asiento).width(), 145);
+            }
+            QCOMPARE(forma.Selector(kSelSentido).width(), 175);
+            QCOMPARE(forma.Selector(kSelVentana).width(), 175);
+        }));
+    }
+
+    void TheCheckBoxesAndSlidersSayWhatTheyAre() {
+        QVERIFY(Con(AbreVistaPersonal, [](Abierta& forma) {
+            QCOMPARE(forma.En<QAbstractButton>("Pic_Buleano_1").text(), QString("Sonido"));
+            QCOMPARE(forma.En<QAbstractButton>("Pic_Buleano_2").text(),
+                     QString("Pausa entre jugadas"));
+            QCOMPARE(forma.En("Pic_Potenciometro_1").accessibleName(),
+                     QString("Velocidad de juego: 50"));
+            QCOMPARE(forma.En("Pic_Potenciometro_14").accessibleName(),
+                     QString("Nivel de Juego (abajo): 10.0"));
+        }));
+    }
+
     void OnlyTheArrowOfASelectorTakesTheMouse() {
         QVERIFY(Con(AbreVistaPersonal, [](Abierta& forma) {
             QTest::mouseClick(&forma.Selector(kSelSentido), Qt::LeftButton, {}, QPoint(20, 30));

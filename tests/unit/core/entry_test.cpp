@@ -126,7 +126,11 @@ TEST_F(Arranque, UnaPantallaEstrechaPreguntaYCancelarAcabaElPrograma) {
     EXPECT_EQ(escritorio.mensajes[0].modo, 2);
     EXPECT_EQ(escritorio.mensajes[0].lineas, 6);
     EXPECT_TRUE(escritorio.mensajes[0].aceptar);
-    EXPECT_THAT(escritorio.mensajes[0].texto, HasSubstr("actualmente es de (640x480).  Pulse"));
+    EXPECT_EQ(escritorio.mensajes[0].texto,
+              "Este  programa  se  ha  diseñado  para  funcionar  con  una resolución mínima de "
+              "pantalla de 800x600 con profundidad de color de 16 bits o superior.  La resolución "
+              "seleccionada actualmente es de (640x480).  Pulse  Aceptar  para cambiar  la  "
+              "resolución  de  la  pantalla  a  800x600  o  Cancelar  para abandonar el programa.");
 }
 
 TEST_F(Arranque, AceptarDiceQueNoSePuedeCambiarYSigue) {

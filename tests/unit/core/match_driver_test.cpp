@@ -53,6 +53,41 @@ struct Partida : MesaViva {
 
 } // namespace
 
+TEST_F(Partida, CadaSelectorTieneSuTitulo) {
+    IniciarTablas();
+    EXPECT_EQ(estado.TituloSelector(1), " Sistema de reparto  ");
+    EXPECT_EQ(estado.TituloSelector(2), " Ley de apertura  ");
+    EXPECT_EQ(estado.TituloSelector(3), " Comodines en juego  ");
+    EXPECT_EQ(estado.TituloSelector(4), " Modalidad de juego  ");
+    EXPECT_EQ(estado.TituloSelector(5), " Cartas en la baraja  ");
+    EXPECT_EQ(estado.TituloSelector(8), " Sentido del juego  ");
+    EXPECT_EQ(estado.TituloSelector(9), " Ventana de información  ");
+    for (int asiento = 1; asiento <= 4; ++asiento) {
+        EXPECT_EQ(estado.TituloSelector(10 + asiento), " Estado del jugador  ");
+        EXPECT_EQ(estado.TituloSelector(20 + asiento), " Cartas del jugador  ");
+        EXPECT_EQ(estado.TituloSelector(24 + asiento), " Control del juego  ");
+        EXPECT_EQ(estado.TituloSelector(30 + asiento), " Carácter del jugador  ");
+    }
+    for (int ninguno : {6, 7, 10, 15, 20, 29, 30})
+        EXPECT_EQ(estado.TituloSelector(ninguno), "") << ninguno;
+}
+
+TEST_F(Partida, CadaJuegoYCadaNumeroTienenSuNombre) {
+    IniciarTablas();
+    EXPECT_EQ(estado.NombreJuego(kPoker), "Póker");
+    EXPECT_EQ(estado.NombreJuego(kBlackJack), "Black Jack");
+    EXPECT_EQ(estado.NombreJuego(kTute), "Tute");
+    EXPECT_EQ(estado.NombreJuego(kBrisca), "Brisca");
+    EXPECT_EQ(estado.NombreJuego(kSieteYMedia), "Siete y media");
+    EXPECT_EQ(estado.NombreJuego(kCinquillo), "Cinquillo");
+    const std::vector<std::string> numeros(estado.NombreNumero.begin() + 1,
+                                           estado.NombreNumero.end());
+    EXPECT_THAT(numeros,
+                testing::ElementsAre("Una", "Dos", "Tres", "Cuatro", "Cinco", "Seis", "Siete"));
+    const std::vector<Integer> fichas(estado.ValorFicha.begin() + 1, estado.ValorFicha.end());
+    EXPECT_THAT(fichas, testing::ElementsAre(1, 2, 5, 10, 20, 50));
+}
+
 TEST_F(Partida, LasTablasDeCadaSesion) {
     estado.SentidoJuego = kInverso;
     estado.TutorPulsado = estado.EsperandoJugada = estado.VentanaModal = true;

@@ -33,6 +33,13 @@ TEST_F(SpinTest, RangeStepAndDefaultOfEach) {
     CompruebaLimites(kLimite, 1, 999, 1, 3);
 }
 
+TEST_F(SpinTest, TheWordsAboveEach) {
+    EXPECT_STREQ(RotuloSpin(kResto), "Resto inicial...:");
+    EXPECT_STREQ(RotuloSpin(kSalida), "Apuesta de salida...:");
+    EXPECT_STREQ(RotuloSpin(kApuesta), "Apuesta máxima...:");
+    EXPECT_STREQ(RotuloSpin(kLimite), "Límite de la partida...:");
+}
+
 TEST_F(SpinTest, TheWorkingValueGoesBackToItsSetting) {
     LimitesSpin(kLimite);
     spin.valor = 12;
