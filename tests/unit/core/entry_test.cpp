@@ -179,6 +179,16 @@ TEST_F(Arranque, SinFicherosLosCreaYLoDice) {
     EXPECT_FALSE(Hay(EnPrograma("CSCD.WRK")));
 }
 
+TEST_F(Arranque, DondeNoSePuedeEscribirSeJuegaSinGuardarYSeDice) {
+    ProgramaDeSoloLectura();
+    escritorio.guion.Tecla('n');
+    escritorio.guion.PulsaControl({Control::Pic_Boton, kBotonSalir});
+    EXPECT_EQ(ArrancaPrograma(), 1);
+    EXPECT_THAT(TitulosDichos(), testing::Contains("Error al guardar los datos"));
+    EXPECT_FALSE(Hay(EnPrograma("ZOV7031.INI")));
+    EXPECT_FALSE(Hay(EnUsuario("ZOV7031.INI"))) << "what is read there is not written there";
+}
+
 TEST_F(Arranque, CancelarEnLaPantallaEstrechaNoLlegaALaMesa) {
     escritorio.ancho = 640;
     escritorio.respuestas = {Boton::No};
