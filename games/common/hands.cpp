@@ -37,11 +37,15 @@ void CuentaJuego() {
         SueltaJuegoMasAntiguo();
     ++estado.JuegosJugados;
     sesion.mano_apuntada = false;
-    for (int paso = 0; estado.JuegosJugados > 1 && paso < 4; ++paso) {
+}
+
+// The lead goes round from the second game on. A match that was cut off in its draw has none drawn yet, and its
+// file may name a seat that has left since: the next one leads.
+void PasaLaMano() {
+    if (estado.JuegosJugados > 1)
         SiguienteAsiento(estado.JugadorMano);
-        if (estado.EstadoJugador(estado.JugadorMano) == kActivado)
-            return;
-    }
+    for (int paso = 0; paso < 4 && estado.EstadoJugador(estado.JugadorMano) != kActivado; ++paso)
+        SiguienteAsiento(estado.JugadorMano);
 }
 
 void BorraMano() {
@@ -133,6 +137,7 @@ void PonAltura(Integer altura) {
 bool IniciarJuego(void (*al_descubrir)()) {
     AplicaReglasPendientes();
     CuentaJuego();
+    PasaLaMano();
     if (!RepartirHastaCompletar())
         return false;
     if (al_descubrir != nullptr)

@@ -60,6 +60,15 @@ TEST_F(Manos, QuienNoJuegaNoEsMano) {
     EXPECT_EQ(estado.JugadorMano, 1);
 }
 
+// A match that was cut off in the draw comes back with the lead of the match before.
+TEST_F(Manos, QuienYaNoJuegaTampocoEmpiezaElPrimerJuego) {
+    estado.JuegoActivo = kBrisca;
+    Desactiva({2, 3});
+    ASSERT_TRUE(Empieza());
+    EXPECT_EQ(estado.JuegosJugados, 1);
+    EXPECT_EQ(estado.JugadorMano, 4);
+}
+
 TEST_F(Manos, LaManoAnteriorSeBorra) {
     estado.SerieActual = estado.SerieEnJuego = 3;
     estado.NumBaza = 9;
