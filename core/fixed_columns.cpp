@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <optional>
 
 #include "core/numeric.h"
 #include "core/text.h"
@@ -106,8 +107,16 @@ std::string EscribeCampos(const Campos& campos, int ancho) {
 void LeeCampos(std::string_view linea, const Campos& campos) {
     linea.remove_prefix(std::min(linea.find_first_not_of(' '), linea.size()));
     linea = linea.substr(0, linea.find(','));
+    std::optional<NoEsNumero> fallo;
     for (const Campo& campo : campos) {
         const auto desde = std::min(static_cast<std::size_t>(campo.columna - 1), linea.size());
-        std::visit(Lector{linea.substr(desde, static_cast<std::size_t>(campo.ancho))}, campo.donde);
+        const Lector lector{linea.substr(desde, static_cast<std::size_t>(campo.ancho))};
+        try {
+            std::visit(lector, campo.donde);
+        } catch (const NoEsNumero& este) {
+            fallo = este;
+        }
     }
+    if (fallo)
+        throw NoEsNumero(*fallo);
 }

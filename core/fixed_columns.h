@@ -32,6 +32,6 @@ using Campos = std::vector<Campo>;
 std::string EscribeCampos(const Campos& campos, int ancho);
 
 // Reads the fields from a line of any bytes as one free-format text: leading blanks are skipped, a comma ends
-// it, and what is not there reads as blanks. Texts come in UTF-8 without the blanks at their end. NoEsNumero
-// leaves the fields before the bad one read.
+// it, and what is not there reads as blanks. Texts come in UTF-8 without the blanks at their end. A field that is
+// no number stays as it was; the others are read all the same, and NoEsNumero tells of it afterwards.
 void LeeCampos(std::string_view linea, const Campos& campos);

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <functional>
-#include <tuple>
 
 #include "core/between_hands.h"
 #include "core/game_state.h"
@@ -137,11 +136,8 @@ std::string NombreIniJuego(int juego) {
 
 void LeerIniGeneral() {
     estado.FicheroNuevo = false;
-    const auto antes = std::tuple(estado.JuegoActivo, estado.SonidoActivo, estado.VelocidadJuego);
     const int error =
         Lee(kGeneral, [](Lineas& lineas) { LeeCampos(lineas.Siguiente(), ini::General()); });
-    if (error != kSinError)
-        std::tie(estado.JuegoActivo, estado.SonidoActivo, estado.VelocidadJuego) = antes;
     ReparaGeneral();
     if (error != kSinError)
         Rehaz(kGeneral, "IDC ERROR ", error, GrabarIniGeneral);

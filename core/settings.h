@@ -16,8 +16,8 @@ inline constexpr LimitesRegla kLimitesRestoInicial{5, 995, 200}, kLimitesApuesta
     kLimitesApuestaMaxima{5, 995, 25}, kLimitesLimitePartida{1, 999, 3};
 
 // Reads ZOV31.INI into JuegoActivo, SonidoActivo and VelocidadJuego and repairs them. A missing or unreadable
-// file gives one message, leaves the values as they stood (repaired) and is written anew with GrabarIniGeneral;
-// an unreadable one is kept beside it with the ending .MAL. Writes FicheroNuevo: the file was made anew. When
+// file gives one message and is written anew with GrabarIniGeneral; what of it is no number stays as it stood, the
+// other values are taken. An unreadable one is kept beside it with the ending .MAL. Writes FicheroNuevo: the file was made anew. When
 // that cannot be written nothing is said here: the next save tells it.
 void LeerIniGeneral();
 

@@ -95,15 +95,25 @@ TEST_F(AjustesGeneralesTest, LoQueEstaFueraDeSusLimitesSeArregla) {
     EXPECT_EQ(estado.VelocidadJuego, 50);
 }
 
-TEST_F(AjustesGeneralesTest, UnArchivoDanadoDejaLosValoresComoEstabanYSeGuardaAparte) {
+// One bad field costs no other: the game last played and the sound come back beside a speed that is no number.
+TEST_F(AjustesGeneralesTest, DeUnArchivoDanadoSoloSePierdeElCampoMaloYElArchivoSeGuardaAparte) {
     estado.JuegoActivo = kBrisca;
     estado.VelocidadJuego = 80;
     LeeGeneral("70-1xyz\r\n");
     EsperaDanado("ZOV31", "IDC ERROR 13", "70-1xyz\r\n");
-    EXPECT_EQ(estado.JuegoActivo, kBrisca);
-    EXPECT_FALSE(estado.SonidoActivo);
+    EXPECT_EQ(estado.JuegoActivo, kCinquillo);
+    EXPECT_TRUE(estado.SonidoActivo);
     EXPECT_EQ(estado.VelocidadJuego, 80);
-    EXPECT_EQ(mesa.Archivo("ZOV31.INI"), "580 080" + Blancos(118) + "\r\n");
+    EXPECT_EQ(mesa.Archivo("ZOV31.INI"), "70-1080" + Blancos(118) + "\r\n");
+}
+
+TEST_F(AjustesGeneralesTest, DetrasDeUnCampoMaloSeSigueLeyendo) {
+    estado.JuegoActivo = kBrisca;
+    LeeGeneral("x?-1020\r\n");
+    EsperaDanado("ZOV31", "IDC ERROR 13", "x?-1020\r\n");
+    EXPECT_EQ(estado.JuegoActivo, kBrisca);
+    EXPECT_TRUE(estado.SonidoActivo);
+    EXPECT_EQ(estado.VelocidadJuego, 20);
 }
 
 TEST_F(AjustesGeneralesTest, UnArchivoVacioNoTieneLinea) {
