@@ -108,7 +108,7 @@ void RatonEnMesa(const Evento& evento) {
         Form_MouseUp();
         break;
     default:
-        Form_Click(evento.x, evento.y);
+        Form_Click();
         break;
     }
 }

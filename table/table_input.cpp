@@ -275,8 +275,8 @@ void Form_MouseUp() {
         SueltaArrastrada();
 }
 
-void Form_Click(int x, int y) {
-    DetectaZonaCartas(x, y);
+void Form_Click() {
+    DetectaZonaCartas(estado.RatonX, estado.RatonY);
     if (estado.BotonRaton == kBotonDerecho && (estado.EsperandoJugada || !estado.PartidaEnCurso) &&
         JuegoEnMesa().menu_ordenar) {
         const Integer zona = estado.ZonaBajoCursor;

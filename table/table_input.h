@@ -16,7 +16,9 @@ bool CartaLegal();
 void Form_MouseMove(int x, int y);
 void Form_MouseDown(int boton, int x, int y);
 void Form_MouseUp();
-void Form_Click(int x, int y);
+// The click that a release ends in. It is where the button went down (RatonX, RatonY, BotonRaton), wherever the pointer
+// has gone since.
+void Form_Click();
 // Esc, q and Q minimise, control-C does nothing; true for any other key, which acts as Pic_BotContinuar and,
 // with no match on, as Pic_Boton(1).
 bool TeclaActiva(int tecla);

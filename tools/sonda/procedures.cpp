@@ -46,11 +46,6 @@ void RatonSuelta(int, int, int, int) {
     Form_MouseUp();
 }
 
-// A click has no place of its own: it is where the button went down.
-void Clic() {
-    Form_Click(estado.RatonX, estado.RatonY);
-}
-
 void Tecla(int tecla) {
     DespachaEvento({.tipo = TipoEvento::Tecla, .tecla = tecla});
 }
@@ -145,7 +140,7 @@ const std::unordered_map<std::string, Llamada>& LaTabla() { // NOLINT(readabilit
         {"Form_MouseMove", Llama(&RatonMueve)},
         {"Form_MouseDown", Llama(&RatonPulsa)},
         {"Form_MouseUp", Llama(&RatonSuelta)},
-        {"Form_Click", Llama(&Clic)},
+        {"Form_Click", Llama(&Form_Click)},
         {"Form_KeyPress", Llama(&Tecla)},
 
         // Messages, tips and pacing.

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "core/main_buttons.h"
 #include "core/session_state.h"
 #include "games/cinquillo/cinquillo_choice.h"
 #include "games/common/trick_state.h"
@@ -61,6 +62,14 @@ TEST_F(Ordenar, HaciaDelanteLaCartaOcupaElLugarDondeSeSuelta) {
 TEST_F(Ordenar, HaciaAtrasQuedaDetrasDeLaCartaDondeSeSuelta) {
     Lleva(4, 7, SobreCarta(4, 3));
     EXPECT_EQ(ManoDe(4), Oros({1, 2, 3, 7, 4, 5, 6, 10, 11, 12}));
+}
+
+// The pointer may leave the band in which the card is held. The click that ends the drag began on the hand.
+TEST_F(Ordenar, SoltarlaConElPunteroEnElFieltroNoDejaDeOrdenar) {
+    Lleva(4, 3, {355, 300});
+    DespachaEvento({.tipo = TipoEvento::RatonClic, .x = 355, .y = 300});
+    EXPECT_NE(ManoDe(4), Oros({1, 2, 3, 4, 5, 6, 7, 10, 11, 12}));
+    EXPECT_TRUE(estado.ModoOrdenar);
 }
 
 TEST_F(Ordenar, FueraDeLasCartasVaLaPrimera) {
