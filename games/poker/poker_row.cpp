@@ -55,7 +55,7 @@ bool RecibeAMano(Integer asiento) {
 int JuntaLoQueQueda() {
     int detras = estado.TotalBaraja + 1;
     if (estado.PosicionMazo <= detras)
-        return estado.PosicionMazo + estado.CartasEnMazo;
+        return detras;
     for (int i = 0; i < estado.CartasEnMazo; ++i, ++detras) {
         for (int campo = 1; campo <= 2; ++campo)
             estado.Baraja(detras, campo) = estado.Baraja(estado.PosicionMazo + i, campo);
