@@ -21,14 +21,14 @@ constexpr int kMargenAbajo = 16;
 constexpr Fuente kLetraContinuar{.alto = 12, .negrita = true, .tope = 78};
 
 struct BotonPrincipal {
-    int x, y;
-    const char* nombre;
+    int x = 0, y = 0;
+    const char* nombre = "";
     // What it opens, where that may not be there.
     std::optional<Forma> forma = std::nullopt;
 };
 
 constexpr std::array<BotonPrincipal, 9> kBotones{{
-    {0, 0, ""},
+    {},
     {20, 5, "Nueva partida"},
     {24, 125, "Personalizar", Forma::Personal},
     {20, 65, "Normas", Forma::Normas},

@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr int kColumnasEspanola = 12, kColumnasFrancesa = 13;
+constexpr Integer kColumnasEspanola = 12, kColumnasFrancesa = 13;
 constexpr Integer kLeyNoSeAplica = 14;
 
 constexpr std::array<const char*, 12> kPluralEspanol{"Ases",   "Doses",  "Treses",   "Cuatros",
@@ -41,7 +41,7 @@ void PonMedidas(const MedidasBaraja& medidas) {
     const bool francesa = medidas.tipo == kBarajaFrancesa;
     estado.TipoBaraja = medidas.tipo;
     estado.ValoresPorPalo = medidas.valores_por_palo;
-    estado.CartasNormales = EnteroDe(4 * medidas.valores_por_palo * medidas.mazos);
+    estado.CartasNormales = EnteroDe(4LL * medidas.valores_por_palo * medidas.mazos);
     estado.ComodinesBaraja = medidas.comodines;
     estado.TotalBaraja = EnteroDe(estado.CartasNormales + medidas.comodines);
     estado.MazosBaraja = medidas.mazos;
@@ -49,7 +49,7 @@ void PonMedidas(const MedidasBaraja& medidas) {
     estado.PasoReparto = medidas.paso;
     estado.MaxCartasMano = medidas.max_mano;
     estado.ColumnasBaraja = francesa ? kColumnasFrancesa : kColumnasEspanola;
-    estado.CartasImagen = EnteroDe(4 * estado.ColumnasBaraja);
+    estado.CartasImagen = EnteroDe(4LL * estado.ColumnasBaraja);
     estado.AltoMiniCarta = francesa ? 38 : 46;
     if (francesa) {
         PonNombres(estado.NombreValorPlural, kPluralFrances);

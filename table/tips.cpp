@@ -1,7 +1,7 @@
 #include "table/tips.h"
 
 // Five lines of 29 characters each, hand-justified, so that every line breaks at a word.
-const std::vector<Consejo>& Consejos() {
+const std::vector<Consejo>& Consejos() { // NOLINT(readability-function-size): the tips themselves
     static const std::vector<Consejo> kConsejos{
         // clang-format off
         {0, 2149,

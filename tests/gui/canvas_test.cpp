@@ -42,7 +42,7 @@ class PruebaLienzo : public QObject {
 
     QTemporaryDir carpeta_;
     QString Guarda(const QImage& imagen, const char* nombre) {
-        const QString ruta = carpeta_.filePath(nombre);
+        QString ruta = carpeta_.filePath(nombre);
         imagen.save(ruta);
         return ruta;
     }

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <stdexcept>
 
@@ -10,9 +11,8 @@ namespace {
 constexpr double kCasiUno = 0x1.fffffffffffffp-1; // the last number below 1
 
 std::vector<double> Sorteos(int n) {
-    std::vector<double> sorteos;
-    for (int i = 0; i < n; ++i)
-        sorteos.push_back(Azar());
+    std::vector<double> sorteos(static_cast<std::size_t>(n));
+    std::generate(sorteos.begin(), sorteos.end(), Azar);
     return sorteos;
 }
 

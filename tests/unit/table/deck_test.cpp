@@ -36,9 +36,9 @@ struct BarajaTest : MesaViva {
 };
 
 struct Medidas {
-    Integer juego;
+    Integer juego = 0;
     std::initializer_list<Integer> fuera;
-    int tipo, por_palo, normales, mazos, reparto, paso, max_mano;
+    int tipo = 0, por_palo = 0, normales = 0, mazos = 0, reparto = 0, paso = 0, max_mano = 0;
 };
 
 const Medidas kMedidas[] = {

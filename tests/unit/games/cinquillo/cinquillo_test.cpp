@@ -15,7 +15,6 @@
 
 using namespace prueba;
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 namespace {
 
