@@ -3,6 +3,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+#include <filesystem>
+
 #include "core/session_state.h"
 #include "tests/support/live_table.h"
 
@@ -19,7 +22,7 @@ constexpr const char* kUsuario = "/casa/ana/zovin";
 // A desktop with folders of its own, a screen that can be too small, and a splash.
 struct Escritorio : PlataformaSinPantalla {
     std::string CarpetaDelPrograma() const override { return kPrograma; }
-    std::string CarpetaUsuario() const override { return kUsuario; }
+    std::string CarpetaUsuario() const override { return usuario; }
     int AnchoEscritorio() const override { return ancho; }
     int AltoEscritorio() const override { return alto; }
     void MuestraCareta() override { sucesos.push_back("careta"); }
@@ -27,6 +30,7 @@ struct Escritorio : PlataformaSinPantalla {
         sucesos.push_back("mesa a los " + std::to_string(Reloj()));
         de_primera_vez = estado.PrimeraVez;
     }
+    std::string usuario = kUsuario;
     int ancho = 800, alto = 600;
     bool de_primera_vez = false;
     std::vector<std::string> sucesos;
@@ -106,6 +110,22 @@ TEST_F(Arranque, LaSegundaVezNoSeCopiaNada) {
     EXPECT_EQ(estado.CarpetaTrabajo, kUsuario);
     EXPECT_EQ(Archivos().contenidos[EnUsuario("ZOV31.INI")], "del usuario");
     EXPECT_FALSE(Hay(EnUsuario("ZOV5831.INI")));
+}
+
+// On a real disk, where a folder that is not there is none.
+TEST_F(Arranque, LaCarpetaDelUsuarioSeHaceConTodoSuCamino) {
+    namespace fs = std::filesystem;
+    std::string carpeta = (fs::temp_directory_path() / "arranque.XXXXXX").string();
+    ASSERT_NE(mkdtemp(carpeta.data()), nullptr);
+    escritorio.UsaCarpeta(carpeta);
+    estado.CarpetaPrograma = estado.CarpetaTrabajo = carpeta + "/no-esta";
+    escritorio.usuario = carpeta + "/casa/ana/zovin";
+    PruebaCarpeta();
+    EXPECT_EQ(estado.CarpetaTrabajo, escritorio.usuario);
+    EXPECT_TRUE(fs::is_directory(escritorio.usuario));
+    EXPECT_TRUE(fs::is_empty(escritorio.usuario)) << "there was nothing to copy";
+    EXPECT_FALSE(fs::exists(estado.CarpetaPrograma));
+    fs::remove_all(carpeta);
 }
 
 TEST_F(Arranque, UnaPantallaAnchaYBajaVale) {

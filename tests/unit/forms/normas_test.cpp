@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "betting/chips.h"
+#include "core/between_hands.h"
 #include "core/pending_rules.h"
 #include "core/text.h"
 #include "forms/form.h"
@@ -142,6 +143,8 @@ TEST_F(NormasTest, TheDeckIsBuiltAnewWithItsRulesAndJokers) {
 TEST_F(NormasTest, WithAHandOnTheDeckWaitsForTheNextOne) {
     AbreEn(kPoker);
     mesa.EnPartida(3, true);
+    normas::PulsaSelector(kSelReparto);
+    EXPECT_FALSE(sesion.baraja_pendiente) << "how it is dealt is nothing to the deck";
     normas::PulsaSelector(kSelBaraja);
     normas::PulsaSelector(kSelComodines);
     EXPECT_EQ(estado.CartasBaraja, 2);
@@ -262,8 +265,12 @@ TEST_F(NormasTest, CancelarPutsTheMarksBack) {
     mesa.EnPartida(4, true);
     const EstadoJuego antes = estado;
     mesa.Responde(kCancelar);
+    Integer marcado_a_la_vista = 0;
+    PonRefresco([&] { marcado_a_la_vista = normas::JuegoMarcado(); });
     normas::PulsaJuego(OtroJugable(kTute));
+    PonRefresco({});
     EXPECT_EQ(normas::JuegoMarcado(), kTute);
+    EXPECT_EQ(marcado_a_la_vista, kTute);
     EXPECT_TRUE(normas::Abierta());
     EXPECT_EQ(estado.JuegoActivo, kTute);
     EXPECT_TRUE(estado.PartidaEnCurso);
@@ -281,11 +288,40 @@ TEST_F(NormasTest, AceptarWritesTheOldGameAndThenTheNewId) {
     EXPECT_FALSE(normas::Abierta());
     EXPECT_EQ(estado.JuegoActivo, nuevo);
     EXPECT_FALSE(estado.PartidaEnCurso) << "the match of Tute waits in its file";
+    EXPECT_FALSE(estado.ManoEnCurso);
     // The match is on there, with three games finished: the fourth is dealt anew.
     EXPECT_EQ(mesa.Archivo("ZOV5131.INI").substr(89, 2), "-1");
     EXPECT_EQ(mesa.Archivo("ZOV5131.INI").substr(96, 3), "003");
     EXPECT_EQ(mesa.Archivo("ZOV31.INI").substr(0, 2), Formato(nuevo, "00"));
     EXPECT_FALSE(mesa.Hay(NombreIniJuego(nuevo))) << "that game's file is its own";
+}
+
+TEST_F(NormasTest, TheMoneyOfAHandInPlayGoesIntoTheOldFileAsTheHandBegan) {
+    AbreEn(kSieteYMedia);
+    mesa.EnPartida(4, true);
+    for (Integer asiento = 1; asiento <= 4; ++asiento)
+        AsignarResto(asiento, 200);
+    AnotaDineroPrevio();
+    AsignarResto(1, 150);
+    estado.Apuesta(1, 1, 2) = 50;
+    mesa.Responde(kAceptar);
+    normas::PulsaJuego(kTute);
+    estado.JuegoActivo = kSieteYMedia;
+    LeerIniJuego();
+    EXPECT_TRUE(estado.PartidaEnCurso);
+    EXPECT_EQ(RestoDe(1), 200);
+    EXPECT_EQ(estado.Apuesta(1, 1, 2), 0);
+}
+
+TEST_F(NormasTest, AManualDealIsOverWithItsGame) {
+    AbreEn(kTute);
+    mesa.EnPartida(1, false);
+    sesion.mano_apuntada = false;
+    estado.RepartoEnCurso = true;
+    mesa.Responde(kAceptar);
+    normas::PulsaJuego(OtroJugable(kTute));
+    EXPECT_FALSE(estado.RepartoEnCurso);
+    EXPECT_EQ(mesa.Archivo("ZOV5131.INI").substr(96, 3), "000") << "its hand is dealt anew";
 }
 
 TEST_F(NormasTest, NumbersAreBroughtIntoTheirRangesBeforeTheOldFileIsWritten) {

@@ -323,6 +323,15 @@ TEST_F(PersonalTest, CardsOnTheTableFollowTheSettingsOfTheirSeats) {
     EXPECT_EQ(mesa.CaraDe(kArriba), kDorso);
 }
 
+TEST_F(PersonalTest, CardsOfEverySerieTurn) {
+    AbreEn(kSieteYMedia);
+    mesa.EnPartida(1, true);
+    PonCarta(kArriba, 3, 1, kCopas, 7, kDorso);
+    estado.Mano(kArriba, 3, 1, kTapada) = 1;
+    personal::PulsaSelector(kSelCartas + kArriba);
+    EXPECT_EQ(estado.Mano(kArriba, 3, 1, kCara), kDescubierta);
+}
+
 TEST_F(PersonalTest, InSieteYMediaAnOpenCardStaysFaceUp) {
     AbreEn(kSieteYMedia);
     mesa.EnPartida(1, true);
@@ -449,6 +458,23 @@ TEST_F(PersonalTest, PairsEndWithTheFourthSeat) {
     EXPECT_EQ(estado.ModalidadJuego, kIndividual);
 }
 
+TEST_F(PersonalTest, PairsThatCannotBeEndOnClosingAlsoWithTheSeatsAsTheyWere) {
+    AbreEn(kBrisca);
+    estado.EstadoJugador(kArriba) = kDesactivado;
+    personal::Abre();
+    estado.ModalidadJuego = kDosParejas;
+    EXPECT_TRUE(personal::Cierra());
+    EXPECT_EQ(estado.ModalidadJuego, kIndividual);
+    EXPECT_EQ(estado.NumJugadores, 3);
+}
+
+TEST_F(PersonalTest, AnInformationWindowThatIsNotClosedStays) {
+    AbreEn(kTute);
+    MostrarSugerencia(15);
+    EXPECT_TRUE(personal::Cierra());
+    EXPECT_TRUE(mesa.LaPlataforma().EstaVisible(Control::Pic_Sugerencia, 0));
+}
+
 TEST_F(PersonalTest, AClosedInformationWindowLeavesTheTable) {
     AbreEn(kTute);
     MostrarSugerencia(15);
@@ -493,6 +519,36 @@ TEST_F(PersonalTest, WithNoMatchOnTheTableIsLeftAlone) {
     EXPECT_THAT(TrazaDelCierre(), ElementsAre("Sonido(0, 9)"));
 }
 
+TEST_F(PersonalTest, BetweenHandsTheTableIsDrawnOnlyWhenNothingIsAwaited) {
+    AbreEn(kTute);
+    mesa.EnPartida(2, false);
+    mesa.LaPlataforma().UsaLienzosRegistrados();
+    const LienzoRegistrado& tapete = mesa.LaPlataforma().Dibujado(Control::Mesa);
+    estado.EsperandoJugada = true;
+    EXPECT_TRUE(personal::Cierra());
+    EXPECT_THAT(tapete.Llamadas(), IsEmpty());
+    personal::Abre();
+    estado.EsperandoJugada = false;
+    EXPECT_TRUE(personal::Cierra());
+    EXPECT_THAT(tapete.Llamadas(), Not(IsEmpty()));
+}
+
+TEST_F(PersonalTest, InTheGamesWithABankTheOtherSeatsShowTheirFirstSerie) {
+    AbreEn(kBlackJack);
+    mesa.EnPartida(1, true);
+    estado.JugadorActual = kDerecha;
+    estado.SerieEnJuego = 2;
+    PonCarta(1, 1, 1, kCopas, 9, kDescubierta);
+    estado.NumCartas(1, 1) = 1;
+    PonCarta(kDerecha, 2, 1, kBastos, 5, kDescubierta);
+    estado.NumCartas(kDerecha, 2) = 1;
+    mesa.LaPlataforma().UsaLienzosRegistrados();
+    EXPECT_TRUE(personal::Cierra());
+    const auto& dibujado = mesa.LaPlataforma().Dibujado(Control::Mesa).Llamadas();
+    EXPECT_THAT(dibujado, Contains(testing::HasSubstr("palo 2 valor 9")));
+    EXPECT_THAT(dibujado, Contains(testing::HasSubstr("palo 4 valor 5")));
+}
+
 TEST_F(PersonalTest, InTheGamesWithABankTheSeatOnTurnShowsTheSerieInPlay) {
     AbreEn(kBlackJack);
     mesa.EnPartida(1, true);
@@ -514,6 +570,24 @@ TEST_F(PersonalTest, TheTutorGoesWithWhoeverNowPlaysTheSeatOnTurn) {
     EXPECT_TRUE(BotonHabilitado(kBotonTutor));
     personal::Abre();
     personal::PulsaSelector(kSelControl + 1);
+    EXPECT_TRUE(personal::Cierra());
+    EXPECT_FALSE(BotonHabilitado(kBotonTutor));
+}
+
+TEST_F(PersonalTest, WithNothingAwaitedTheTutorStaysAsItIs) {
+    AbreEn(kTute);
+    mesa.EnPartida(1, true);
+    HabilitaBoton(kBotonTutor, false);
+    estado.EsperandoJugada = false;
+    EXPECT_TRUE(personal::Cierra());
+    EXPECT_FALSE(BotonHabilitado(kBotonTutor)) << "cards are on their way";
+}
+
+TEST_F(PersonalTest, BetweenHandsTheTutorStaysClosed) {
+    AbreEn(kTute);
+    mesa.EnPartida(2, false);
+    HabilitaBoton(kBotonTutor, false);
+    estado.EsperandoJugada = true;
     EXPECT_TRUE(personal::Cierra());
     EXPECT_FALSE(BotonHabilitado(kBotonTutor));
 }
@@ -542,7 +616,9 @@ TEST_F(PersonalTest, ClosedFromOutsideTheSeatsStayAsTheyWere) {
     mesa.EnPartida(1, true);
     for (Integer asiento = 1; asiento <= 4; ++asiento)
         personal::PulsaSelector(kSelEstado + asiento);
+    personal::EscribeNombre(kDerecha, "   ");
     personal::Deja();
+    EXPECT_EQ(estado.NombreJugador(kDerecha), "Jugador3");
     EXPECT_FALSE(personal::Abierta());
     for (Integer asiento = 1; asiento <= 4; ++asiento)
         EXPECT_EQ(estado.EstadoJugador(asiento), kActivado);
