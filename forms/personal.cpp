@@ -118,9 +118,10 @@ void AlineaCaras(Integer asiento) {
     }
 }
 
-// The cards on the table show the side that the seats' settings say. In a manual deal all lie open until it ends.
+// The cards on the table show the side that the seats' settings say. In a manual deal all lie open until it ends;
+// before the first deal there are those of the draw, which stay as they are.
 void VuelveCartas() {
-    if (!estado.PartidaEnCurso || estado.RepartoEnCurso)
+    if (!estado.PartidaEnCurso || estado.RepartoEnCurso || estado.JuegosJugados == 0)
         return;
     for (Integer asiento = 1; asiento <= 4; ++asiento)
         AlineaCaras(asiento);

@@ -9,6 +9,7 @@
 #include "core/text.h"
 #include "forms/form.h"
 #include "table/messages.h"
+#include "table/table_view.h"
 #include "table/trace.h"
 #include "tests/support/open_forms.h"
 
@@ -358,6 +359,16 @@ TEST_F(PersonalTest, WithNoMatchOnNoCardTurns) {
     estado.CartasJugador(1) = kVisibles;
     personal::PulsaSelector(kSelCartas + 1);
     EXPECT_EQ(mesa.CaraDe(1), kDescubierta);
+}
+
+TEST_F(PersonalTest, InTheDrawTheDrawnCardsStayOnTheTable) {
+    AbreEn(kTute);
+    mesa.EnPartida(0, false);
+    vista.sorteada(1) = {.palo = kOros, .valor = 7, .cara = kDorso, .orientacion = 2};
+    mesa.LaPlataforma().UsaLienzosRegistrados();
+    personal::PulsaSelector(kSelCartas + 1);
+    EXPECT_THAT(mesa.LaPlataforma().Dibujado(Control::Mesa).Llamadas(), IsEmpty())
+        << "no hand has been dealt, and nothing is wiped away";
 }
 
 TEST_F(PersonalTest, InAManualDealTheDealtCardsStayOpen) {
