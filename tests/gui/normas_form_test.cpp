@@ -1,7 +1,9 @@
 // The form of the game and its rules: its list, its numbers, its held arrows.
 
 #include <QElapsedTimer>
+#include <QLabel>
 #include <QLineEdit>
+#include <map>
 
 #include "forms/normas_view.h"
 #include "forms/selector.h"
@@ -29,6 +31,40 @@ private Q_SLOTS:
             QCOMPARE(y("Pic_Selector_2") - y("Pic_Selector_3"), 60);
             QCOMPARE(y("Pic_Spin_22") - y("Pic_Spin_21"), 60);
             QCOMPARE(y("Pic_Spin_21"), y("Pic_Selector_1"));
+        }));
+    }
+
+    void TheListShowsTheGamesInOrderUnderTheirDecks() {
+        QVERIFY(Con(AbreVistaNormas, [](Abierta& forma) {
+            const auto altura = [&](const QWidget& cual) {
+                return cual.mapTo(&forma.dialogo, QPoint(0, 0)).y();
+            };
+            std::map<int, QString> lineas;
+            for (const QLabel* rotulo : forma.dialogo.findChildren<QLabel*>())
+                lineas[altura(*rotulo)] = rotulo->text();
+            for (int juego : {1, 31, 51, 58, 65, 70}) {
+                auto& linea =
+                    forma.En<QAbstractButton>(QStringLiteral("Pic_Buleano_%1").arg(juego));
+                lineas[altura(linea)] = linea.text();
+            }
+            QStringList vistas;
+            for (const auto& [y, texto] : lineas)
+                vistas += texto;
+            QCOMPARE(vistas,
+                     (QStringList{"Baraja Francesa", "Póker", "Black Jack", "Baraja Española",
+                                  "Tute", "Brisca", "Siete y media", "Cinquillo"}));
+        }));
+    }
+
+    void EveryNumberIsShownAsItIsSet() {
+        Empieza(kPoker);
+        estado.RestoInicial = 345;
+        estado.ApuestaSalida = 7;
+        estado.ApuestaMaxima = 60;
+        QVERIFY(Con(AbreVistaNormas, [](Abierta& forma) {
+            QCOMPARE(forma.En<QLineEdit>("Tex_Spin_21").text(), QString("345"));
+            QCOMPARE(forma.En<QLineEdit>("Tex_Spin_22").text(), QString("7"));
+            QCOMPARE(forma.En<QLineEdit>("Tex_Spin_23").text(), QString("60"));
         }));
     }
 

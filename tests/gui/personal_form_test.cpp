@@ -16,6 +16,24 @@ class PruebaPersonal : public QObject, protected MesaDeFormas {
 private Q_SLOTS:
     void init() { Empieza(kTute); }
 
+    void ThePanelsLieAsTheSeatsDoRoundTheDirection() {
+        QVERIFY(Con(AbreVistaPersonal, [](Abierta& forma) {
+            const auto centro = [&](const QString& nombre) {
+                QWidget& cual = forma.En(nombre);
+                return cual.mapTo(&forma.dialogo, cual.rect().center());
+            };
+            const QPoint medio = centro("Pic_Sentido");
+            QVERIFY(qAbs(medio.x() - forma.dialogo.rect().center().x()) < 10);
+            for (const char* que : {"Txt_Nombre_%1", "Pic_Selector_1%1", "Pic_Potenciometro_1%1"}) {
+                const QString nombre = QString::fromLatin1(que);
+                QVERIFY(centro(nombre.arg(1)).x() < centro(nombre.arg(2)).x());
+                QVERIFY(centro(nombre.arg(3)).x() > centro(nombre.arg(2)).x());
+                QVERIFY(centro(nombre.arg(2)).y() < medio.y());
+                QVERIFY(centro(nombre.arg(4)).y() > medio.y());
+            }
+        }));
+    }
+
     void TheSelectorsOfASeatAreNarrowerThanTheTables() {
         QVERIFY(Con(AbreVistaPersonal, [](Abierta& forma) {
             for (int clase : {kSelEstado, kSelCartas, kSelControl, kSelCaracter}) {
