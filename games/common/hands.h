@@ -7,9 +7,10 @@
 #include "core/tabla.h"
 
 // The start of a hand of Tute, Brisca and Cinquillo: rules that waited for it come into force; it counts the game,
-// moves JugadorMano on from the second game of the match, clears the hand and deals; a manual deal that was broken
-// off is dealt again. Leaves Personalizar, Normas, Salir and Estadísticas enabled and ManoEnCurso set. al_descubrir,
-// if given, runs between the deal and ManoEnCurso: it turns the trump card. False when the match was left.
+// moves JugadorMano on from the second game of the match and off a seat that does not play, clears the hand and
+// deals; a manual deal that was broken off is dealt again. Leaves Personalizar, Normas, Salir and Estadísticas
+// enabled and ManoEnCurso set. al_descubrir, if given, runs between the deal and ManoEnCurso: it turns the trump
+// card. False when the match was left.
 [[nodiscard]] bool IniciarJuego(void (*al_descubrir)() = nullptr);
 
 // JugadorActual one seat before JugadorMano: the first step of the turns lands on it.

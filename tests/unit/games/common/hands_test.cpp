@@ -281,6 +281,7 @@ TEST_F(Manos, ElFinalDeLaPartida) {
     estado.GanadorPartida = 4;
     for (int asiento = 1; asiento <= 4; ++asiento)
         p.Muestra(Control::Pic_Tantos, asiento, true);
+    p.Muestra(Control::Pic_BotContinuar, 0, true);
     for (int boton = 1; boton <= 8; ++boton)
         HabilitaBoton(boton, false);
     FinalPartida();
@@ -291,6 +292,7 @@ TEST_F(Manos, ElFinalDeLaPartida) {
     EXPECT_FALSE(estado.PartidaEnCurso);
     for (int asiento = 1; asiento <= 4; ++asiento)
         EXPECT_FALSE(p.EstaVisible(Control::Pic_Tantos, asiento));
+    EXPECT_FALSE(p.EstaVisible(Control::Pic_BotContinuar, 0));
     for (int boton = 1; boton <= 8; ++boton)
         EXPECT_EQ(BotonHabilitado(boton), boton == 1 || boton == 3 || boton == 7) << boton;
 }

@@ -9,6 +9,7 @@
 #include "games/trick/search_state.h"
 #include "games/trick/trick_rules.h"
 #include "table/layout.h"
+#include "table/table_ops.h"
 #include "tests/support/trick_table.h"
 
 using namespace prueba;
@@ -42,6 +43,16 @@ struct TurnoDeTrick : testing::Test {
     void Clic(Integer asiento, Integer lugar) {
         ColocarCarta(asiento, lugar, estado.NumCartas(asiento, 1));
         mesa->plataforma.guion.RatonClic(estado.CartaX + 5, estado.CartaY + 60, 1);
+    }
+    // Seat 4 takes the first entry of the menu of the right button: its cards can be dragged.
+    void OrdenaAMano() {
+        GuionEntrada& guion = mesa->plataforma.guion;
+        const int x = estado.MesaIzquierda(4) + 40;
+        const int y = estado.MesaArriba(4) + 40;
+        guion.RatonClic(x, y, 2);
+        guion.RatonMueve(x + 10, y + 10);
+        guion.RatonPulsa(x + 10, y + 10, 1);
+        guion.RatonSuelta(x + 10, y + 10, 1);
     }
     static Carta EnLaMesa(Integer asiento) {
         return {bazas.CartaEnMesa(asiento, 1), bazas.CartaEnMesa(asiento, 2)};
@@ -183,6 +194,20 @@ TEST_F(TurnoDeTrick, ElTutorAconsejaYNoJuega) {
     ASSERT_TRUE(TurnoDeBaza());
     EXPECT_EQ(EnLaMesa(4), Carta(kCopas, 2));
     EXPECT_EQ(estado.NivelJugador(4), 100); // in Brisca for good
+}
+
+// The wait at the end of a hand may follow: advice and a new order would examine the hand again, and a Tute that has
+// just been sung would lose its name.
+TEST_F(TurnoDeTrick, TrasElTurnoNoHayEleccionNiTutorNiOrden) {
+    Mesa(kTute);
+    PonMano(4, {{kOros, kAs}, {kCopas, 2}});
+    TocaAlManual({kOros, 4}, {kOros, kRey}, {kOros, kTres});
+    OrdenaAMano();
+    mesa->plataforma.guion.PulsaControl(kContinuar);
+    ASSERT_TRUE(TurnoDeBaza());
+    EXPECT_FALSE(estado.EligeCarta);
+    EXPECT_FALSE(BotonHabilitado(kBotonTutor));
+    EXPECT_FALSE(estado.ModoOrdenar);
 }
 
 TEST_F(TurnoDeTrick, ElTutorDelTuteDevuelveElNivel) {
