@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "table/trace.h"
 #include "tests/support/trick_table.h"
 
 using namespace prueba;
@@ -25,6 +26,13 @@ struct Cantes : testing::Test {
     }
     MesaDeTrick mesa{kTute, 4};
 };
+
+std::vector<std::string> PausaYTresParpadeos() {
+    std::vector<std::string> pasos{"Pausa(500)"};
+    for (int vez = 0; vez < 3; ++vez)
+        pasos.insert(pasos.end(), {"Pausa(180)", "Sonido(1, 26)", "Pausa(420)"});
+    return pasos;
+}
 
 } // namespace
 
@@ -108,13 +116,29 @@ TEST_F(Cantes, ConTuteNoSeCantaOtraCosa) {
 
 TEST_F(Cantes, LasCartasSeEnsenanTresVecesYVuelvenASuCara) {
     PonMano(2, {{kCopas, 4}, {kOros, kCaballo}, {kOros, kRey}});
-    mesa.Escucha({"Sonido"});
+    mesa.Escucha({"Sonido", "Pausa"});
     CantaTrasBaza();
-    EXPECT_EQ(mesa.traza, (std::vector<std::string>(3, "Sonido(1, 26)")));
+    EXPECT_EQ(mesa.traza, PausaYTresParpadeos());
     for (int lugar = 1; lugar <= 3; ++lugar) {
         EXPECT_EQ(estado.Mano(2, 1, lugar, kCara), kDorso);
         EXPECT_EQ(estado.Mano(2, 1, lugar, kAltura), kEnLinea);
     }
+}
+
+TEST_F(Cantes, LasCuatroDelTuteSeEnsenanTresVeces) {
+    PonMano(2, {{kOros, kRey}, {kCopas, 4}, {kCopas, kRey}, {kEspadas, kRey}, {kBastos, kRey}});
+    std::vector<std::string> pasos;
+    std::string descubiertas;
+    EscuchaTraza([&](const std::string& linea) {
+        if (!linea.starts_with("RedibujarAsiento"))
+            pasos.push_back(linea);
+        for (int lugar = 1; linea == "Sonido(1, 26)" && lugar <= 5; ++lugar)
+            descubiertas += estado.Mano(2, 1, lugar, kCara) == kDescubierta ? 'D' : 'd';
+    });
+    CantaTrasBaza();
+    EXPECT_EQ(pasos, PausaYTresParpadeos());
+    EXPECT_EQ(descubiertas, "DdDDDDdDDDDdDDD");
+    EXPECT_TRUE(bazas.TuteCantado);
 }
 
 TEST_F(Cantes, EnParejasCantaTambienElCompanero) {

@@ -58,6 +58,14 @@ TEST(Mazo, EnBriscaSeVuelveLaCartaSiguienteAlReparto) {
     EXPECT_TRUE(estado.ManoEnCurso);
 }
 
+TEST(Mazo, LaQuePintaSuenaYSeQuedaALaVista) {
+    MesaDeTrick mesa(kBrisca, 2);
+    PonMazo({{kEspadas, kSota}, {kOros, 4}});
+    mesa.Escucha({"Sonido", "Pausa"});
+    DescubreTriunfo();
+    EXPECT_EQ(mesa.traza, (std::vector<std::string>{"Sonido(1, 24)", "Pausa(500)"}));
+}
+
 TEST(Mazo, LaBriscaDeTresDejaVeintisiete) {
     MesaDeTrick mesa(kBrisca, 3);
     Reparte({});

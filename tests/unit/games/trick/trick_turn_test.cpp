@@ -1,5 +1,6 @@
 #include "games/trick/trick_turn.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -10,9 +11,12 @@
 #include "games/trick/trick_rules.h"
 #include "table/layout.h"
 #include "table/table_ops.h"
+#include "table/trace.h"
 #include "tests/support/trick_table.h"
 
 using namespace prueba;
+using testing::ElementsAre;
+using testing::StartsWith;
 
 namespace {
 
@@ -74,6 +78,27 @@ TEST_F(TurnoDeTrick, LaCartaPasaDeLaManoALaMesa) {
     EXPECT_EQ(estado.NumCartas(1, 1), 2);
     EXPECT_EQ(estado.Mano(1, 1, 2, kPalo), kEspadas); // the hand has closed up
     EXPECT_EQ(estado.Mano(1, 1, 3, kPalo), kSinCarta);
+}
+
+TEST_F(TurnoDeTrick, ElTurnoAutomaticoPasoAPaso) {
+    Mesa(kBrisca);
+    PonMano(1, {{kOros, kAs}, {kCopas, 2}, {kEspadas, kTres}});
+    std::vector<std::string> pasos;
+    EscuchaTraza([&](const std::string& linea) {
+        pasos.push_back(linea);
+        const bool levantada = estado.Mano(1, 1, 2, kAltura) == kLevantada;
+        if (levantada && linea == "Pausa(500)")
+            pasos.emplace_back(estado.Mano(1, 1, 2, kCara) == kDescubierta ? "a la vista"
+                                                                           : "tapada");
+    });
+    ASSERT_TRUE(TurnoDeBaza());
+    std::erase(pasos, "Pausa(12)");
+    EXPECT_THAT(
+        pasos, ElementsAre("CambiarCursor(\"mesa\", \"Flecha\")", "Pausa(400)", "ResaltarAsiento()",
+                           "Pausa(140)", "RedibujarAsiento(1)", "Pausa(340)", "Pausa(140)",
+                           "RedibujarAsiento(1)", "Pausa(340)", "RedibujarAsiento(1)", "Pausa(500)",
+                           "a la vista", "ColocarCarta(1, 2, 3)", "RedibujarAsiento(1)",
+                           StartsWith("MoverCarta(2, 2, "), "Sonido(1, 24)", "Sonido(0, 25)"));
 }
 
 TEST_F(TurnoDeTrick, UnAsientoSinCartasNoCuenta) {

@@ -6,6 +6,7 @@
 
 #include "games/game_table.h"
 #include "table/table_ops.h"
+#include "table/trace.h"
 #include "tests/support/trick_table.h"
 
 using namespace prueba;
@@ -22,18 +23,20 @@ struct VistaDeTrick : testing::Test {
         mesa.plataforma.UsaLienzosRegistrados();
         mesa.Escucha({"DibujarCarta"});
     }
+    static std::string CartaDe(const std::string& linea) {
+        int x = 0, y = 0, orientacion = 0, palo = 0, valor = 0;
+        std::sscanf(linea.c_str(), "DibujarCarta(%*[^,], %d, %d, %d, %d, %d", &x, &y, &orientacion,
+                    &palo, &valor);
+        return std::to_string(palo) + "-" + std::to_string(valor) + " o" +
+               std::to_string(orientacion);
+    }
     // Palo, valor and orientation of the cards drawn, in order.
     std::vector<std::string> Dibujadas(void (*pinta)()) {
         mesa.traza.clear();
         pinta();
         std::vector<std::string> cartas;
-        for (const std::string& linea : mesa.traza) {
-            int x = 0, y = 0, orientacion = 0, palo = 0, valor = 0;
-            std::sscanf(linea.c_str(), "DibujarCarta(%*[^,], %d, %d, %d, %d, %d", &x, &y,
-                        &orientacion, &palo, &valor);
-            cartas.push_back(std::to_string(palo) + "-" + std::to_string(valor) + " o" +
-                             std::to_string(orientacion));
-        }
+        for (const std::string& linea : mesa.traza)
+            cartas.push_back(CartaDe(linea));
         return cartas;
     }
     MesaDeTrick mesa{kBrisca, 4};
@@ -87,6 +90,46 @@ TEST_F(VistaDeTrick, AlRepintarLaMesaEstaTodo) {
     PintaMazo();
     EnMesa(3, {kOros, 4});
     EXPECT_EQ(Dibujadas(RedibujarMesa), (Cartas{"4-12 o2", "1-4 o4"}));
+}
+
+TEST_F(VistaDeTrick, LaGanadoraDesapareceDosVeces) {
+    estado.CartasEnMazo = 0;
+    EnMesa(3, {kOros, 4});
+    EnMesa(4, {kOros, 5});
+    estado.GanadorBaza = 4;
+    mesa.Escucha({"Pausa", "Sonido", "DibujarCarta"});
+    std::vector<std::string> pasos;
+    ParpadeaBaza();
+    for (const std::string& linea : mesa.traza)
+        pasos.push_back(linea.starts_with("DibujarCarta") ? CartaDe(linea) : linea);
+    EXPECT_EQ(pasos, (Cartas{"Pausa(150)", "Pausa(420)", "1-4 o4", "Pausa(180)", "1-4 o4", "1-5 o1",
+                             "Sonido(1, 26)", "Pausa(420)", "1-4 o4", "Pausa(180)", "1-4 o4",
+                             "1-5 o1", "Sonido(1, 26)", "Pausa(500)"}));
+}
+
+// A covered hand shows only what blinks, and covers it again.
+TEST(Parpadeo, LasCartasSalenDescubiertasYVuelvenASuCara) {
+    MesaDeTrick mesa(kTute, 4);
+    PonMano(2, {{kCopas, 4}, {kOros, kCaballo}, {kOros, kRey}});
+    std::vector<std::string> pasos;
+    EscuchaTraza([&](const std::string& linea) {
+        if (linea != "RedibujarAsiento(2)")
+            return pasos.push_back(linea);
+        std::string mano;
+        for (int lugar = 1; lugar <= 3; ++lugar) {
+            mano += estado.Mano(2, 1, lugar, kCara) == kDescubierta ? 'D' : 'd';
+            mano += estado.Mano(2, 1, lugar, kAltura) == kLevantada ? 'L' : 'l';
+        }
+        pasos.push_back(mano);
+    });
+    ParpadeaCartas(2, {2, 3});
+    std::vector<std::string> esperados;
+    for (int vez = 0; vez < 3; ++vez) {
+        for (const char* paso : {"dlDLDL", "Pausa(180)", "Sonido(1, 26)", "Pausa(420)", "dlDlDl"})
+            esperados.emplace_back(paso);
+    }
+    esperados.emplace_back("dldldl");
+    EXPECT_EQ(pasos, esperados);
 }
 
 // --- What the rows of the table say ---------------------------------------------------------------------
