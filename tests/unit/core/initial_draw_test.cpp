@@ -146,3 +146,19 @@ TEST_F(Sorteo, UnTamanoNuevoEnElSorteoLlevaLaPilaAlMedio) {
     ASSERT_TRUE(SorteoInicial());
     EXPECT_EQ(TrazaDe("MoverCarta").back(), "MoverCarta(1, 1, 588, 314, 1, 2, 588, 18, 3, 2, 0)");
 }
+
+// The game's own place of the pile is another one in Póker.
+TEST_F(Sorteo, UnTamanoNuevoNoSacaLaPilaDelMedio) {
+    Juega(kPoker);
+    SorteoSera({kSiete, kAsOros});
+    p.UsaLienzosRegistrados();
+    p.traviesa = true;
+    p.Mide(1366, 768);
+    p.guion.Encola({.tipo = TipoEvento::Tamano, .x = 1366, .y = 768});
+    EmpiezaTraza();
+    ASSERT_TRUE(SorteoInicial());
+    ASSERT_NE(estado.MazoX, 588);
+    EXPECT_EQ(TrazaDe("DibujarMazo"),
+              (std::vector<std::string>{"DibujarMazo(304, 230, 52)", "DibujarMazo(304, 230, 51)",
+                                        "DibujarMazo(588, 314, 51)", "DibujarMazo(588, 314, 50)"}));
+}

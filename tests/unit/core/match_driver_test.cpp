@@ -91,7 +91,9 @@ TEST_F(Partida, CadaJuegoYCadaNumeroTienenSuNombre) {
 TEST_F(Partida, LasTablasDeCadaSesion) {
     estado.SentidoJuego = kInverso;
     estado.TutorPulsado = estado.EsperandoJugada = estado.VentanaModal = true;
+    p.Muestra(Control::Pic_BotDobSeg, 0, true);
     IniciarTablas();
+    EXPECT_FALSE(p.EstaVisible(Control::Pic_BotDobSeg, 0));
     EXPECT_EQ(estado.ParejaAsiento(1), 3);
     EXPECT_EQ(estado.ParejaAsiento(4), 2);
     for (int asiento = 1; asiento <= 4; ++asiento)
@@ -150,6 +152,28 @@ TEST_F(Partida, UnaPartidaGuardadaSigueDondeQuedo) {
     EXPECT_EQ(estado.JuegosJugados, 3);
     EXPECT_EQ(estado.JugadorMano, 4);
     EXPECT_EQ(estado.JuegosGanados(4), 2);
+}
+
+TEST_F(Partida, AlContinuarSePintaLaMesaAntesDeSeguir) {
+    estado.LimitePartida = 2; // won already: the match has nothing more to draw
+    HayPartidaGuardada();
+    p.UsaLienzosRegistrados();
+    EmpiezaTraza();
+    IniciarSesion();
+    EXPECT_THAT(TrazaDe("RedibujarAsiento"),
+                ElementsAre("RedibujarAsiento(1)", "RedibujarAsiento(2)", "RedibujarAsiento(3)",
+                            "RedibujarAsiento(4)"));
+}
+
+// The deal is left before the hand's own start enables it.
+TEST_F(Partida, AlContinuarSePuedeEmpezarOtraDesdeElReparto) {
+    HayPartidaGuardada();
+    HabilitaBoton(kBotonNueva, false);
+    p.traviesa = true;
+    p.guion.Encola({.tipo = TipoEvento::Termina});
+    IniciarSesion();
+    EXPECT_EQ(sesion.peticion, Peticion::Salir);
+    EXPECT_TRUE(BotonHabilitado(kBotonNueva));
 }
 
 TEST_F(Partida, LoQueLaPartidaGuardadaNoDiceEmpiezaDeNuevo) {

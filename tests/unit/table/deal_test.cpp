@@ -222,3 +222,16 @@ TEST_F(Reparto, EnElBlackJackSeBarajaAntesDeRobarMasDeLoQueQueda) {
     EXPECT_EQ(estado.PosicionMazo, 2);
     EXPECT_EQ(estado.NumCartas(1, 1), 1);
 }
+
+TEST_F(Reparto, TrasRellenarElMazoYTrasCadaCartaRobadaSePintaLoQueCambia) {
+    Juega(kBlackJack);
+    estado.CartasEnMazo = 0;
+    EmpiezaTraza();
+    RobarCartas(1, 2, 0);
+    const std::string pila =
+        "DibujarMazo(" + std::to_string(estado.MazoX) + ", " + std::to_string(estado.MazoY) + ", ";
+    EXPECT_EQ(TrazaDe("DibujarMazo"),
+              (std::vector<std::string>{pila + "312)", pila + "311)", pila + "310)"}));
+    EXPECT_EQ(TrazaDe("RedibujarAsiento"),
+              (std::vector<std::string>{"RedibujarAsiento(1)", "RedibujarAsiento(1)"}));
+}

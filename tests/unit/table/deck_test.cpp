@@ -249,6 +249,13 @@ TEST_F(BarajaTest, ElTuteSeOrdenaPorPaloYFuerza) {
                   {kOros, kTres}, {kOros, kRey}, {kOros, 7}, {kBastos, kAs}, {kBastos, 2}}));
 }
 
+TEST_F(BarajaTest, LaManoOrdenadaSeVuelveAPintar) {
+    PonMano(3, {{kBastos, 2}, {kOros, kRey}});
+    EmpiezaTraza();
+    OrdenarMano(3);
+    EXPECT_EQ(TrazaDe("RedibujarAsiento"), (std::vector<std::string>{"RedibujarAsiento(3)"}));
+}
+
 TEST_F(BarajaTest, ElCinquilloSeOrdenaPorPaloYNumero) {
     PonMano(4, {{kBastos, 2}, {kOros, kRey}, {kBastos, kAs}, {kOros, kTres}, {kOros, 7}});
     OrdenarMano(4);

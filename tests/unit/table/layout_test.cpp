@@ -163,7 +163,7 @@ TEST_F(Lugares, ElMazoDeCadaJuego) {
     const DondeElMazo donde[] = {
         {kTute, 2, 304, 230},        {kBrisca, 2, 304, 230},      {kCinquillo, 2, 304, 230},
         {kBlackJack, 2, 304, 171},   {kSieteYMedia, 2, 304, 171}, {kSieteYMedia, 1, 178, 230},
-        {kSieteYMedia, 3, 422, 230},
+        {kSieteYMedia, 3, 422, 230}, {kPoker, 2, 197, 230},
     };
     for (const DondeElMazo& caso : donde) {
         estado.JuegoActivo = caso.juego;
@@ -171,6 +171,17 @@ TEST_F(Lugares, ElMazoDeCadaJuego) {
         ColocarMazo();
         EXPECT_EQ(estado.MazoX, caso.x) << caso.juego << " banca " << caso.banca;
         EXPECT_EQ(estado.MazoY, caso.y) << caso.juego << " banca " << caso.banca;
+    }
+}
+
+TEST_F(Lugares, LasFichasDeCadaAreaVanEnDosColumnasDeTresPilasCada38) {
+    for (int area = 0; area <= 14; ++area) {
+        for (int ficha = 1; ficha <= 6; ++ficha) {
+            EXPECT_EQ(estado.PosFichaX(area, ficha) - estado.PosFichaX(area, 1),
+                      ficha <= 3 ? 0 : 38);
+            EXPECT_EQ(estado.PosFichaY(area, ficha) - estado.PosFichaY(area, 1),
+                      (ficha - 1) % 3 * 38);
+        }
     }
 }
 

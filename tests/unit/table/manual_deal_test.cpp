@@ -3,7 +3,10 @@
 
 #include "table/manual_deal.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 #include "core/random.h"
 #include "core/session_state.h"
@@ -91,10 +94,58 @@ TEST_F(RepartoAMano, ElRepartoSeCentraYEsperaTodaLaBaraja) {
         EXPECT_FALSE(estado.CartaEnReparto(palo, 9));
         EXPECT_TRUE(estado.CartaEnReparto(palo, 12));
     }
-    EXPECT_TRUE(BotonHabilitado(kBotonSalir));
-    EXPECT_TRUE(BotonHabilitado(kBotonNueva));
-    EXPECT_FALSE(BotonHabilitado(kBotonTutor));
-    EXPECT_FALSE(BotonHabilitado(kBotonEstadis));
+}
+
+TEST_F(RepartoAMano, MientrasSeReparteSePuedeEmpezarCambiarNormasYSalir) {
+    p.formas = {Forma::Normas, Forma::Estadis};
+    for (int boton : {kBotonNueva, kBotonNormas, kBotonSalir})
+        HabilitaBoton(boton, false);
+    for (int boton : {kBotonTutor, kBotonEstadis})
+        HabilitaBoton(boton, true);
+    Extendido();
+    for (int boton : {kBotonNueva, kBotonNormas, kBotonSalir})
+        EXPECT_TRUE(BotonHabilitado(boton)) << boton;
+    for (int boton : {kBotonTutor, kBotonEstadis})
+        EXPECT_FALSE(BotonHabilitado(boton)) << boton;
+}
+
+TEST_F(RepartoAMano, EmpiezaSinDescartesNiUltimoQueReciba) {
+    estado.UltimoRecibe = 3;
+    estado.NumDescartes = 7;
+    Extendido();
+    EXPECT_EQ(estado.UltimoRecibe, 0);
+    EXPECT_EQ(estado.NumDescartes, 0);
+}
+
+TEST_F(RepartoAMano, TrasExtenderSePintanLosAsientosYSusNombres) {
+    EmpiezaTraza();
+    Extendido();
+    const std::vector<std::string> fin(traza.end() - 5, traza.end());
+    EXPECT_EQ(fin, (std::vector<std::string>{"RedibujarAsiento(1)", "RedibujarAsiento(2)",
+                                             "RedibujarAsiento(3)", "RedibujarAsiento(4)",
+                                             "MostrarNombres()"}));
+}
+
+TEST_F(RepartoAMano, CadaPasoDeUnaCartaSuenaYSePinta) {
+    Extendido();
+    EmpiezaTraza();
+    Toma({kOros, 1});
+    EXPECT_EQ(TrazaDe("Sonido"), (std::vector<std::string>{"Sonido(1, 24)"}));
+    traza.clear();
+    Mueve(kZona[4].x, kZona[4].y);
+    EXPECT_EQ(TrazaDe("RedibujarAsiento"), (std::vector<std::string>{"RedibujarAsiento(4)"}));
+    EXPECT_EQ(TrazaDe("Sonido"), (std::vector<std::string>{"Sonido(0, 25)"}));
+    Suelta(kZona[4].x, kZona[4].y);
+    traza.clear();
+    const Punto dada = SobreCarta(4, 1);
+    Mueve(dada.x, dada.y);
+    Aprieta(dada.x, dada.y);
+    EXPECT_EQ(TrazaDe("RedibujarAsiento"), (std::vector<std::string>{"RedibujarAsiento(4)"}));
+    Toma({kOros, 2});
+    traza.clear();
+    Mueve(kFieltro.x, kFieltro.y);
+    Suelta(kFieltro.x, kFieltro.y);
+    EXPECT_EQ(TrazaDe("Sonido"), (std::vector<std::string>{"Sonido(0, 25)"}));
 }
 
 TEST_F(RepartoAMano, CadaCartaSeExtiendeConSuPausaYLosComodinesConOtra) {
@@ -242,6 +293,25 @@ TEST_F(RepartoAMano, ElRepartoEnteroAcabaSolo) {
     EXPECT_EQ(estado.CartasEnMazo, 28);
     EXPECT_EQ(estado.PosicionMazo, 13);
     EXPECT_EQ(estado.UltimoRecibe, 4);
+}
+
+TEST_F(RepartoAMano, AlAcabarSeQuitaElRepartoYSeVuelvenAPintarLasManos) {
+    p.UsaLienzosRegistrados();
+    EncolaRepartoDeBrisca();
+    ASSERT_TRUE(RepartirAMano());
+    std::vector<std::string> dibujado = p.Dibujado(Control::Mesa).Llamadas();
+    const auto limpia = std::find(dibujado.rbegin(), dibujado.rend(), "Fieltro(0, 0, 800, 600)");
+    ASSERT_NE(limpia, dibujado.rend());
+    dibujado.erase(dibujado.begin(), limpia.base());
+    EXPECT_THAT(dibujado, testing::Not(testing::Contains(testing::StartsWith("MiniCarta("))));
+    // Each seat as its cards lie now: those of seat 1 with the back up.
+    const auto cartas = [&](const std::string& cuales) {
+        return std::ranges::count_if(dibujado, [&](const std::string& llamada) {
+            return llamada.starts_with("Carta(") && llamada.find(cuales) != std::string::npos;
+        });
+    };
+    EXPECT_EQ(cartas("palo 1 valor 1 cara 1"), 1);
+    EXPECT_EQ(cartas("palo 4 valor 3 cara 2"), 2);
 }
 
 TEST_F(RepartoAMano, LoDadoLlenaLosLugaresBajosYElRestoVaAlAzarPorEncima) {

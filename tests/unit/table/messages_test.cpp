@@ -1,5 +1,6 @@
 #include "table/messages.h"
 
+#include <fmt/format.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -10,6 +11,7 @@
 
 using namespace prueba;
 using testing::ElementsAre;
+using testing::HasSubstr;
 using testing::IsEmpty;
 
 namespace {
@@ -125,8 +127,10 @@ TEST_F(Mensajes, LaSugerenciaSePintaEnCincoRenglonesDeVeintinueve) {
     MostrarSugerencia(15);
     std::vector<std::string> renglones;
     for (const std::string& llamada : p.Dibujado(Control::Pic_Sugerencia).Llamadas()) {
-        if (llamada.starts_with("Texto("))
-            renglones.push_back(llamada.substr(0, llamada.find(';')));
+        if (!llamada.starts_with("Texto("))
+            continue;
+        renglones.push_back(llamada.substr(0, llamada.find(';')));
+        EXPECT_THAT(llamada, HasSubstr(fmt::format(", {:06X},", color::kAzul)));
     }
     EXPECT_THAT(renglones, ElementsAre("Texto(7, 20, \"Para ampliar la  información \"",
                                        "Texto(7, 30, \"sobre las reglas y  mecánica \"",

@@ -115,6 +115,16 @@ TEST_F(AsientoEnMesa, ResaltarParpadeaDosVecesElAsientoDelTurno) {
               (std::vector<std::string>{"RedibujarAsiento(4)", "RedibujarAsiento(4)"}));
 }
 
+TEST_F(AsientoEnMesa, ResaltarEnsenaLosTantosSoloConBanca) {
+    estado.JugadorActual = 1;
+    EmpiezaTraza();
+    ResaltarAsiento();
+    EXPECT_TRUE(TrazaDe("MostrarPuntos").empty());
+    Juega(kSieteYMedia);
+    ResaltarAsiento();
+    EXPECT_EQ(TrazaDe("MostrarPuntos"), (std::vector<std::string>{"MostrarPuntos(1)"}));
+}
+
 TEST_F(AsientoEnMesa, LosNombresSonLosDeQuienJuega) {
     Desactiva({2});
     estado.NombreJugador(1) = "Ana";

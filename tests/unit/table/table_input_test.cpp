@@ -175,6 +175,31 @@ TEST_F(Entrada, UnClicEnUnaCartaLegalLaElige) {
     EXPECT_EQ(p.sonidos.back(), (SonidoPedido{25, true}));
 }
 
+TEST_F(Entrada, ElegirUnaCartaVuelveAPintarSuAsiento) {
+    TurnoDeLaPersona();
+    EmpiezaTraza();
+    Clica(SobreCarta(4, 3));
+    EXPECT_EQ(TrazaDe("RedibujarAsiento"), (std::vector<std::string>{"RedibujarAsiento(4)"}));
+}
+
+// The turned card looks out 18 pixels at the pile's left.
+TEST_F(Entrada, ElPunteroSobreLaPilaCambiaSoloSiHayCambio) {
+    Juega(kBrisca);
+    PonMano(4, {{kOros, 7}, {kBastos, kRey}, {kCopas, 5}});
+    ManoEmpezada(4);
+    EXPECT_EQ(Sobre({355, 300}), Puntero::Flecha);
+    bazas.CartaCambio = 7;
+    EXPECT_EQ(Sobre({355, 300}), Puntero::Cambiar);
+    EXPECT_EQ(Sobre({286, 230}), Puntero::Cambiar);
+    EXPECT_EQ(Sobre({404, 370}), Puntero::Cambiar);
+    EXPECT_EQ(Sobre({285, 300}), Puntero::Flecha);
+    EXPECT_EQ(Sobre({405, 300}), Puntero::Flecha);
+    EXPECT_EQ(Sobre({355, 229}), Puntero::Flecha);
+    EXPECT_EQ(Sobre({355, 371}), Puntero::Flecha);
+    estado.ControlJugador(4) = kAutomatico;
+    EXPECT_EQ(Sobre({355, 300}), Puntero::Flecha);
+}
+
 TEST_F(Entrada, UnClicEnUnaCartaQueNoValeSoloSuena) {
     TurnoDeLaPersona();
     estado.SonidoActivo = true;

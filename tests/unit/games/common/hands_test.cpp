@@ -219,6 +219,18 @@ TEST_F(Manos, QuienJuegaAManoPeroNoEstaEnLaMesaNoHaceEsperar) {
     EXPECT_TRUE(CuentaFinalMano("x"));
 }
 
+TEST_F(Manos, LaCartaAconsejadaSeLevantaDosVeces) {
+    PonMano(1, {{kOros, 5}, {kCopas, 2}});
+    estado.JugadorActual = 1;
+    EmpiezaTraza();
+    AconsejaCarta([] { estado.CartaElegida = 2; });
+    EXPECT_THAT(traza,
+                ElementsAre("RedibujarAsiento(1)", "Pausa(180)", "Sonido(1, 26)", "Pausa(420)",
+                            "RedibujarAsiento(1)", "RedibujarAsiento(1)", "Pausa(180)",
+                            "Sonido(1, 26)", "Pausa(420)", "RedibujarAsiento(1)"));
+    EXPECT_EQ(estado.Mano(1, 1, 2, kAltura), kEnLinea);
+}
+
 TEST_F(Manos, LaManoGanadaCuentaYSeGuarda) {
     estado.JuegosJugados = 1;
     estado.GanadorMano = 3;

@@ -151,6 +151,14 @@ TEST(Mazo, TrasRepartirAManoPintaElUltimoServido) {
     EXPECT_EQ(LaQuePinta(), Carta(kCopas, kAs));
 }
 
+TEST(Mazo, LaCartaQuePintaSuenaAlDestaparse) {
+    MesaDeTrick mesa(kBrisca, 4);
+    PonMazo({{kOros, 2}, {kOros, 4}});
+    mesa.Escucha({"Sonido", "Pausa"});
+    DescubreTriunfo();
+    EXPECT_EQ(mesa.traza, (std::vector<std::string>{"Sonido(1, 24)", "Pausa(500)"}));
+}
+
 // --- The draw --------------------------------------------------------------------------------------------
 
 TEST(Robo, EmpiezaElGanadorYSigueElSentido) {
