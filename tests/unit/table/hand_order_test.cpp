@@ -121,6 +121,18 @@ TEST_F(Ordenar, SuenaAlTomarlaYAlSoltarla) {
     EXPECT_EQ(p.sonidos, (std::vector<SonidoPedido>{{24, false}, {25, true}}));
 }
 
+TEST_F(Ordenar, AlSoltarlaSePintanLosAsientosQueJuegan) {
+    estado.EstadoJugador(2) = kDesactivado;
+    Toma(4, 3);
+    const Punto destino = SobreCarta(4, 7);
+    Mueve(destino.x, destino.y);
+    EmpiezaTraza();
+    Suelta(destino.x, destino.y);
+    EXPECT_EQ(TrazaDe("RedibujarAsiento"),
+              (std::vector<std::string>{"RedibujarAsiento(1)", "RedibujarAsiento(3)",
+                                        "RedibujarAsiento(4)"}));
+}
+
 TEST_F(Ordenar, NoSaleDeLaBandaDelAsientoCuatro) {
     Toma(4, 3);
     EXPECT_EQ(MedioEn(0, 0), (Punto{248, 494}));     // 230 + 18, 438 + 56
