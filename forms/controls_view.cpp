@@ -111,7 +111,8 @@ void PintaRecuadro(QPainter& p, const QRect& donde, const QString& titulo, const
 void PintaFoco(QPainter& p, const QRect& donde, const QPalette& paleta) {
     p.setBrush(Qt::NoBrush);
     p.setPen(QPen(paleta.color(QPalette::WindowText), 1, Qt::DotLine));
-    p.drawRect(donde.adjusted(0, 0, -1, -1));
+    // On the middle of the pixels: on their edge a side would lie half outside, and be lost at a scale of 1.5.
+    p.drawRect(QRectF(donde).adjusted(0.5, 0.5, -0.5, -0.5));
 }
 
 } // namespace forma

@@ -1,9 +1,12 @@
 // What the two forms have in common as dialogs: reached by keyboard, spoken by name, waiting with the desktop.
 
+#include <QImage>
 #include <QLineEdit>
+#include <QPainter>
 #include <QTemporaryDir>
 #include <set>
 
+#include "forms/controls_view.h"
 #include "forms/normas.h"
 #include "forms/normas_view.h"
 #include "forms/personal.h"
@@ -15,6 +18,38 @@
 using namespace prueba;
 
 namespace {
+
+// Whether the line of the focus is seen along the four sides of a control that lies at (x, y) of its window.
+bool FocoEntero(double escala, int x, int y) {
+    const QRect control(x, y, 100, 22);
+    QPalette tinta;
+    tinta.setColor(QPalette::WindowText, Qt::black);
+    QImage ventana(QSize(140, 60) * escala, QImage::Format_RGB32);
+    ventana.setDevicePixelRatio(escala);
+    ventana.fill(Qt::white);
+    {
+        QPainter p(&ventana);
+        p.setClipRect(control);
+        p.translate(control.topLeft());
+        forma::PintaFoco(p, QRect(QPoint(0, 0), control.size()), tinta);
+    }
+    const auto pintados = [&](QRect lado) {
+        int cuantos = 0;
+        for (int j = lado.top(); j <= lado.bottom(); ++j) {
+            for (int i = lado.left(); i <= lado.right(); ++i)
+                cuantos += qGray(ventana.pixel(i, j)) < 128 ? 1 : 0;
+        }
+        return cuantos;
+    };
+    const QRect todo =
+        QRectF(QPointF(x, y) * escala, QSizeF(control.size()) * escala).toAlignedRect();
+    const QRect ancho(todo.left() + 4, 0, todo.width() - 8, 3);
+    const QRect alto(0, todo.top() + 4, 3, todo.height() - 8);
+    return pintados(ancho.translated(0, todo.top())) > 10 &&
+           pintados(ancho.translated(0, todo.bottom() - 2)) > 10 &&
+           pintados(alto.translated(todo.left(), 0)) > 2 &&
+           pintados(alto.translated(todo.right() - 2, 0)) > 2;
+}
 
 bool EstaDentro(const QWidget& control, const QWidget& ventana) {
     const QRect sitio(control.mapTo(&ventana, QPoint(0, 0)), control.size());
@@ -28,6 +63,13 @@ class PruebaFormas : public QObject, protected MesaDeFormas {
 
 private Q_SLOTS:
     void init() { Empieza(kTute); }
+
+    void TheFocusHasItsFourSidesAtEveryScale() {
+        for (const double escala : {1.0, 1.25, 1.5, 1.75, 2.0}) {
+            for (int x = 4; x < 12; ++x)
+                QVERIFY2(FocoEntero(escala, x, 20 - x), qPrintable(QString::number(escala)));
+        }
+    }
 
     // ---- what is there, and where
 
