@@ -59,5 +59,10 @@ bool EsperaHasta(bool (*lista)()) {
 
 bool EsperaContinuar() {
     PedirContinuar(1);
-    return EsperaHasta([] { return !estado.EsperandoJugada; });
+    if (!EsperaHasta([] { return !estado.EsperandoJugada; }))
+        return false;
+    // A card that was clicked ends the wait too, and the words on the button are of the seat that has played.
+    if (!estado.PausaEntreJugadas)
+        Oculta(Control::Pic_BotContinuar);
+    return true;
 }

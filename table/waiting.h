@@ -15,7 +15,8 @@ void AtiendeCierrePendiente();
 // window is kept for later.
 void PaseDeEventos(Pase pase);
 
-// The wait used everywhere in the drivers: PedirContinuar(1), then passes until EsperandoJugada is cleared.
+// The wait used everywhere in the drivers: PedirContinuar(1), then passes until EsperandoJugada is cleared. With
+// PausaEntreJugadas off the button goes away again, however the wait ended.
 // False when the match was left meanwhile: the caller returns at once.
 [[nodiscard]] bool EsperaContinuar();
 

@@ -36,6 +36,23 @@ TEST_F(Espera, ConPausaEntreJugadasElBotonVerdeSeQueda) {
     EXPECT_FALSE(p.EstaVisible(Control::Pic_BotContinuar, 0));
 }
 
+TEST_F(Espera, ConUnaCartaJugadaElBotonVerdeSeVaComoConElSuyo) {
+    Juega(kBrisca);
+    ManoEmpezada(4);
+    for (const bool pausa : {true, false}) {
+        PonMano(4, {{kOros, kAs}, {kCopas, kAs}});
+        estado.PausaEntreJugadas = pausa;
+        estado.EligeCarta = true;
+        estado.JugadaHecha = false;
+        const Punto carta = SobreCarta(4, 1);
+        p.guion.RatonMueve(carta.x, carta.y);
+        p.guion.RatonPulsa(carta.x, carta.y, 1);
+        EXPECT_TRUE(EsperaContinuar());
+        EXPECT_TRUE(estado.JugadaHecha);
+        EXPECT_EQ(p.EstaVisible(Control::Pic_BotContinuar, 0), pausa);
+    }
+}
+
 TEST_F(Espera, CualquierTeclaValeComoElBotonVerde) {
     p.guion.Tecla(' ');
     EXPECT_TRUE(EsperaContinuar());
