@@ -196,6 +196,7 @@ void FinalPartida() {
     Mensaje("Histórico de partidas jugadas", "¿Se actualiza el Histórico de partidas?", 1, 2);
     OcultaTantos();
     OcultarContinuar();
+    OcultaSugerencia();
     estado.PartidaEnCurso = false;
     GuardarPartida();
     for (int boton : {kBotonSalir, kBotonNueva, kBotonNormas})

@@ -294,6 +294,7 @@ TEST_F(Manos, ElFinalDeLaPartida) {
     for (int asiento = 1; asiento <= 4; ++asiento)
         p.Muestra(Control::Pic_Tantos, asiento, true);
     p.Muestra(Control::Pic_BotContinuar, 0, true);
+    p.Muestra(Control::Pic_Sugerencia, 0, true);
     for (int boton = 1; boton <= 8; ++boton)
         HabilitaBoton(boton, false);
     FinalPartida();
@@ -305,6 +306,7 @@ TEST_F(Manos, ElFinalDeLaPartida) {
     for (int asiento = 1; asiento <= 4; ++asiento)
         EXPECT_FALSE(p.EstaVisible(Control::Pic_Tantos, asiento));
     EXPECT_FALSE(p.EstaVisible(Control::Pic_BotContinuar, 0));
+    EXPECT_FALSE(p.EstaVisible(Control::Pic_Sugerencia, 0));
     for (int boton = 1; boton <= 8; ++boton)
         EXPECT_EQ(BotonHabilitado(boton), boton == 1 || boton == 3 || boton == 7) << boton;
 }
