@@ -29,7 +29,9 @@ void TomaJuegoJugable() {
     }
 }
 
+// The tutor may have been on in the turn that was left: there is nobody to advise yet.
 void LimpiaTodo() {
+    HabilitaBoton(kBotonTutor, false);
     OcultaTantos();
     LimpiarMesa();
     OcultaControlesMesa();

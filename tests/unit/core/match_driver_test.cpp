@@ -370,6 +370,15 @@ TEST_F(Partida, LaMesaOciosaSinNadaQueEsperarAcaba) {
     EXPECT_THAT(p.mensajes, IsEmpty());
 }
 
+TEST_F(Partida, ElTutorDelTurnoQueSeDejaNoQuedaParaElSorteo) {
+    std::vector<bool> abierto;
+    p.al_preguntar = [&](const CajaMensaje&) { abierto.push_back(BotonHabilitado(kBotonTutor)); };
+    HabilitaBoton(kBotonTutor, true);
+    NuevaPartida();
+    EXPECT_THAT(Titulos(), ElementsAre("Comienza la Partida"));
+    EXPECT_THAT(abierto, ElementsAre(false));
+}
+
 TEST_F(Partida, AlFinQuedanHabilitadosNuevaNormasYSalir) {
     p.formas = {Forma::Personal, Forma::Normas, Forma::Marcador, Forma::Estadis};
     TodoSolo();
