@@ -123,6 +123,7 @@ void IniciarTablas() {
 
 void IniciarSesion() {
     TomaJuegoJugable();
+    plataforma().Nombra(Control::Mesa, 0, JuegoEnMesa().nombre);
     ColocarMazo();
     LeerIniJuego();
     IniciarTablas();

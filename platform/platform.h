@@ -149,7 +149,8 @@ public:
     virtual bool EstaVisible(Control control, int indice) const = 0;
     virtual void PonPuntero(Control control, int indice, Puntero puntero) = 0;
     virtual Puntero PunteroDe(Control control, int indice) const = 0;
-    // What a screen reader says of the control, and its tool tip.
+    // What a screen reader says of the control, and its tool tip. The table is named by its game, which the
+    // window's title tells.
     virtual void Nombra(Control control, int indice, std::string_view nombre) = 0;
     // What a screen reader says now, unasked.
     virtual void Anuncia(std::string_view texto) = 0;

@@ -212,10 +212,12 @@ Puntero PlataformaQt::PunteroDe(Control control, int indice) const {
 
 void PlataformaQt::Nombra(Control control, int indice, std::string_view nombre) {
     const QString letras = QString::fromUtf8(nombre.data(), static_cast<qsizetype>(nombre.size()));
-    if (control == Control::Mesa)
-        mesa_->setAccessibleName(letras);
-    else
+    if (control == Control::Mesa) {
+        mesa_->setAccessibleName(QStringLiteral("Mesa de ") + letras);
+        ventana_->setWindowTitle(QStringLiteral("Zovin · ") + letras);
+    } else {
         Vista(control, indice).Nombra(letras);
+    }
 }
 
 // The table has the focus while a hand is played, and screen readers tell what changes in the description of that.

@@ -373,6 +373,12 @@ private Q_SLOTS:
         QVERIFY(!mesa_->Ventana().isMaximized());
     }
 
+    void LaVentanaDiceElJuego() {
+        mesa_->Nombra(Control::Mesa, 0, "Brisca");
+        QCOMPARE(mesa_->Ventana().windowTitle(), "Zovin · Brisca");
+        QCOMPARE(Tapete()->accessibleName(), "Mesa de Brisca");
+    }
+
     void LaPrimeraVezLlenaLaPantalla() {
         mesa_->Ventana().hide();
         mesa_.reset();

@@ -379,6 +379,19 @@ TEST_F(Partida, ElTutorDelTurnoQueSeDejaNoQuedaParaElSorteo) {
     EXPECT_THAT(abierto, ElementsAre(false));
 }
 
+// Also under the first box of a game whose file is not there yet.
+TEST_F(Partida, LaMesaSeLlamaComoSuJuego) {
+    std::vector<std::string> nombres;
+    p.al_preguntar = [&](const CajaMensaje&) {
+        nombres.push_back(p.Tablero().NombreDe({Control::Mesa, 0}));
+    };
+    for (const Integer juego : {kTute, kBrisca}) {
+        estado.JuegoActivo = juego;
+        IniciarSesion();
+    }
+    EXPECT_THAT(nombres, ElementsAre("Tute", "Brisca"));
+}
+
 TEST_F(Partida, AlFinQuedanHabilitadosNuevaNormasYSalir) {
     p.formas = {Forma::Personal, Forma::Normas, Forma::Marcador, Forma::Estadis};
     TodoSolo();
