@@ -65,6 +65,7 @@ VistaAyuda::VistaAyuda(const QString& carpeta)
     Compon();
     LlenaArbol(LeeContenido(carpeta_));
     connect(busca_, &QLineEdit::textChanged, this, &VistaAyuda::Busca);
+    connect(busca_, &QLineEdit::returnPressed, this, &VistaAyuda::AbreLaPrimera);
     connect(hoja_, &QTextBrowser::sourceChanged, this, &VistaAyuda::SenalaEnArbol);
     // A click makes a branch the current one before it selects it, so it is the selection that tells.
     connect(arbol_, &QTreeWidget::itemSelectionChanged, this, [this] {
@@ -143,6 +144,7 @@ void VistaAyuda::PonPagina(int tema) {
 }
 
 void VistaAyuda::MuestraTema(int tema) {
+    busca_->clear(); // the tree shows where the page stands, not what was looked for last
     PonPagina(tema);
     hoja_->setFocus();
     show();
@@ -174,16 +176,40 @@ QString VistaAyuda::TextoDe(int tema) {
     return textos_[tema];
 }
 
-// A branch stays in sight when its page has all the words, or one of its branches does.
-void VistaAyuda::Busca(const QString& palabras) {
-    const QStringList claves = Plano(palabras).split(u' ', Qt::SkipEmptyParts);
-    for (auto rama = ramas_.begin(); rama != ramas_.end(); ++rama) {
-        const bool tiene = std::ranges::all_of(claves, [&](const QString& clave) {
-            return Plano(rama.value()->text(0)).contains(clave) ||
-                   TextoDe(rama.key()).contains(clave);
-        });
-        rama.value()->setHidden(!tiene);
+bool VistaAyuda::Tiene(const QTreeWidgetItem* rama, const QStringList& claves) {
+    const QString titulo = Plano(rama->text(0));
+    const QString texto = TextoDe(rama->data(0, kTemaEnRama).toInt());
+    return std::ranges::all_of(claves, [&](const QString& clave) {
+        return titulo.contains(clave) || texto.contains(clave);
+    });
+}
+
+QStringList VistaAyuda::Claves() const {
+    return Plano(busca_->text()).split(u' ', Qt::SkipEmptyParts);
+}
+
+// A page whose title has the words comes before those that only mention them.
+void VistaAyuda::AbreLaPrimera() {
+    const QStringList claves = Claves();
+    QTreeWidgetItem* primera = nullptr;
+    for (QTreeWidgetItemIterator rama(arbol_); !claves.isEmpty() && *rama != nullptr; ++rama) {
+        const QString titulo = Plano((*rama)->text(0));
+        const bool nombra = std::ranges::all_of(
+            claves, [&](const QString& clave) { return titulo.contains(clave); });
+        if (nombra || (primera == nullptr && Tiene(*rama, claves)))
+            primera = *rama;
+        if (nombra)
+            break;
     }
+    if (primera != nullptr)
+        arbol_->setCurrentItem(primera);
+}
+
+// A branch stays in sight when its page has all the words, or one of its branches does.
+void VistaAyuda::Busca() {
+    const QStringList claves = Claves();
+    for (QTreeWidgetItem* rama : std::as_const(ramas_))
+        rama->setHidden(!Tiene(rama, claves));
     for (QTreeWidgetItem* rama : std::as_const(ramas_)) {
         for (auto* madre = rama->parent(); !rama->isHidden() && madre != nullptr;
              madre = madre->parent())

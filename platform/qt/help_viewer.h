@@ -34,7 +34,10 @@ private:
     void Compon();
     void PonPagina(int tema);
     void LlenaArbol(const QList<PaginaAyuda>& paginas);
-    void Busca(const QString& palabras);
+    void Busca();
+    void AbreLaPrimera();
+    QStringList Claves() const;
+    bool Tiene(const QTreeWidgetItem* rama, const QStringList& claves);
     void SenalaEnArbol(const QUrl& pagina);
     QString TextoDe(int tema);
     QString FicheroDe(int tema) const;

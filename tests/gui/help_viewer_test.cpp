@@ -139,6 +139,33 @@ private Q_SLOTS:
         QCOMPARE(Visibles(ayuda).size(), 4);
     }
 
+    void IntroAbreLaPrimeraQueTieneLasPalabras() {
+        VistaAyuda ayuda(carpeta_.path());
+        ayuda.MuestraTema(0);
+        auto* busca = ayuda.findChild<QLineEdit*>();
+        auto* hoja = ayuda.findChild<QTextBrowser*>();
+        const auto abre = [&](const QString& palabras) {
+            busca->setText(palabras);
+            QTest::keyClick(busca, Qt::Key_Return);
+            return hoja->toPlainText();
+        };
+        QVERIFY(abre("poker").contains("Verde como"));
+        QVERIFY(
+            abre("verde").contains("continuar")); // the title goes before a page that mentions it
+        QVERIFY(abre("zzz").contains("continuar"));
+        QVERIFY(abre("").contains("continuar"));
+    }
+
+    void AlAbrirUnTemaNoQuedaLaUltimaBusqueda() {
+        VistaAyuda ayuda(carpeta_.path());
+        auto* busca = ayuda.findChild<QLineEdit*>();
+        busca->setText("poker");
+        ayuda.MuestraTema(2195);
+        QVERIFY(busca->text().isEmpty());
+        QCOMPARE(Visibles(ayuda).size(), 4);
+        QCOMPARE(ayuda.findChild<QTreeWidget*>()->currentItem()->text(0), "El botón verde");
+    }
+
     void LaAyudaCabeEnLaPantalla() {
         VistaAyuda ayuda(carpeta_.path());
         const QSize pantalla = QApplication::primaryScreen()->availableSize();
