@@ -298,6 +298,22 @@ TEST_F(ManoDeCinquillo, LaPersonaEligeConElRaton) {
     EXPECT_EQ(estado.NumCartas(1, 1), 9);
 }
 
+// After the first click the mouse rests on the 4 de copas, which the 5 has made legal by the next turn.
+TEST_F(ManoDeCinquillo, ElPunteroQuietoDiceSiLaCartaVale) {
+    estado.ControlJugador(1) = kManual;
+    estado.CartasJugador(1) = kVisibles;
+    ReparteMitades();
+    p.guion.RatonMueve(60, 330);
+    p.guion.RatonPulsa(60, 330, 1);
+    EmpiezaTraza();
+    ManoCinquillo();
+    ASSERT_EQ(estado.NumBaza, 2);
+    ASSERT_EQ(estado.JugadorActual, 1);
+    const auto espera = std::ranges::find(traza.rbegin(), traza.rend(), "PedirContinuar(1)");
+    const auto turno = std::find(espera, traza.rend(), "ResaltarAsiento()");
+    EXPECT_NE(std::find(espera, turno, "CambiarCursor(\"mesa\", \"ManoVerde\")"), turno);
+}
+
 TEST_F(ManoDeCinquillo, ElBotonVerdeJuegaPorLaPersona) {
     estado.ControlJugador(1) = kManual;
     estado.CartasJugador(1) = kVisibles;
