@@ -242,6 +242,10 @@ TEST_F(PersonalTest, InCinquilloNobodyLeaves) {
     }
     EXPECT_THAT(mesa.Mensajes(), SizeIs(4));
     EXPECT_EQ(Titulo(), "Selector desactivado");
+    EXPECT_EQ(
+        mesa.Mensajes().back().texto,
+        "El juego del Cinquillo se juega con cuatro jugadores,  por tanto,  no  puede desactivar "
+        "ninguno  y  no  se  le  permite modificar el valor de este selector.");
 }
 
 TEST_F(PersonalTest, InBlackJackCardsAreAlwaysVisible) {
