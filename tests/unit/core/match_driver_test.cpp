@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "betting/chips.h"
 #include "core/session_state.h"
 #include "core/settings.h"
 #include "games/cinquillo/cinquillo.h"
@@ -121,9 +122,13 @@ TEST_F(Partida, SinPartidaGuardadaLaMesaQuedaVacia) {
     for (int indice = 1; indice <= 4; ++indice)
         p.Muestra(Control::Pic_Tantos, indice, true);
     PedirContinuar(1);
+    estado.CursorTabla = 3;
+    CambiarCursor(Control::Mesa, 0, Puntero::ManoRoja);
     IniciarSesion();
     EXPECT_FALSE(estado.PartidaEnCurso);
     EXPECT_THAT(p.mensajes, IsEmpty());
+    EXPECT_EQ(estado.CursorTabla, 0);
+    EXPECT_EQ(PunteroEnMesa(), Puntero::Flecha);
     EXPECT_TRUE(BotonHabilitado(kBotonNormas));
     EXPECT_FALSE(p.EstaVisible(Control::Pic_Sugerencia, 0));
     EXPECT_FALSE(p.EstaVisible(Control::Pic_BotDobSeg, 0));
@@ -222,6 +227,24 @@ TEST_F(Partida, TambienUnaPartidaNuevaTomaElCinquilloYSuBaraja) {
     EXPECT_EQ(estado.JuegoActivo, kCinquillo);
     EXPECT_EQ(estado.CartasNormales, 40);
     EXPECT_FALSE(estado.ValorEnBaraja(8));
+}
+
+// The deal is left before the hand's own start enables it.
+TEST_F(Partida, TrasElSorteoSePuedeEmpezarOtra) {
+    HabilitaBoton(kBotonNueva, false);
+    p.al_preguntar = [this](const CajaMensaje&) {
+        p.traviesa = true;
+        p.guion.Encola({.tipo = TipoEvento::Termina});
+    };
+    NuevaPartida();
+    EXPECT_EQ(sesion.peticion, Peticion::Salir);
+    EXPECT_TRUE(BotonHabilitado(kBotonNueva));
+}
+
+TEST_F(Partida, EnUnJuegoSinDineroNadieRecibeResto) {
+    NuevaPartida();
+    for (int asiento = 0; asiento <= 4; ++asiento)
+        EXPECT_EQ(RestoDe(asiento), 0);
 }
 
 TEST_F(Partida, UnaPartidaNuevaBorraLaAnterior) {
