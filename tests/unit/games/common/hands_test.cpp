@@ -73,6 +73,9 @@ TEST_F(Manos, LaManoAnteriorSeBorra) {
     estado.SerieActual = estado.SerieEnJuego = 3;
     estado.NumBaza = 9;
     estado.PaloTriunfo = kCopas;
+    estado.ValorTriunfo = 12;
+    estado.JugadoresEnMano = 1;
+    estado.Mano(1, 1, 12, kPalo) = kBastos;
     estado.RotuloSerie(1, 1) = "Paso";
     estado.Apuesta(1, 1, 2) = 50;
     bazas.CartaJugada(kOros, 5) = 2;
@@ -83,12 +86,19 @@ TEST_F(Manos, LaManoAnteriorSeBorra) {
     bazas.TuteCantado = true;
     bazas.CartaCambio = 7;
     bazas.Arrastre = true;
+    bazas.CartaEnMesa(3, 1) = kOros;
+    bazas.GanadorDeBaza(9) = 4;
+    bazas.TantosDeBaza(9) = 21;
+    bazas.NumJugables = 2;
     ASSERT_TRUE(Empieza());
     EXPECT_EQ(estado.SerieActual, 1);
     EXPECT_EQ(estado.SerieEnJuego, 1);
     EXPECT_EQ(estado.SeriesJugador(3), 1);
     EXPECT_EQ(estado.NumBaza, 0);
     EXPECT_EQ(estado.PaloTriunfo, 0);
+    EXPECT_EQ(estado.ValorTriunfo, 0);
+    EXPECT_EQ(estado.JugadoresEnMano, 4);
+    EXPECT_EQ(estado.Mano(1, 1, 12, kPalo), kSinCarta);
     EXPECT_EQ(estado.RotuloSerie(1, 1), "");
     EXPECT_EQ(estado.Apuesta(1, 1, 2), 0);
     EXPECT_EQ(bazas.CartaJugada(kOros, 5), 0);
@@ -99,6 +109,10 @@ TEST_F(Manos, LaManoAnteriorSeBorra) {
     EXPECT_FALSE(bazas.TuteCantado);
     EXPECT_EQ(bazas.CartaCambio, 0);
     EXPECT_FALSE(bazas.Arrastre);
+    EXPECT_EQ(bazas.CartaEnMesa(3, 1), kSinCarta);
+    EXPECT_EQ(bazas.GanadorDeBaza(9), 0);
+    EXPECT_EQ(bazas.TantosDeBaza(9), Currency(0));
+    EXPECT_EQ(bazas.NumJugables, 0);
 }
 
 TEST_F(Manos, ElGanadorDeLaUltimaBazaNoSeOlvida) {
