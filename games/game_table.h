@@ -31,7 +31,7 @@ struct FilaJuego {
     bool sorteo_da_banca = false; // ... and it decides JugadorBanca instead of JugadorMano
     // The words of its message. Empty: who begins.
     TextosSorteo (*textos_sorteo)() = nullptr;
-    bool mazo_seguido = false;     // the deck runs on from hand to hand, and is not shown as a pile
+    bool mazo_seguido = false;     // the deck runs on from hand to hand; mixing it shows no pile
     bool tapa_al_repartir = false; // dealt cards are covered
     bool menu_ordenar = true;      // a right click offers to put the cards in order
 

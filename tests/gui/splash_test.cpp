@@ -13,7 +13,6 @@
 class PruebaCareta : public QObject {
     Q_OBJECT
 
-private:
     static Careta* ALaVista() {
         for (QWidget* ventana : QApplication::topLevelWidgets()) {
             if (auto* careta = qobject_cast<Careta*>(ventana); careta && careta->isVisible())
