@@ -138,23 +138,19 @@ TEST_F(AjustesTest, UnaManoApuntadaNoSePierdeAunqueNoHayaEmpezadoLaSiguiente) {
     EXPECT_THAT(lineas[9], StartsWith("Eva"));
 }
 
-TEST_F(AjustesTest, EnElPrimerJuegoLaManoNoRetrocede) {
+// No game is finished yet, and the leader is written as it stands.
+TEST_F(AjustesTest, EnElPrimerJuegoYAntesDeElLaManoNoRetrocede) {
     estado.PartidaEnCurso = true;
-    estado.JuegosJugados = 1;
-    estado.JugadorMano = 3;
-    const auto lineas = JuegoGrabado();
-    EXPECT_THAT(lineas, SizeIs(3));
-    EXPECT_EQ(Columnas(lineas[0], 97, 3), "000");
-    EXPECT_EQ(Columnas(lineas[0], 101, 1), "3");
-}
-
-TEST_F(AjustesTest, SinNingunJuegoSeEscribe000) {
-    estado.PartidaEnCurso = true;
-    estado.JugadorMano = 1;
-    const auto lineas = JuegoGrabado();
-    EXPECT_THAT(lineas, SizeIs(3));
-    EXPECT_EQ(Columnas(lineas[0], 97, 3), "000");
-    EXPECT_EQ(Columnas(lineas[0], 101, 1), "1");
+    for (const Integer juegos : std::initializer_list<Integer>{1, 0}) {
+        estado.JuegosJugados = juegos;
+        for (const Integer mano : std::initializer_list<Integer>{1, 3}) {
+            estado.JugadorMano = mano;
+            const auto lineas = JuegoGrabado();
+            EXPECT_THAT(lineas, SizeIs(3));
+            EXPECT_EQ(Columnas(lineas[0], 97, 3), "000");
+            EXPECT_EQ(Columnas(lineas[0], 101, 1), Numero(mano));
+        }
+    }
 }
 
 // One back and then forward over the seats that do not play comes to the same seat, both ways round.

@@ -12,6 +12,7 @@
 namespace {
 
 using namespace prueba;
+using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
@@ -107,30 +108,26 @@ TEST_F(AjustesTest, ElPasoSaleDelSentidoYNoDeSuColumna) {
 }
 
 TEST_F(AjustesTest, UnaReglaDeDineroFueraDeLimitesVuelveASuValorPorDefecto) {
-    LeeTuteCon(109, "0996"
-                    "999"
-                    "996"
-                    "000");
-    EXPECT_EQ(estado.RestoInicial, 200);
-    EXPECT_EQ(estado.ApuestaSalida, 999);
-    EXPECT_EQ(estado.ApuestaMaxima, 25);
-    EXPECT_EQ(estado.LimitePartida, 3);
-    LeeTuteCon(109, "0004"
-                    "-01"
-                    "004"
-                    "-05");
-    EXPECT_EQ(estado.RestoInicial, 200);
-    EXPECT_EQ(estado.ApuestaSalida, 5);
-    EXPECT_EQ(estado.ApuestaMaxima, 25);
-    EXPECT_EQ(estado.LimitePartida, 3);
-    LeeTuteCon(109, "0995"
-                    "000"
-                    "005"
-                    "999");
-    EXPECT_EQ(estado.RestoInicial, 995);
-    EXPECT_EQ(estado.ApuestaSalida, 0);
-    EXPECT_EQ(estado.ApuestaMaxima, 5);
-    EXPECT_EQ(estado.LimitePartida, 999);
+    const auto leidas = [this](const std::string& bytes) {
+        LeeTuteCon(109, bytes);
+        return std::vector<Integer>{estado.RestoInicial, estado.ApuestaSalida, estado.ApuestaMaxima,
+                                    estado.LimitePartida};
+    };
+    EXPECT_THAT(leidas("0996"
+                       "999"
+                       "996"
+                       "000"),
+                ElementsAre(200, 999, 25, 3));
+    EXPECT_THAT(leidas("0004"
+                       "-01"
+                       "004"
+                       "-05"),
+                ElementsAre(200, 5, 25, 3));
+    EXPECT_THAT(leidas("0995"
+                       "000"
+                       "005"
+                       "999"),
+                ElementsAre(995, 0, 5, 999));
 }
 
 TEST_F(AjustesTest, UnaReglaQueNoCabeEn16BitsDejaLaQueHabia) {

@@ -70,6 +70,14 @@ struct ManoDeCinquillo : MesaViva {
         Reparte(Bajas(kOros) + Bajas(kCopas), Altas(kOros) + Altas(kCopas),
                 Bajas(kEspadas) + Bajas(kBastos), Altas(kEspadas) + Altas(kBastos));
     }
+    // Seat 1, a person, is going to click its last card: As to 5 of oros and of copas lie 16 pixels apart from y 178.
+    void PulsaElCincoDeCopas() {
+        estado.ControlJugador(1) = kManual;
+        estado.CartasJugador(1) = kVisibles;
+        ReparteMitades();
+        p.guion.RatonMueve(60, 330);
+        p.guion.RatonPulsa(60, 330, 1);
+    }
     static Carta Tendida(Integer asiento, int ronda) {
         return {bazas.RegistroBazas(asiento + 5, ronda), bazas.RegistroBazas(asiento + 10, ronda)};
     }
@@ -287,12 +295,7 @@ TEST_F(ManoDeCinquillo, ElTurnoAutomaticoPasoAPaso) {
 }
 
 TEST_F(ManoDeCinquillo, LaPersonaEligeConElRaton) {
-    estado.ControlJugador(1) = kManual;
-    estado.CartasJugador(1) = kVisibles;
-    ReparteMitades();
-    // Seat 1 holds As to 5 of oros and of copas, places 16 pixels apart from y 178; the 5 de copas is the last.
-    p.guion.RatonMueve(60, 330);
-    p.guion.RatonPulsa(60, 330, 1);
+    PulsaElCincoDeCopas();
     ManoCinquillo();
     EXPECT_EQ(Tendida(1, 1), (Carta{kCopas, 5}));
     EXPECT_EQ(estado.NumCartas(1, 1), 9);
@@ -300,11 +303,7 @@ TEST_F(ManoDeCinquillo, LaPersonaEligeConElRaton) {
 
 // After the first click the mouse rests on the 4 de copas, which the 5 has made legal by the next turn.
 TEST_F(ManoDeCinquillo, ElPunteroQuietoDiceSiLaCartaVale) {
-    estado.ControlJugador(1) = kManual;
-    estado.CartasJugador(1) = kVisibles;
-    ReparteMitades();
-    p.guion.RatonMueve(60, 330);
-    p.guion.RatonPulsa(60, 330, 1);
+    PulsaElCincoDeCopas();
     EmpiezaTraza();
     ManoCinquillo();
     ASSERT_EQ(estado.NumBaza, 2);
