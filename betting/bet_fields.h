@@ -7,4 +7,17 @@
 template <MismoQue<EstadoApuestas> E, class V>
 void RecorreCampos(E& bloque, V&& visita) {
     CAMPO(DesgloseFichas);
+
+    CAMPO(MaximaApuesta);
+    CAMPO(ApuestaEnCurso);
+    CAMPO(ApuestaPropuesta);
+
+    CAMPO(FichasPuestas);
+    CAMPO(NumFichasPuestas);
+
+    CAMPO(TextoBoton);
+
+    CAMPO(PuestoJugador);
+    CAMPO(Ganadores);
+    CAMPO(PremioJugador);
 }

@@ -1,0 +1,3 @@
+#include "games/poker/poker_state.h"
+
+EstadoPoker poker;
