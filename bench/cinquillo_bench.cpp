@@ -36,7 +36,7 @@ void UnaEleccion(benchmark::State& vueltas) {
         bazas.CartaJugada(palo, 5) = 1;
     Barajar();
     for (int lugar = 1; lugar <= 10; ++lugar)
-        PonCarta(1, 1, lugar, estado.Baraja(lugar, 1), estado.Baraja(lugar, 2), kDorso);
+        PonCarta(1, 1, lugar, {estado.Baraja(lugar, 1), estado.Baraja(lugar, 2)}, kDorso);
     estado.NumCartas(1, 1) = 10;
     estado.JugadorActual = 1;
     for ([[maybe_unused]] auto vuelta : vueltas) {

@@ -12,15 +12,16 @@
 #include <vector>
 
 #include "core/game_state.h"
-#include "core/initial_draw.h"
-#include "core/main_buttons.h"
-#include "core/match_driver.h"
 #include "core/random.h"
-#include "games/state_blocks.h"
 #include "platform/qt/platform_qt.h"
+#include "session/initial_draw.h"
+#include "session/main_buttons.h"
+#include "session/match_driver.h"
+#include "session/state_blocks.h"
+#include "table/flight.h"
 #include "table/layout.h"
-#include "table/table_ops.h"
 #include "table/waiting.h"
+#include "table/whole_table.h"
 #include "tests/gui/deck_images.h"
 
 namespace {
@@ -118,8 +119,8 @@ void Vuelo(benchmark::State& medida) {
         ColocarCarta(asiento, 1, 1);
         mesa.cuadros.clear();
         const auto salida = Reloj::now();
-        MoverCarta(kOros, 7, centro.x, centro.y, 1, kDorso, estado.CartaX, estado.CartaY,
-                   OrientacionDe(asiento), kDescubierta, 0);
+        MueveCarta({kOros, 7}, {centro.x, centro.y, 1, kDorso},
+                   {estado.CartaX, estado.CartaY, OrientacionDe(asiento)});
         const int camino =
             std::max(std::abs(estado.CartaX - centro.x), std::abs(estado.CartaY - centro.y));
         cuenta.Anade(mesa.cuadros, salida, (camino + kPaso - 1) / kPaso);

@@ -3,13 +3,14 @@
 #include <benchmark/benchmark.h>
 
 #include "core/game_state.h"
-#include "core/main_buttons.h"
 #include "games/common/trick_state.h"
 #include "platform/headless/headless_platform.h"
+#include "session/main_buttons.h"
+#include "table/deal.h"
 #include "table/deck.h"
 #include "table/table_input.h"
-#include "table/table_ops.h"
 #include "table/waiting.h"
+#include "table/whole_table.h"
 #include "tools/common/fresh_table.h"
 
 namespace {

@@ -16,7 +16,19 @@ set(CMAKE_CXX_FLAGS_RELWITHDEBINFO "-Og -g1")
 
 add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror=unused-result)
 
+# What ccache has to overlook so that a precompiled header does not put it out of work.
 find_program(ZOVIN_CCACHE ccache)
 if(ZOVIN_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-  set(CMAKE_CXX_COMPILER_LAUNCHER "${ZOVIN_CCACHE}")
+  set(CMAKE_CXX_COMPILER_LAUNCHER "${CMAKE_COMMAND}" -E env
+    "CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime"
+    "${ZOVIN_CCACHE}")
 endif()
+
+# precompiled(TARGET HEADER...): the headers of libraries that nearly every file of the target reads. The sources
+# include what they use all the same, so that a single file compiles alone and tidy reads it as it stands.
+function(precompiled target)
+  target_precompile_headers(${target} PRIVATE ${ARGN})
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    target_compile_options(${target} PRIVATE -fpch-preprocess)
+  endif()
+endfunction()

@@ -24,13 +24,15 @@ function(zovin_sources variable)
 endfunction()
 
 zovin_sources(logic_sources EXCLUDE "/(forms|reports)/[^/]*_view\\.cpp$"
-  PATTERNS core/*.cpp table/*.cpp betting/*.cpp games/**/*.cpp forms/*.cpp reports/*.cpp
+  PATTERNS core/*.cpp betting/*.cpp table/*.cpp storage/*.cpp games/**/*.cpp forms/*.cpp
+           reports/*.cpp session/*.cpp
            platform/*.cpp platform/headless/*.cpp)
 if(logic_sources)
   find_package(fmt REQUIRED)
   add_library(zovin_logic STATIC ${logic_sources})
   target_include_directories(zovin_logic PUBLIC "${CMAKE_SOURCE_DIR}")
   target_link_libraries(zovin_logic PUBLIC fmt::fmt)
+  precompiled(zovin_logic <algorithm> <array> <functional> <string> <vector> <fmt/format.h>)
 endif()
 
 if(ZOVIN_DESKTOP)
@@ -49,6 +51,7 @@ if(qt_sources)
   target_compile_definitions(zovin_qt PUBLIC QT_NO_KEYWORDS QT_NO_CAST_TO_ASCII)
   target_link_libraries(zovin_qt PUBLIC zovin_logic
     Qt6::Core Qt6::Gui Qt6::Widgets Qt6::Svg Qt6::PrintSupport)
+  precompiled(zovin_qt <QtWidgets> <string>)
 endif()
 
 # The sound back end is loaded when a sound is first wanted, so that a silent game does not carry

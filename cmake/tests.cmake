@@ -21,10 +21,11 @@ function(zovin_gtest name label)
   if(NOT sources OR NOT TARGET zovin_logic)
     return()
   endif()
-  add_executable(${name} ${sources})
+  add_executable(${name} ${sources} "${CMAKE_SOURCE_DIR}/tests/support/all_games.cpp")
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
   target_link_libraries(${name} PRIVATE ${test_libraries} ${arg_LIBRARIES}
     GTest::gtest GTest::gmock GTest::gtest_main)
+  precompiled(${name} <gmock/gmock.h> <gtest/gtest.h> <fmt/format.h>)
   gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
     TEST_PREFIX "${label}." WORKING_DIRECTORY "${test_scratch}"
     PROPERTIES LABELS ${label} TIMEOUT ${arg_TIMEOUT}
@@ -41,7 +42,7 @@ if(TARGET zovin_logic)
   endforeach()
 
   # Makers of cards, seats and tables that several kinds of test share.
-  zovin_sources(support_sources PATTERNS tests/support/*.cpp)
+  zovin_sources(support_sources PATTERNS tests/support/*.cpp EXCLUDE "/all_games\\.cpp$")
   if(support_sources)
     add_library(test_support STATIC ${support_sources})
     target_link_libraries(test_support PUBLIC ${test_libraries} GTest::gtest GTest::gmock)

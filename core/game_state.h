@@ -31,6 +31,14 @@ inline constexpr Integer kBarajaEspanola = 1, kBarajaFrancesa = 2;
 inline constexpr Integer kPoker = 1, kBlackJack = 31, kTute = 51, kBrisca = 58, kSieteYMedia = 65,
                          kCinquillo = 70;
 
+// A card: which one it is, wherever it lies.
+struct Carta {
+    Integer palo = kSinCarta, valor = 0;
+    constexpr Carta() = default;
+    constexpr Carta(Integer p, Integer v) : palo(p), valor(v) {}
+    friend constexpr bool operator==(const Carta&, const Carta&) = default;
+};
+
 // One finished game of the match. Index of the text tables: seat; of Marcas: seat, column.
 struct RegistroJuego {
     std::string Inicio; // who led the game, 9 characters in the file

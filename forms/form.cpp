@@ -4,11 +4,9 @@
 #include "forms/personal.h"
 #include "forms/selector.h"
 #include "forms/spin.h"
-#include "games/game_table.h"
+#include "table/game_row.h"
 
 namespace {
-
-std::function<void()> refresco_en_uso;
 
 bool Entre(int indice, int primero, int ultimo) {
     return indice >= primero && indice <= ultimo;
@@ -99,15 +97,6 @@ constexpr MandosForma kNormas{normas::Abre,  normas::Abierta, CierraNormas,   no
                               PulsaEnNormas, EscribeEnNormas, NadaQueDeslizar};
 
 } // namespace
-
-void PonRefresco(std::function<void()> refresco) {
-    refresco_en_uso = std::move(refresco);
-}
-
-void RefrescaForma() {
-    if (refresco_en_uso)
-        refresco_en_uso();
-}
 
 const MandosForma* MandosDe(Forma forma) {
     switch (forma) {

@@ -1,18 +1,11 @@
 #pragma once
 // What the forms have in common: the view that shows the open one, and the way to its controls by their names.
 
-#include <functional>
 #include <string_view>
 
 #include "platform/platform.h"
 
-inline constexpr int kSonidoSpin = 4, kSonidoSelector = 6, kSonidoEnlace = 7, kSonidoSalir = 9,
-                     kSonidoCasilla = 25;
 inline constexpr int kAyudaNormas = 2200, kAyudaPersonal = 2210;
-
-// The view of the open form: called after each change that the player can see. Without one nothing happens.
-void PonRefresco(std::function<void()> refresco);
-void RefrescaForma();
 
 // A form from the outside, for the line console and for tests: what a window would do to it, by the names of its
 // controls. pulsa, escribe and desliza answer false when the form has no such control; one that is not on show

@@ -6,6 +6,7 @@
 #include <QWidget>
 
 #include "forms/form.h"
+#include "forms/refresh.h"
 #include "platform/platform.h"
 
 namespace {

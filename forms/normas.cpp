@@ -3,14 +3,14 @@
 #include <algorithm>
 
 #include "core/game_state.h"
-#include "core/pending_rules.h"
-#include "core/saving.h"
 #include "core/text.h"
-#include "forms/form.h"
+#include "forms/refresh.h"
 #include "forms/selector.h"
 #include "forms/spin.h"
-#include "games/game_table.h"
+#include "storage/saving.h"
+#include "table/game_row.h"
 #include "table/messages.h"
+#include "table/pending_rules.h"
 
 namespace normas {
 
@@ -25,25 +25,12 @@ constexpr const char* kOtroJuego =
 bool abierta = false;
 Integer marcado = 0;
 
-// What each game shows, from the top of the form.
-struct Reglas {
-    Integer juego;
-    std::vector<int> controles;
-    const char* encabezado = ""; // above its line in the list of games
-};
-
-const std::vector<Reglas>& LasReglas() {
-    static const std::vector<Reglas> kReglas{
-        {kPoker,
-         {kSelReparto, kSelBaraja, kSelComodines, kSelLey, kSpinResto, kSpinSalida, kSpinMaxima},
-         "Baraja Francesa"},
-        {kBlackJack, {kSpinResto, kSpinMaxima}},
-        {kTute, {kSelReparto, kSelModalidad, kSpinLimite}, "Baraja Española"},
-        {kBrisca, {kSelReparto, kSelModalidad, kSpinLimite}},
-        {kSieteYMedia, {kSelReparto, kSpinResto, kSpinMaxima}},
-        {kCinquillo, {kSelReparto, kSpinLimite}},
-    };
-    return kReglas;
+// The control that shows a rule.
+int ControlDe(Regla regla) {
+    constexpr int kControles[] = {kSelReparto,   kSelLey,     kSelComodines,
+                                  kSelModalidad, kSelBaraja,  kSpinResto,
+                                  kSpinSalida,   kSpinMaxima, kSpinLimite};
+    return kControles[static_cast<std::size_t>(regla)];
 }
 
 // The opening law does not ask for a pair that the deck does not have: those values are stepped over.
@@ -99,13 +86,13 @@ void Deja() {
 }
 
 const char* Encabezado(Integer juego) {
-    const auto reglas = std::ranges::find(LasReglas(), juego, &Reglas::juego);
-    return reglas != LasReglas().end() ? reglas->encabezado : "";
+    const FilaJuego* fila = FilaDe(juego);
+    return fila != nullptr ? fila->normas.encabezado : "";
 }
 
 bool SePuedeElegir(Integer juego) {
     const FilaJuego* fila = FilaDe(juego);
-    return fila != nullptr && fila->driver != nullptr;
+    return fila != nullptr && SePuedeJugar(*fila);
 }
 
 Integer JuegoMarcado() {
@@ -113,10 +100,12 @@ Integer JuegoMarcado() {
 }
 
 std::vector<int> Controles() {
-    const auto reglas = std::ranges::find(LasReglas(), estado.JuegoActivo, &Reglas::juego);
-    if (reglas == LasReglas().end())
+    const FilaJuego* fila = FilaDe(estado.JuegoActivo);
+    if (fila == nullptr)
         return {};
-    std::vector<int> controles = reglas->controles;
+    std::vector<int> controles;
+    for (const Regla regla : fila->normas.reglas)
+        controles.push_back(ControlDe(regla));
     if (estado.NumJugadores != 4) { // pairs are for four at the table
         std::erase(controles, kSelModalidad);
     }

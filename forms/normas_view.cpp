@@ -13,8 +13,8 @@
 #include "forms/normas.h"
 #include "forms/selector.h"
 #include "forms/spin.h"
-#include "games/game_table.h"
 #include "platform/qt/canvas_qt.h"
+#include "table/game_row.h"
 
 namespace {
 

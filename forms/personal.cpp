@@ -3,35 +3,24 @@
 #include <algorithm>
 
 #include "core/game_state.h"
-#include "core/pending_rules.h"
 #include "core/text.h"
-#include "forms/form.h"
+#include "forms/refresh.h"
 #include "forms/selector.h"
-#include "games/game_table.h"
+#include "table/button_column.h"
+#include "table/game_row.h"
 #include "table/messages.h"
-#include "table/table_ops.h"
+#include "table/pending_rules.h"
+#include "table/seat_drawing.h"
+#include "table/whole_table.h"
 
 namespace personal {
 
 namespace {
 
-constexpr Integer kBanca = 2; // the seat that holds the bank of Black Jack
 constexpr Integer kVentanaCerrada = 2;
 
 constexpr const char* kNoSeCambia = "Selector desactivado";
 constexpr const char* kIncompatibles = "Selecciones incompatibles";
-constexpr const char* kBancaFija =
-    "En  el  juego  del  Black Jack  este  es  el  jugador  banca  o 'croupier'   "
-    "y  no  lo  puede  desactivar,  por  tanto,  no  se  le permite modificar el "
-    "valor de este selector.";
-constexpr const char* kCuatroFijos =
-    "El juego del Cinquillo se juega con cuatro jugadores,  por tanto,  no  puede "
-    "desactivar ninguno  y  no  se  le  permite modificar el valor de este "
-    "selector.";
-constexpr const char* kCartasFijas =
-    "En  el  juego  del  Black  Jack  las  cartas  de  los  jugadores siempre  "
-    "permanecen  boca arriba ,   por  lo  que  no  puede modificar el valor de "
-    "este selector.";
 constexpr const char* kOcultarManual =
     "Si elige 'Ocultas' en 'Cartas del jugador' no podrá seguir con el 'Control "
     "del juego' del jugador seleccionado a 'Manual'. Si pulsa el botón Aceptar se "
@@ -52,36 +41,22 @@ constexpr const char* kJugadoresNuevos =
     "comenzar la nueva partida. Si pulsa  el  botón  Cancelar  no se modificarán "
     "los jugadores activados y continuará la partida en juego.";
 
-// A selector that a game does not let the player change.
-struct Candado {
-    Integer juego;
-    int clase;
-    Integer asiento; // 0: of any seat
-    const char* aviso;
-};
-
-constexpr Candado kCandados[]{
-    {kBlackJack, kSelEstado, kBanca, kBancaFija},
-    {kCinquillo, kSelEstado, 0, kCuatroFijos},
-    {kBlackJack, kSelCartas, 0, kCartasFijas},
-};
-
 bool abierta = false;
 Tabla<Integer, 4> estado_al_abrir;
 
+// What is said when the game does not let the player change the selector.
 const char* AvisoDeCandado(int control) {
-    for (const Candado& candado : kCandados) {
+    for (const Candado& candado : JuegoEnMesa().asientos.candados) {
+        const int clase = candado.ajuste == Candado::Ajuste::Estado ? kSelEstado : kSelCartas;
         const bool su_asiento = candado.asiento == 0 || candado.asiento == AsientoDe(control);
-        if (candado.juego == estado.JuegoActivo && candado.clase == ClaseDe(control) &&
-            su_asiento) {
+        if (clase == ClaseDe(control) && su_asiento)
             return candado.aviso;
-        }
     }
     return nullptr;
 }
 
 bool EsLaBanca(Integer asiento) {
-    return asiento != 0 && asiento == JuegoEnMesa().asiento_banca;
+    return asiento != 0 && asiento == JuegoEnMesa().asientos.banca;
 }
 
 // Beyond its name and its state a seat shows its settings while it plays by them.
@@ -106,7 +81,7 @@ void RedibujaAsientos(Integer serie_de_turno) {
 }
 
 void AlineaCaras(Integer asiento) {
-    const bool destapadas_quedan = JuegoEnMesa().tapa_al_repartir;
+    const bool destapadas_quedan = JuegoEnMesa().reparto.tapa;
     for (int serie = 1; serie <= 4; ++serie) {
         for (int lugar = 1; lugar <= 54; ++lugar) {
             if (estado.Mano(asiento, serie, lugar, kPalo) == kSinCarta)

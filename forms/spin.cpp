@@ -4,8 +4,8 @@
 #include <array>
 
 #include "core/game_state.h"
-#include "core/settings.h"
 #include "core/text.h"
+#include "storage/settings_limits.h"
 
 SpinDeTrabajo spin;
 

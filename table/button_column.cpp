@@ -6,10 +6,10 @@
 
 #include "core/game_state.h"
 #include "core/session_state.h"
-#include "games/game_table.h"
+#include "table/controls.h"
+#include "table/game_row.h"
 #include "table/layout.h"
 #include "table/sheet_layout.h"
-#include "table/table_ops.h"
 #include "table/trace.h"
 
 namespace {
@@ -59,8 +59,8 @@ void PintaContinuar(int kind) {
         primera = estado.NombreJugador(estado.JugadorActual);
         segunda = "automático";
         const FilaJuego& juego = JuegoEnMesa();
-        if (juego.rotulo_continuar != nullptr)
-            juego.rotulo_continuar(primera, segunda);
+        if (juego.pintura.rotulo_continuar != nullptr)
+            juego.pintura.rotulo_continuar(primera, segunda);
     }
     Lienzo& boton = plataforma().LienzoDe(Control::Pic_BotContinuar, 0);
     boton.Fieltro({0, 0, kAnchoContinuar, kAltoContinuar});

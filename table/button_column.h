@@ -1,6 +1,18 @@
 #pragma once
-// The column at the right: Pic_Botonera with the eight main buttons and the green Pic_BotContinuar.
+// The column of buttons at the right: the eight main buttons and the green one at its foot. They go by their numbers (kBotonNueva, ...).
 
-// Places the column and its buttons for the window's size; the pictures are painted anew.
+#include "platform/platform.h"
+
+// Places the column and its buttons for the size of the window, and shows them.
 void ColocaColumna();
+// Paints it anew.
 void PintaColumna();
+
+// A main button 1..8: enabled with the pointer ManoIndice, or disabled with the no-drop pointer. A button
+// whose form is missing stays disabled.
+void HabilitaBoton(int indice, bool habilitado);
+bool BotonHabilitado(int indice);
+
+// Pic_BotContinuar with its caption, kind 1 up or 2 pressed, and hidden. They write EsperandoJugada.
+void PedirContinuar(int kind);
+void OcultarContinuar();

@@ -1,14 +1,16 @@
-// Dealing: the automatic deal, and further cards during a hand.
+#include "table/deal.h"
 
 #include "core/game_state.h"
 #include "core/numeric.h"
 #include "core/session_state.h"
-#include "games/game_table.h"
 #include "table/deck.h"
+#include "table/flight.h"
+#include "table/game_row.h"
 #include "table/layout.h"
 #include "table/manual_deal.h"
 #include "table/messages.h"
-#include "table/table_ops.h"
+#include "table/pile.h"
+#include "table/seat_drawing.h"
 #include "table/table_view.h"
 #include "table/waiting.h"
 
@@ -18,18 +20,19 @@ constexpr Integer kTapadaSi = 1;
 
 bool Recibe(Integer asiento) {
     const FilaJuego& juego = JuegoEnMesa();
-    return juego.recibe != nullptr ? juego.recibe(asiento)
-                                   : estado.EstadoJugador(asiento) == kActivado;
+    return juego.reparto.recibe != nullptr ? juego.reparto.recibe(asiento, false)
+                                           : estado.EstadoJugador(asiento) == kActivado;
 }
 
-struct CartaMazo {
-    Integer palo, valor;
-};
+Integer CartasDe(Integer asiento) {
+    const FilaJuego& juego = JuegoEnMesa();
+    return juego.reparto.cartas_de != nullptr ? juego.reparto.cartas_de(asiento)
+                                              : estado.CartasReparto;
+}
 
 // The deck's next card; the pile loses it.
-CartaMazo SacaDelMazo() {
-    const CartaMazo carta{estado.Baraja(estado.PosicionMazo, 1),
-                          estado.Baraja(estado.PosicionMazo, 2)};
+Carta SacaDelMazo() {
+    const Carta carta{estado.Baraja(estado.PosicionMazo, 1), estado.Baraja(estado.PosicionMazo, 2)};
     --estado.CartasEnMazo;
     ++estado.PosicionMazo;
     DibujarMazo(estado.MazoX, estado.MazoY, estado.CartasEnMazo);
@@ -42,23 +45,22 @@ void VuelaDelMazo(Integer asiento, int lugar, int cartas) {
     const Integer cara = estado.Mano(asiento, serie, lugar, kCara);
     const Integer orientacion = OrientacionDe(asiento);
     ColocarCarta(asiento, lugar, cartas);
-    MoverCarta(estado.Mano(asiento, serie, lugar, kPalo),
-               estado.Mano(asiento, serie, lugar, kValor), estado.MazoX, estado.MazoY, 1, kDorso,
-               estado.CartaX, estado.CartaY, orientacion, cara,
-               estado.Mano(asiento, serie, lugar, kTapada));
+    MueveCarta(
+        {estado.Mano(asiento, serie, lugar, kPalo), estado.Mano(asiento, serie, lugar, kValor)},
+        {estado.MazoX, estado.MazoY, 1, kDorso}, {estado.CartaX, estado.CartaY, orientacion, cara},
+        estado.Mano(asiento, serie, lugar, kTapada) == kTapadaSi);
 }
 
 void RepartaUna(Integer asiento, int lugar) {
     const FilaJuego& juego = JuegoEnMesa();
-    if (juego.mazo_seguido && estado.CartasEnMazo == 0)
+    if (juego.baraja.seguida && estado.CartasEnMazo == 0)
         Barajar();
-    const CartaMazo carta = SacaDelMazo();
-    PonCarta(asiento, 1, lugar, carta.palo, carta.valor, estado.CartasJugador(asiento));
-    if (juego.tapa_al_repartir)
+    const Carta carta = SacaDelMazo();
+    PonCarta(asiento, 1, lugar, carta, estado.CartasJugador(asiento));
+    if (juego.reparto.tapa)
         estado.Mano(asiento, 1, lugar, kTapada) = kTapadaSi;
     ++estado.NumCartas(asiento, 1);
-    vista.abanico(asiento) =
-        juego.cartas_en_mesa != nullptr ? juego.cartas_en_mesa(asiento) : estado.CartasReparto;
+    vista.abanico(asiento) = CartasDe(asiento);
     VuelaDelMazo(asiento, lugar, vista.abanico(asiento));
 }
 
@@ -74,10 +76,9 @@ void RepartaUna(Integer asiento, int lugar) {
 }
 
 [[nodiscard]] bool RepartePasada(int pasada) {
-    const FilaJuego& juego = JuegoEnMesa();
     Integer asiento = estado.JugadorMano;
     do {
-        if (juego.corta_pasada != nullptr && juego.corta_pasada(pasada, asiento))
+        if (pasada > CartasDe(asiento))
             return true;
         if (Recibe(asiento) && !ReparteMonton(asiento, pasada))
             return false;
@@ -98,7 +99,7 @@ public:
 [[nodiscard]] bool ReparteSolo() {
     const OrdenFirme orden;
     const ManosAbiertas abiertas;
-    if (!JuegoEnMesa().mazo_seguido || estado.CartasEnMazo == 0)
+    if (!JuegoEnMesa().baraja.seguida || estado.CartasEnMazo == 0)
         Barajar();
     for (int pasada = 1; pasada <= estado.CartasReparto; pasada += estado.PasoReparto) {
         if (!RepartePasada(pasada))
@@ -123,17 +124,17 @@ bool Repartir() {
 void RobarCartas(Integer asiento, Integer n, Integer tapada) {
     const FilaJuego& juego = JuegoEnMesa();
     if (n > estado.CartasEnMazo) {
-        if (juego.rellena_mazo != nullptr)
-            juego.rellena_mazo(asiento, n);
+        if (juego.baraja.rellena != nullptr)
+            juego.baraja.rellena(asiento, n);
         DibujarMazo(estado.MazoX, estado.MazoY, estado.CartasEnMazo);
     }
     const Integer serie = estado.SerieActual;
     const int primero = PrimerHueco(asiento);
     for (int i = 0; i < n; ++i) {
         const int lugar = primero + i;
-        const CartaMazo carta = SacaDelMazo();
-        const bool a_la_vista = juego.tapa_al_repartir && tapada == 0;
-        PonCarta(asiento, serie, lugar, carta.palo, carta.valor,
+        const Carta carta = SacaDelMazo();
+        const bool a_la_vista = juego.reparto.tapa && tapada == 0;
+        PonCarta(asiento, serie, lugar, carta,
                  a_la_vista ? kDescubierta : estado.CartasJugador(asiento));
         estado.Mano(asiento, serie, lugar, kTapada) = tapada;
         ++estado.NumCartas(asiento, serie);

@@ -8,15 +8,16 @@
 #include "core/game_state.h"
 #include "core/numeric.h"
 #include "core/random.h"
-#include "games/game_table.h"
+#include "table/game_row.h"
 #include "table/layout.h"
 #include "table/messages.h"
-#include "table/table_ops.h"
+#include "table/pile.h"
+#include "table/seat_drawing.h"
+#include "table/sounds.h"
 #include "table/trace.h"
 
 namespace {
 
-constexpr int kSonidoBaraja = 20;
 constexpr Integer kValorComodin = 90; // 91 and 92 are the jokers
 
 // A free place of 1..total. A taken place draws again: the order of the cards is a rejection fill.
@@ -47,7 +48,7 @@ struct CartaConClave {
 
 void ConstruirBaraja() {
     const FilaJuego& juego = JuegoEnMesa();
-    juego.prepara_baraja();
+    juego.baraja.prepara();
     plataforma().CargaBaraja(estado.CarpetaTrabajo + (estado.TipoBaraja == kBarajaEspanola
                                                           ? "/Baraja02.bmp"
                                                           : "/Baraja01.bmp"),
@@ -55,12 +56,12 @@ void ConstruirBaraja() {
 }
 
 void Barajar() {
-    Sonido(1, kSonidoBaraja);
+    Sonido(1, sonido::kBaraja);
     Pausa(400);
     estado.CartasEnMazo = estado.TotalBaraja;
     estado.NumDescartes = 0;
     estado.PosicionMazo = 1;
-    if (!JuegoEnMesa().mazo_seguido)
+    if (!JuegoEnMesa().baraja.seguida)
         DibujarMazo(estado.MazoX, estado.MazoY, estado.TotalBaraja);
     estado.Baraja.Borra();
     SiembraDelReloj(plataforma().Reloj());
@@ -74,10 +75,9 @@ void Barajar() {
         MeteEnBaraja(kComodin, EnteroDe(kValorComodin + comodin));
 }
 
-void PonCarta(Integer asiento, Integer serie, int lugar, Integer palo, Integer valor,
-              Integer cara) {
-    estado.Mano(asiento, serie, lugar, kPalo) = palo;
-    estado.Mano(asiento, serie, lugar, kValor) = valor;
+void PonCarta(Integer asiento, Integer serie, int lugar, Carta carta, Integer cara) {
+    estado.Mano(asiento, serie, lugar, kPalo) = carta.palo;
+    estado.Mano(asiento, serie, lugar, kValor) = carta.valor;
     estado.Mano(asiento, serie, lugar, kCara) = cara;
     estado.Mano(asiento, serie, lugar, kAltura) = kEnLinea;
     estado.Mano(asiento, serie, lugar, kTapada) = 0;
@@ -103,11 +103,11 @@ void CompactarMano(Integer asiento) {
 
 void OrdenarMano(Integer asiento) {
     const FilaJuego& juego = JuegoEnMesa();
-    if (juego.ordena_mano != nullptr) {
-        juego.ordena_mano(asiento);
+    if (juego.baraja.ordena_mano != nullptr) {
+        juego.baraja.ordena_mano(asiento);
         return;
     }
-    if (juego.clave_orden == nullptr)
+    if (juego.baraja.clave_orden == nullptr)
         return;
     const Integer serie = estado.SerieActual;
     CompactarMano(asiento);
@@ -120,7 +120,7 @@ void OrdenarMano(Integer asiento) {
             carta.campos[static_cast<std::size_t>(campo)] =
                 estado.Mano(asiento, serie, lugar, campo);
         }
-        carta.clave = juego.clave_orden(carta.campos[kPalo], carta.campos[kValor]);
+        carta.clave = juego.baraja.clave_orden(carta.campos[kPalo], carta.campos[kValor]);
         cartas.push_back(carta);
     }
     std::ranges::stable_sort(cartas, {}, &CartaConClave::clave);

@@ -1,7 +1,7 @@
 #pragma once
-// The deck: built for the game and its rules, shuffled, dealt, sorted for show.
+// The deck: built for the game and its rules, shuffled; the cards of a hand put, closed up, sorted for show.
 
-#include "core/tabla.h"
+#include "core/game_state.h"
 
 // Sets the deck fields for JuegoActivo and the rules: TipoBaraja, ValoresPorPalo, CartasNormales, ...,
 // ValorEnBaraja, ValorCarta, OrdenCarta, the names of the ranks; loads the deck image from CarpetaTrabajo
@@ -11,12 +11,6 @@ void ConstruirBaraja();
 // Fills Baraja with the whole deck at random places: CartasEnMazo, PosicionMazo 1, NumDescartes 0.
 void Barajar();
 
-// The deal of a hand, by SistemaReparto. False when the match was left meanwhile.
-[[nodiscard]] bool Repartir();
-
-// n more cards for SerieActual of the seat, covered or not. Writes Mano, NumCartas, CartasEnMazo, PosicionMazo.
-void RobarCartas(Integer asiento, Integer n, Integer tapada);
-
 // The cards of SerieActual in the order that the game shows them; the place of a played card is closed up.
 void OrdenarMano(Integer asiento);
 
@@ -24,4 +18,4 @@ void OrdenarMano(Integer asiento);
 void CompactarMano(Integer asiento);
 
 // A face-up or covered card for place lugar of a serie, all fields written.
-void PonCarta(Integer asiento, Integer serie, int lugar, Integer palo, Integer valor, Integer cara);
+void PonCarta(Integer asiento, Integer serie, int lugar, Carta carta, Integer cara);

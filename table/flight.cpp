@@ -1,4 +1,4 @@
-// The flight of a card.
+#include "table/flight.h"
 
 #include <algorithm>
 #include <cmath>
@@ -6,16 +6,16 @@
 
 #include "core/game_state.h"
 #include "core/numeric.h"
+#include "platform/platform.h"
 #include "table/layout.h"
 #include "table/messages.h"
-#include "table/table_ops.h"
+#include "table/sounds.h"
 #include "table/trace.h"
 
 namespace {
 
 constexpr int kPasoVuelo = 26; // pixels a frame along the longer way
 constexpr int kPausaCuadro = 12;
-constexpr int kSonidoDespega = 24, kSonidoPosa = 25;
 
 struct Eje {
     int donde, fin, paso;
@@ -59,26 +59,25 @@ void Vuela(Eje x, Eje y, const ImagenCarta& carta) {
 
 } // namespace
 
-void MoverCarta(int palo, int valor, int desdeX, int desdeY, int desdeOrientacion, int desdeCara,
-                int hastaX, int hastaY, int hastaOrientacion, int hastaCara, int tapada) {
-    Traza("MoverCarta", palo, valor, desdeX, desdeY, desdeOrientacion, desdeCara, hastaX, hastaY,
-          hastaOrientacion, hastaCara, tapada);
-    const ImagenCarta carta{.palo = EnteroDe(palo),
-                            .valor = EnteroDe(valor),
-                            .cara = EnteroDe(hastaCara),
-                            .orientacion = EnteroDe(hastaOrientacion),
-                            .tapada = tapada == 1};
-    const int caminoX = hastaX - desdeX;
-    const int caminoY = hastaY - desdeY;
+void MueveCarta(Carta carta, const Sitio& desde, const Sitio& hasta, bool tapada) {
+    Traza("MoverCarta", carta.palo, carta.valor, desde.x, desde.y, desde.orientacion, desde.cara,
+          hasta.x, hasta.y, hasta.orientacion, hasta.cara, tapada ? 1 : 0);
+    const ImagenCarta imagen{.palo = carta.palo,
+                             .valor = carta.valor,
+                             .cara = hasta.cara,
+                             .orientacion = hasta.orientacion,
+                             .tapada = tapada};
+    const int caminoX = hasta.x - desde.x;
+    const int caminoY = hasta.y - desde.y;
     if (caminoX != 0 || caminoY != 0) {
-        Sonido(1, kSonidoDespega);
-        Vuela({desdeX, hastaX, PasoDelEje(caminoX, caminoY)},
-              {desdeY, hastaY, PasoDelEje(caminoY, caminoX)}, carta);
+        Sonido(1, sonido::kDespega);
+        Vuela({desde.x, hasta.x, PasoDelEje(caminoX, caminoY)},
+              {desde.y, hasta.y, PasoDelEje(caminoY, caminoX)}, imagen);
     }
     if (plataforma().HayPantalla()) {
         plataforma().Posa();
-        plataforma().LienzoDe(Control::Mesa, 0).Carta(hastaX, hastaY, carta);
+        plataforma().LienzoDe(Control::Mesa, 0).Carta(hasta.x, hasta.y, imagen);
         plataforma().Repinta();
     }
-    Sonido(0, kSonidoPosa);
+    Sonido(0, sonido::kPosa);
 }

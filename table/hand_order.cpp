@@ -5,18 +5,19 @@
 
 #include "core/game_state.h"
 #include "core/numeric.h"
-#include "games/game_table.h"
+#include "table/controls.h"
 #include "table/deck.h"
+#include "table/game_row.h"
+#include "table/hit_tests.h"
 #include "table/layout.h"
-#include "table/manual_deal.h"
+#include "table/manual_spread.h"
 #include "table/messages.h"
-#include "table/table_input.h"
-#include "table/table_ops.h"
+#include "table/seat_drawing.h"
+#include "table/sounds.h"
 #include "table/table_view.h"
 
 namespace {
 
-constexpr int kSonidoDespega = 24, kSonidoPosa = 25;
 constexpr int kAnchoMover = 26, kAltoMover = 36;
 
 // Where the middle of the small card stands, to find the place under it.
@@ -74,8 +75,8 @@ void LlevaCarta(Integer asiento, int desde, int hasta) {
 
 void TrasReordenar(Integer asiento) {
     const FilaJuego& juego = JuegoEnMesa();
-    if (asiento == estado.JugadorActual && juego.tras_reordenar != nullptr)
-        juego.tras_reordenar();
+    if (asiento == estado.JugadorActual && juego.entrada.tras_reordenar != nullptr)
+        juego.entrada.tras_reordenar();
 }
 
 void RedibujaActivos() {
@@ -110,7 +111,7 @@ void PintaMover() {
     if (!plataforma().EstaVisible(Control::Pic_Mover, 0))
         return;
     if (estado.ArrastraReparto) {
-        const CartaColgada carta = LaCartaColgada();
+        const Carta carta = LaCartaColgada();
         PintaEnMover(carta.palo, carta.valor);
     } else if (estado.ArrastraCarta) {
         const Campos carta = LeeCampos(EnteroDe(vista.asiento_arrastrado), estado.CartaMovida);
@@ -123,7 +124,7 @@ void TomaParaOrdenar(Integer asiento, Integer lugar) {
     estado.ArrastraCarta = true;
     estado.CartaMovida = lugar;
     RedibujarAsiento(asiento);
-    Sonido(1, kSonidoDespega);
+    Sonido(1, sonido::kDespega);
 }
 
 void MueveArrastrada(int x, int y) {
@@ -150,7 +151,7 @@ void SueltaArrastrada() {
     CompactarMano(asiento);
     RedibujaActivos();
     TrasReordenar(asiento);
-    Sonido(0, kSonidoPosa);
+    Sonido(0, sonido::kPosa);
 }
 
 void AbandonaArrastre() {

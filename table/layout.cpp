@@ -4,8 +4,8 @@
 
 #include "core/game_state.h"
 #include "core/numeric.h"
-#include "games/game_table.h"
 #include "platform/platform.h"
+#include "table/game_row.h"
 #include "table/trace.h"
 
 namespace {
@@ -203,6 +203,6 @@ void ColocarMazo() {
     const Punto centro = CentroDelMazo();
     estado.MazoX = EnteroDe(centro.x);
     estado.MazoY = EnteroDe(centro.y);
-    if (fila != nullptr && fila->coloca_mazo != nullptr)
-        fila->coloca_mazo();
+    if (fila != nullptr && fila->baraja.coloca_mazo != nullptr)
+        fila->baraja.coloca_mazo();
 }

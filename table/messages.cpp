@@ -6,8 +6,9 @@
 #include "core/numeric.h"
 #include "core/text.h"
 #include "platform/platform.h"
+#include "table/controls.h"
 #include "table/sheet_layout.h"
-#include "table/table_ops.h"
+#include "table/sounds.h"
 #include "table/tips.h"
 #include "table/trace.h"
 
@@ -20,7 +21,6 @@ constexpr int kLetrasTip = 29;
 constexpr int kLetrasMensaje = 58;    // characters of a line of the box
 constexpr int kAnchoSugerencia = 217; // 29 letters and their margins
 constexpr int kAltoSugerencia = 78;
-constexpr int kSonidoBoton = 9;
 constexpr Long kVueltaReloj = 0x7FFFFFFF; // the mark keeps so many bits of the clock
 // The largest letter whose lines, 10 pixels apart, do not run into each other.
 constexpr Fuente kLetraTip{.alto = 11, .fija = true};
@@ -40,7 +40,7 @@ bool Pregunta(const std::string& titulo, const std::string& texto, int lineas, i
                                                .modo = modo,
                                                .aceptar = aceptar,
                                                .centrada = estado.VentanaModal});
-    Sonido(0, kSonidoBoton);
+    Sonido(0, sonido::kBoton);
     if (modo == 2)
         estado.RespuestaMensaje = boton == Boton::Si;
     if (modo == 3)

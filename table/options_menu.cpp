@@ -4,9 +4,9 @@
 
 #include "core/game_state.h"
 #include "core/numeric.h"
-#include "games/game_table.h"
+#include "table/controls.h"
 #include "table/deck.h"
-#include "table/table_ops.h"
+#include "table/game_row.h"
 
 namespace {
 
@@ -99,6 +99,6 @@ void Opciones_MouseUp() {
     const Integer asiento = estado.ZonaBajoCursor;
     OrdenarMano(asiento);
     const FilaJuego& juego = JuegoEnMesa();
-    if (asiento == estado.JugadorActual && juego.tras_reordenar != nullptr)
-        juego.tras_reordenar();
+    if (asiento == estado.JugadorActual && juego.entrada.tras_reordenar != nullptr)
+        juego.entrada.tras_reordenar();
 }

@@ -1,9 +1,8 @@
-// The pile of cards.
+#include "table/pile.h"
 
 #include "core/game_state.h"
-#include "games/game_table.h"
+#include "table/game_row.h"
 #include "table/layout.h"
-#include "table/table_ops.h"
 #include "table/table_view.h"
 #include "table/trace.h"
 
@@ -23,8 +22,8 @@ void DibujarMazo(int x, int y, int n) {
     Lienzo& mesa = plataforma().LienzoDe(Control::Mesa, 0);
     mesa.Fieltro({x - kMargenMazo, y, kAnchoCajaMazo, kAltoCajaMazo});
     const FilaJuego& juego = JuegoEnMesa();
-    if (juego.pinta_bajo_mazo != nullptr)
-        juego.pinta_bajo_mazo(x, y);
+    if (juego.pintura.bajo_mazo != nullptr)
+        juego.pintura.bajo_mazo(x, y);
     const int porDorso = kCartasPorDorso * std::max<int>(estado.MazosBaraja, 1);
     for (int k = 0; k * porDorso < n; ++k)
         mesa.Carta(x + k, y + kBajadaMazo - k, {.cara = kDorso, .orientacion = 1});

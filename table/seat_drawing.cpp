@@ -1,16 +1,16 @@
-// A seat on the felt: its cards, its name, its caption, the winner's mark.
+#include "table/seat_drawing.h"
 
 #include <algorithm>
 
 #include "core/game_state.h"
 #include "core/numeric.h"
 #include "core/text.h"
-#include "games/game_table.h"
+#include "table/game_row.h"
 #include "table/layout.h"
 #include "table/messages.h"
 #include "table/sheet_layout.h"
 #include "table/side_buttons.h"
-#include "table/table_ops.h"
+#include "table/sounds.h"
 #include "table/table_view.h"
 #include "table/trace.h"
 
@@ -20,7 +20,6 @@ constexpr int kLargoRotulo = 250;
 constexpr int kPasoLetraAlLado = 11, kPasoLetraAbajo = 15;
 constexpr int kAltoLetra = 14;
 constexpr int kAltoRenglon = 18;
-constexpr int kSonidoParpadeo = 12;
 
 Lienzo& Mesa() {
     return plataforma().LienzoDe(Control::Mesa, 0);
@@ -126,7 +125,7 @@ void ParpadeaRotulo(int asiento, Integer serie) {
         PintaRotulo(asiento, true);
         Pausa(250);
         if (verde)
-            Sonido(1, kSonidoParpadeo);
+            Sonido(1, sonido::kParpadeo);
         Pausa(500);
         PintaRotulo(asiento, false);
     }
@@ -154,8 +153,8 @@ void LimpiaZona(int asiento) {
     }
     Mesa().Fieltro(ZonaConRealce(asiento));
     const FilaJuego& juego = JuegoEnMesa();
-    if (juego.pinta_centro != nullptr)
-        juego.pinta_centro();
+    if (juego.pintura.centro != nullptr)
+        juego.pintura.centro();
 }
 
 void PintaCartas(int asiento) {
@@ -179,7 +178,7 @@ void PintaCartas(int asiento) {
 
 // In the games with money: the seat's chips, and the mark of a serie that has played.
 void PintaDinero(int asiento) {
-    if (!JuegoEnMesa().con_dinero)
+    if (!JuegoEnMesa().dinero.hay)
         return;
     PintarFichas(asiento, asiento - 1);
     if (estado.JuegoConBanca && estado.SerieTerminada(asiento, estado.SerieActual)) {
@@ -209,8 +208,8 @@ void RedibujarAsiento(int asiento) {
     if (plataforma().HayPantalla())
         PintaDinero(asiento);
     const FilaJuego& juego = JuegoEnMesa();
-    if (juego.botones_asiento != nullptr)
-        juego.botones_asiento(asiento);
+    if (juego.pintura.botones_asiento != nullptr)
+        juego.pintura.botones_asiento(asiento);
     if (plataforma().HayPantalla())
         plataforma().Repinta();
 }

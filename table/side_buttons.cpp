@@ -4,7 +4,7 @@
 
 #include "core/game_state.h"
 #include "core/text.h"
-#include "games/game_table.h"
+#include "table/game_row.h"
 #include "table/layout.h"
 #include "table/sheet_layout.h"
 #include "table/trace.h"
@@ -112,9 +112,9 @@ void MostrarPuntos(int asiento) {
     constexpr int kPlaca = 4;
     const lamina::Recorte& placa = lamina::kPlacaTantos;
     const FilaJuego& juego = JuegoEnMesa();
-    if (juego.puntos == nullptr)
+    if (juego.pintura.puntos == nullptr)
         return;
-    const double puntos = juego.puntos(asiento, estado.SerieActual);
+    const double puntos = juego.pintura.puntos(asiento, estado.SerieActual);
     const bool medios = puntos != static_cast<int>(puntos);
     Pon(Control::Pic_Tantos, asiento,
         JuntoAlAsiento(asiento, kLargoZona + kSeparacion,
@@ -127,34 +127,6 @@ void MostrarPuntos(int asiento) {
             .Texto(placa.ancho / 2, kPlaca, Formato(puntos, medios ? "#0.0" : "#0"),
                    {.alto = 16, .negrita = true}, color::kNegro, Alineacion::Centro);
     }
-}
-
-void PintarNumero(Control control, int indice, int x, int y, std::string_view numero,
-                  int columnas) {
-    Traza("PintarNumero", NombreDe(control), numero);
-    if (!plataforma().HayPantalla())
-        return;
-    const std::string texto = Formato(numero, std::string(static_cast<std::size_t>(columnas), '@'));
-    Lienzo& lienzo = plataforma().LienzoDe(control, indice);
-    for (std::size_t i = 0; i < texto.size(); ++i) {
-        const bool cifra = texto[i] >= '0' && texto[i] <= '9';
-        const lamina::Recorte recorte =
-            cifra ? lamina::Digito(texto[i] - '0') : lamina::kDigitoVacio;
-        lienzo.Lamina(x + static_cast<int>(i) * recorte.ancho, y, recorte);
-    }
-}
-
-void PintarMarco(Control control, int indice, int x, int y, int ancho, int alto) {
-    Traza("PintarMarco", NombreDe(control), x, y, ancho, alto);
-    if (!plataforma().HayPantalla())
-        return;
-    Lienzo& lienzo = plataforma().LienzoDe(control, indice);
-    const int extremo = lamina::kMarcoExtremoIzquierdo.ancho;
-    const int arriba = y + (alto - lamina::kMarcoTira.alto) / 2;
-    lienzo.Lamina(x, arriba, lamina::kMarcoExtremoIzquierdo);
-    for (int tira = extremo; tira < ancho - extremo; ++tira)
-        lienzo.Lamina(x + tira, arriba, lamina::kMarcoTira);
-    lienzo.Lamina(x + ancho - extremo, arriba, lamina::kMarcoExtremoDerecho);
 }
 
 void PintarFichas(int asiento, int area) {

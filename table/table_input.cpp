@@ -4,48 +4,26 @@
 
 #include "core/game_state.h"
 #include "core/numeric.h"
-#include "games/game_table.h"
-#include "table/deck.h"
+#include "table/controls.h"
+#include "table/game_row.h"
 #include "table/hand_order.h"
+#include "table/hit_tests.h"
 #include "table/layout.h"
-#include "table/manual_deal.h"
+#include "table/manual_spread.h"
 #include "table/messages.h"
 #include "table/options_menu.h"
-#include "table/table_ops.h"
+#include "table/seat_drawing.h"
+#include "table/sounds.h"
 #include "table/table_view.h"
 
 namespace {
 
-constexpr int kSonidoDespega = 24, kSonidoPosa = 25;
 constexpr int kBotonIzquierdo = 1, kBotonDerecho = 2;
-constexpr int kPasoColumna = 29, kHueco = 3, kMasFila = 2;
 constexpr int kMargenCambio =
     18; // the pile's box reaches so much further left while a change is on offer
 
 bool Dentro(int v, int desde, int hasta) {
     return v >= desde && v <= hasta;
-}
-
-bool EnLaFranja(int asiento, int x, int y, int cartas) {
-    const Rectangulo franja = FranjaMano(asiento, cartas);
-    return Dentro(x, franja.x, franja.x + franja.ancho - 1) &&
-           Dentro(y, franja.y, franja.y + franja.alto - 1);
-}
-
-bool EnLaCarta(int asiento, int lugar, int cartas, int x, int y) {
-    ColocarCarta(asiento, lugar, cartas);
-    const bool acostada = AsientoLateral(asiento);
-    const int ancho = acostada ? kAltoCarta : kAnchoCarta;
-    const int alto = acostada ? kAnchoCarta : kAltoCarta;
-    return Dentro(x, estado.CartaX, estado.CartaX + ancho - 1) &&
-           Dentro(y, estado.CartaY, estado.CartaY + alto - 1);
-}
-
-// The number of a pitch, 0 beyond the last and in the gap at its end.
-Integer FilaDePaso(int distancia, int paso, int cuantas) {
-    if (distancia < 0 || distancia / paso >= cuantas || distancia % paso >= paso - kHueco)
-        return 0;
-    return EnteroDe(distancia / paso + 1);
 }
 
 bool TurnoManual() {
@@ -63,8 +41,8 @@ Integer Codigo(Puntero puntero) {
 
 Integer PunteroEnCarta() {
     const FilaJuego& juego = JuegoEnMesa();
-    if (juego.puntero_carta != nullptr)
-        return Codigo(juego.puntero_carta(estado.CartaBajoCursor));
+    if (juego.entrada.puntero != nullptr)
+        return Codigo(juego.entrada.puntero(estado.CartaBajoCursor));
     if (estado.ModoApuesta)
         return 0;
     return Codigo(CartaLegal() ? Puntero::ManoVerde : Puntero::ManoRoja);
@@ -77,7 +55,8 @@ bool EnElMazo(int x, int y) {
 
 bool CambioEnMazo(int x, int y) {
     const FilaJuego& juego = JuegoEnMesa();
-    return juego.cambio_en_mazo != nullptr && juego.cambio_en_mazo() && EnElMazo(x, y);
+    return juego.entrada.cambio_en_mazo != nullptr && juego.entrada.cambio_en_mazo() &&
+           EnElMazo(x, y);
 }
 
 Integer PunteroDeMano(int x, int y) {
@@ -127,62 +106,60 @@ void CalculaPuntero(int x, int y) {
 }
 
 void MueveColgada(int x, int y) {
-    const CartaColgada carta = LaCartaColgada();
+    const Carta carta = LaCartaColgada();
     PonMover(carta.palo, carta.valor, x - 12, y - 12);
     DetectaZonaCartas(x, y);
-    if (estado.ZonaBajoCursor != 0)
-        DaCartaA(estado.ZonaBajoCursor);
+    if (estado.ZonaBajoCursor != 0 && DaCartaA(estado.ZonaBajoCursor))
+        CalculaPuntero(x, y);
 }
 
-void EligeLaCarta() {
-    const Integer lugar = estado.CartaBajoCursor;
-    if (estado.AsientoBajoCursor != estado.JugadorActual || lugar == 0)
+bool LaTomaElJuego(Puntero puntero) {
+    const auto clic = JuegoEnMesa().entrada.clic;
+    return clic != nullptr && clic(puntero, estado.CartaBajoCursor);
+}
+
+void EligeLaCarta(Puntero puntero) {
+    if (estado.AsientoBajoCursor != estado.JugadorActual || estado.CartaBajoCursor == 0)
         return;
-    const FilaJuego& juego = JuegoEnMesa();
-    if (juego.clic_carta != nullptr) {
-        juego.clic_carta(lugar);
-    } else if (CartaLegal()) {
+    if (!LaTomaElJuego(puntero) && CartaLegal()) {
         estado.JugadaHecha = true;
-        estado.CartaElegida = lugar;
+        estado.CartaElegida = estado.CartaBajoCursor;
         estado.EsperandoJugada = false;
     }
     RedibujarAsiento(estado.JugadorActual);
-    Sonido(0, kSonidoPosa);
+    Sonido(0, sonido::kPosa);
 }
 
 void PulsaReparto(int x, int y) {
     if (estado.CursorTabla == Codigo(Puntero::Ordenar)) {
         HallaFilyCol(x, y);
         if (TomaDelReparto()) {
-            Sonido(1, kSonidoDespega);
+            Sonido(1, sonido::kDespega);
             MueveColgada(x, y);
             RefrescaPuntero();
         }
     } else if (estado.CursorTabla == Codigo(Puntero::ManoVerde)) {
         DetectaJdorYCar(x, y);
         RecogeDeMano(estado.AsientoBajoCursor, estado.CartaBajoCursor);
+        RefrescaPuntero();
     }
 }
 
 void PulsaSegunPuntero() {
-    const FilaJuego& juego = JuegoEnMesa();
-    switch (static_cast<Puntero>(estado.CursorTabla)) {
+    const auto puntero = static_cast<Puntero>(estado.CursorTabla);
+    switch (puntero) {
     case Puntero::ManoVerde:
     case Puntero::ManoRoja: // sounds like a card, and plays none
         if (estado.EligeCarta && !estado.ModoApuesta)
-            EligeLaCarta();
+            EligeLaCarta(puntero);
         break;
     case Puntero::Voltear:
-        if (estado.EligeCarta && juego.clic_voltear != nullptr)
-            juego.clic_voltear(estado.CartaBajoCursor);
+        if (estado.EligeCarta)
+            LaTomaElJuego(puntero);
         break;
     case Puntero::Cambiar:
-        if (juego.clic_cambio != nullptr)
-            juego.clic_cambio();
-        break;
     case Puntero::Abrirse:
-        if (juego.clic_abrir != nullptr)
-            juego.clic_abrir();
+        LaTomaElJuego(puntero);
         break;
     default:
         break;
@@ -191,47 +168,10 @@ void PulsaSegunPuntero() {
 
 } // namespace
 
-void DetectaZonaCartas(int x, int y) {
-    estado.ZonaBajoCursor = 0;
-    const auto enFila = [&](int s) { return Dentro(y, estado.MesaArriba(s), estado.MesaAbajo(s)); };
-    const auto enColumna = [&](int s) {
-        return Dentro(x, estado.MesaIzquierda(s), estado.MesaDerecha(s));
-    };
-    if (x <= estado.MesaDerecha(1) && enFila(1))
-        estado.ZonaBajoCursor = 1;
-    if (enColumna(2) && y <= estado.MesaAbajo(2))
-        estado.ZonaBajoCursor = 2;
-    if (x >= estado.MesaIzquierda(3) && enFila(3))
-        estado.ZonaBajoCursor = 3;
-    if (enColumna(4) && y >= estado.MesaArriba(4))
-        estado.ZonaBajoCursor = 4;
-}
-
-void DetectaJdorYCar(int x, int y) {
-    estado.AsientoBajoCursor = 0;
-    estado.CartaBajoCursor = 0;
-    for (Integer asiento = 1; asiento <= 4; ++asiento) {
-        const Integer cartas = estado.NumCartas(asiento, estado.SerieActual);
-        if (cartas == 0 || !EnLaFranja(asiento, x, y, cartas))
-            continue;
-        estado.AsientoBajoCursor = asiento;
-        estado.CartaBajoCursor = 0;
-        for (Integer lugar = 1; lugar <= cartas; ++lugar) {
-            if (EnLaCarta(asiento, lugar, cartas, x, y))
-                estado.CartaBajoCursor = lugar;
-        }
-    }
-}
-
-void HallaFilyCol(int x, int y) {
-    estado.FilaReparto =
-        FilaDePaso(y - estado.ReparteY, estado.AltoMiniCarta + kMasFila, estado.FilasReparto);
-    estado.ColumnaReparto = FilaDePaso(x - estado.ReparteX, kPasoColumna, estado.CartasImagen / 4);
-}
-
 bool CartaLegal() {
     const FilaJuego& juego = JuegoEnMesa();
-    return juego.carta_legal == nullptr || juego.carta_legal(estado.CartaBajoCursor);
+    return juego.entrada.carta_legal == nullptr ||
+           juego.entrada.carta_legal(estado.CartaBajoCursor);
 }
 
 void RefrescaPuntero() {
@@ -269,8 +209,10 @@ void Form_MouseDown(int boton, int x, int y) {
 }
 
 void Form_MouseUp() {
-    if (estado.ArrastraReparto)
+    if (estado.ArrastraReparto) {
         DevuelveAlReparto();
+        RefrescaPuntero();
+    }
     if (estado.ArrastraCarta)
         SueltaArrastrada();
 }
@@ -278,7 +220,7 @@ void Form_MouseUp() {
 void Form_Click() {
     DetectaZonaCartas(estado.RatonX, estado.RatonY);
     if (estado.BotonRaton == kBotonDerecho && (estado.EsperandoJugada || !estado.PartidaEnCurso) &&
-        JuegoEnMesa().menu_ordenar) {
+        JuegoEnMesa().entrada.menu_ordenar) {
         const Integer zona = estado.ZonaBajoCursor;
         const bool ofrece =
             zona != 0 && estado.ManoEnCurso && estado.CartasJugador(zona) == kVisibles;

@@ -4,12 +4,6 @@
 
 #include "platform/platform.h"
 
-// What lies under a point: AsientoBajoCursor and CartaBajoCursor (0 none).
-void DetectaJdorYCar(int x, int y);
-// ZonaBajoCursor: the seat zone that holds the point, 0 none; the later seat wins.
-void DetectaZonaCartas(int x, int y);
-// FilaReparto and ColumnaReparto of the manual spread, 0 outside it and in the gaps.
-void HallaFilyCol(int x, int y);
 // True when place CartaBajoCursor of JugadorActual may be played now.
 bool CartaLegal();
 

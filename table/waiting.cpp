@@ -2,7 +2,8 @@
 
 #include "core/game_state.h"
 #include "core/session_state.h"
-#include "table/table_ops.h"
+#include "table/button_column.h"
+#include "table/controls.h"
 
 namespace {
 

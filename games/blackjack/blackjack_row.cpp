@@ -5,15 +5,24 @@
 #include "betting/chips.h"
 #include "betting/stakes.h"
 #include "core/game_state.h"
-#include "core/text.h"
 #include "games/common/series.h"
 #include "games/common/series_view.h"
-#include "games/game_table.h"
 #include "table/deck.h"
 #include "table/deck_setup.h"
+#include "table/game_row.h"
 #include "table/layout.h"
 
 namespace {
+
+constexpr Integer kBanca = 2; // the seat that holds the bank
+constexpr const char* kBancaFija =
+    "En  el  juego  del  Black Jack  este  es  el  jugador  banca  o 'croupier'   "
+    "y  no  lo  puede  desactivar,  por  tanto,  no  se  le permite modificar el "
+    "valor de este selector.";
+constexpr const char* kCartasFijas =
+    "En  el  juego  del  Black  Jack  las  cartas  de  los  jugadores siempre  "
+    "permanecen  boca arriba ,   por  lo  que  no  puede modificar el valor de "
+    "este selector.";
 
 constexpr int kBajoLaBanca = 11; // pixels between the bank's zone and the pile
 
@@ -30,24 +39,19 @@ void PreparaBaraja() {
 }
 
 void ColocaMazo() {
-    estado.MazoY = static_cast<Integer>(estado.MesaAbajo(2) + kBajoLaBanca);
+    estado.MazoY = static_cast<Integer>(estado.MesaAbajo(kBanca) + kBajoLaBanca);
 }
 
-bool Recibe(Integer asiento) {
-    return asiento == estado.JugadorBanca || ApuestaTotal(asiento, 1) > 0;
+// The bank needs no stake. Nobody deals by hand here; a card on the pointer would still enter like this.
+bool Recibe(Integer asiento, bool a_mano) {
+    const bool es_banca = asiento == estado.JugadorBanca;
+    if (!a_mano)
+        return es_banca || ApuestaTotal(asiento, 1) > 0;
+    return TieneResto(asiento) && !(es_banca && estado.NumCartas(asiento, 1) > 0);
 }
 
-bool RecibeAMano(Integer asiento) {
-    const bool banca_servida = asiento == estado.JugadorBanca && estado.NumCartas(asiento, 1) > 0;
-    return TieneResto(asiento) && !banca_servida;
-}
-
-// The bank holds one card: the second pass ends on arriving at it.
-bool CortaPasada(int pasada, Integer asiento) {
-    return pasada == 2 && asiento == estado.JugadorBanca;
-}
-
-Integer CartasEnMesa(Integer asiento) {
+// The bank holds one card until its turn.
+Integer CartasDe(Integer asiento) {
     return asiento == estado.JugadorBanca ? Integer{1} : estado.CartasReparto;
 }
 
@@ -55,31 +59,29 @@ void NuevosMazos(Integer /*asiento*/, Integer /*faltan*/) {
     Barajar();
 }
 
-std::string ClaveOrden(Integer palo, Integer valor) {
-    return Formato(valor, "00") + Formato(palo, "0");
-}
-
 } // namespace
 
 const FilaJuego& FilaBlackJack() {
-    static const FilaJuego kFila{.id = kBlackJack,
-                                 .nombre = "Black Jack",
-                                 .prepara_baraja = PreparaBaraja,
-                                 .asiento_banca = 2,
-                                 .con_dinero = true,
-                                 .sortea_inicio = false,
-                                 .mazo_seguido = true,
-                                 .menu_ordenar = false,
-                                 .recibe = Recibe,
-                                 .recibe_a_mano = RecibeAMano,
-                                 .corta_pasada = CortaPasada,
-                                 .cartas_en_mesa = CartasEnMesa,
-                                 .coloca_mazo = ColocaMazo,
-                                 .rellena_mazo = NuevosMazos,
-                                 .clave_orden = ClaveOrden,
-                                 .puntero_carta = PunteroDeSerie,
-                                 .rotulo_continuar = RotuloDeSerie,
-                                 .puntos = PuntosSerie,
-                                 .botones_asiento = PonBotonesDeSerie};
+    static const FilaJuego kFila{
+        .id = kBlackJack,
+        .nombre = "Black Jack",
+        .sin_terminar = true,
+        .asientos = {.banca = kBanca,
+                     .candados = {{Candado::Ajuste::Estado, kBanca, kBancaFija},
+                                  {Candado::Ajuste::Cartas, 0, kCartasFijas}}},
+        .baraja = {.prepara = PreparaBaraja,
+                   .seguida = true,
+                   .coloca_mazo = ColocaMazo,
+                   .rellena = NuevosMazos,
+                   .clave_orden = ClaveDeSerie},
+        .reparto = {.recibe = Recibe, .cartas_de = CartasDe},
+        .sorteo = {.se_hace = false},
+        .entrada = {.menu_ordenar = false, .puntero = PunteroDeSerie},
+        .pintura = {.botones_asiento = PonBotonesDeSerie,
+                    .puntos = PuntosSerie,
+                    .rotulo_continuar = RotuloDeSerie},
+        .dinero = {.hay = true},
+        .normas = {.reglas = {Regla::RestoInicial, Regla::ApuestaMaxima}},
+    };
     return kFila;
 }

@@ -12,17 +12,16 @@
 #include "core/session_state.h"
 #include "core/text.h"
 #include "games/cinquillo/cinquillo_choice.h"
-#include "games/cinquillo/cinquillo_row.h"
 #include "games/cinquillo/cinquillo_table.h"
 #include "games/common/hands.h"
 #include "games/common/trick_state.h"
-#include "games/game_table.h"
+#include "table/button_column.h"
 #include "table/deck.h"
-#include "table/deck_setup.h"
+#include "table/flight.h"
 #include "table/hand_order.h"
 #include "table/messages.h"
+#include "table/seat_drawing.h"
 #include "table/table_input.h"
-#include "table/table_ops.h"
 #include "table/waiting.h"
 
 namespace {
@@ -97,8 +96,7 @@ void ExtiendeCarta(Integer asiento) {
     CompactarMano(asiento);
     RedibujarAsiento(asiento);
     const Punto hasta = LugarTendido(palo, valor);
-    MoverCarta(palo, valor, desde.x, desde.y, OrientacionDe(asiento), kDescubierta, hasta.x,
-               hasta.y, 1, kDescubierta, 0);
+    MueveCarta({palo, valor}, {desde.x, desde.y, OrientacionDe(asiento)}, {hasta.x, hasta.y});
     bazas.CartaJugada(palo, valor) = asiento;
     PintaTendido();
     Pausa(500);
@@ -209,7 +207,7 @@ void CierraBotones() {
     if (!CuentaFinalMano(TextoFinal(negativos)))
         return false;
     RegistraMano(negativos);
-    ApuntaMano();
+    GanaMano();
     return true;
 }
 
@@ -227,46 +225,8 @@ void CierraBotones() {
     return CierreDeMano();
 }
 
-void PreparaBaraja() {
-    PonMedidas({.tipo = kBarajaEspanola,
-                .valores_por_palo = 10,
-                .reparto = 10,
-                .paso = 5,
-                .max_mano = 10});
-    PonValoresDeBazas();
-}
-
-std::string ClaveOrden(Integer palo, Integer valor) {
-    return Formato(palo, "0") + Formato(valor, "00");
-}
-
-void RotuloContinuar(std::string& primera, std::string& segunda) {
-    if (!EsManual(estado.JugadorActual)) {
-        segunda = primera;
-        primera = "Juega";
-    }
-}
-
 } // namespace
 
 void ManoCinquillo() {
     JuegaPartida(JuegaMano);
-}
-
-const FilaJuego& FilaCinquillo() {
-    static const FilaJuego kFila{
-        .id = kCinquillo,
-        .nombre = "Cinquillo",
-        .driver = ManoCinquillo,
-        .prepara_baraja = PreparaBaraja,
-        .minimo_asientos = 4,
-        .sin_parejas = true,
-        .pinta_centro = PintaTendido,
-        .clave_orden = ClaveOrden,
-        .carta_legal = LugarJugable,
-        .rotulo_continuar = RotuloContinuar,
-        .tras_reordenar = EligeCartaCinquillo,
-        .tutor = [] { AconsejaCarta(EligeCartaCinquillo); },
-    };
-    return kFila;
 }

@@ -6,7 +6,6 @@
 
 #include "core/game_state.h"
 #include "core/numeric.h"
-#include "games/cinquillo/cinquillo.h"
 #include "games/cinquillo/cinquillo_choice.h"
 #include "games/common/trick_state.h"
 #include "platform/platform.h"

@@ -2,19 +2,22 @@
 
 #include "core/game_state.h"
 #include "core/numeric.h"
-#include "core/pending_rules.h"
-#include "core/saving.h"
 #include "core/session_state.h"
-#include "games/common/trick_state.h"
-#include "table/deck.h"
+#include "storage/saving.h"
+#include "table/button_column.h"
+#include "table/controls.h"
+#include "table/deal.h"
+#include "table/game_row.h"
 #include "table/manual_deal.h"
 #include "table/messages.h"
-#include "table/table_ops.h"
+#include "table/pending_rules.h"
+#include "table/seat_drawing.h"
+#include "table/sounds.h"
 #include "table/waiting.h"
+#include "table/whole_table.h"
 
 namespace {
 
-constexpr int kSonidoFinMano = 14, kSonidoConsejo = 26;
 constexpr int kJuegosGuardados = 999; // what the file can count; older records are let go
 
 bool PorParejas() {
@@ -42,6 +45,8 @@ void CuentaJuego() {
 // The lead goes round from the second game on. A match that was cut off in its draw has none drawn yet, and its
 // file may name a seat that has left since: the next one leads.
 void PasaLaMano() {
+    if (JuegoEnMesa().mano.pasa_la_mano != nullptr)
+        return JuegoEnMesa().mano.pasa_la_mano();
     if (estado.JuegosJugados > 1)
         SiguienteAsiento(estado.JugadorMano);
     for (int paso = 0; paso < 4 && estado.EstadoJugador(estado.JugadorMano) != kActivado; ++paso)
@@ -65,25 +70,10 @@ void BorraMano() {
     estado.JugadoresEnMano = estado.NumJugadores;
 }
 
-void BorraBazas() {
-    bazas.CartaCambio = 0;
-    bazas.Arrastre = false;
-    bazas.TuteCantado = false;
-    bazas.CartaEnMesa.Borra();
-    bazas.TantosJugador.Borra();
-    bazas.PaloCantado.Borra();
-    bazas.CartaJugada.Borra();
-    bazas.FallaPalo.Borra();
-    bazas.RegistroBazas.Borra();
-    bazas.GanadorDeBaza.Borra();
-    bazas.TantosDeBaza.Borra();
-    bazas.CartasJugables.Borra();
-    bazas.NumJugables = 0;
-}
-
 void PonMesaDeMano() {
     BorraMano();
-    BorraBazas();
+    if (JuegoEnMesa().mano.limpia != nullptr)
+        JuegoEnMesa().mano.limpia();
     LimpiarMesa();
     MostrarNombres();
     for (int asiento = 1; asiento <= 4; ++asiento)
@@ -112,15 +102,28 @@ bool AlguienManual() {
     return false;
 }
 
-bool GanaLaPartida(Integer ganador) {
+bool LlegaAlLimite(Integer ganador) {
     if (estado.JuegosGanados(ganador) < estado.LimitePartida)
         return false;
     estado.GanadorPartida = ganador;
     return true;
 }
 
+// A saved match that somebody has already won only ends.
 bool YaGanada() {
-    return GanaLaPartida(1) || GanaLaPartida(2) || GanaLaPartida(3) || GanaLaPartida(4);
+    if (JuegoEnMesa().partida.acabada != nullptr)
+        return estado.JuegosJugados > 0 && JuegoEnMesa().partida.acabada();
+    return LlegaAlLimite(1) || LlegaAlLimite(2) || LlegaAlLimite(3) || LlegaAlLimite(4);
+}
+
+bool Acabada() {
+    const auto acabada = JuegoEnMesa().partida.acabada;
+    return acabada != nullptr ? acabada() : LlegaAlLimite(estado.GanadorMano);
+}
+
+std::string TextoFinalPartida() {
+    const auto texto = JuegoEnMesa().partida.texto_final;
+    return texto != nullptr ? texto() : TextoGana(estado.GanadorPartida, "la partida");
 }
 
 std::string Equipo(int uno) {
@@ -134,18 +137,25 @@ void PonAltura(Integer altura) {
 
 } // namespace
 
-bool IniciarJuego(void (*al_descubrir)()) {
+bool IniciarJuego() {
     AplicaReglasPendientes();
     CuentaJuego();
     PasaLaMano();
     if (!RepartirHastaCompletar())
         return false;
-    if (al_descubrir != nullptr)
-        al_descubrir();
+    if (JuegoEnMesa().mano.descubre != nullptr)
+        JuegoEnMesa().mano.descubre();
     estado.ManoEnCurso = true;
     for (int boton : {kBotonPersonal, kBotonNormas, kBotonSalir, kBotonEstadis})
         HabilitaBoton(boton, true);
     return true;
+}
+
+void RotuloDeJuega(std::string& primera, std::string& segunda) {
+    if (estado.ControlJugador(estado.JugadorActual) == kManual)
+        return;
+    segunda = primera;
+    primera = "Juega";
 }
 
 void PonAntesDelMano() {
@@ -154,7 +164,7 @@ void PonAntesDelMano() {
 }
 
 void ParpadeaGanador() {
-    Sonido(1, kSonidoFinMano);
+    Sonido(1, sonido::kFinMano);
     for (int vez = 0; vez < 4; ++vez) {
         for (const bool visible : {true, false}) {
             for (int asiento = 1; asiento <= 4; ++asiento) {
@@ -185,14 +195,19 @@ bool CuentaFinalMano(const std::string& texto) {
     return PartidaSigue();
 }
 
-void ApuntaMano() {
+void GanaMano() {
     ++estado.JuegosGanados(estado.GanadorMano);
+    ApuntaMano();
+}
+
+void ApuntaMano() {
     sesion.mano_apuntada = true;
     GuardarPartida();
 }
 
 void FinalPartida() {
-    Mensaje("Final de Partida", TextoGana(estado.GanadorPartida, "la partida"), 1, 1);
+    const std::string texto = TextoFinalPartida();
+    Mensaje("Final de Partida", texto, LineasDe(texto), 1);
     Mensaje("Histórico de partidas jugadas", "¿Se actualiza el Histórico de partidas?", 1, 2);
     OcultaTantos();
     OcultarContinuar();
@@ -208,7 +223,7 @@ void JuegaPartida(bool (*mano)()) {
     while (!ganada) {
         if (!mano())
             return;
-        ganada = GanaLaPartida(estado.GanadorMano);
+        ganada = Acabada();
     }
     FinalPartida();
 }
@@ -220,7 +235,7 @@ void AconsejaCarta(void (*elige)()) {
     for (int vez = 0; vez < 2; ++vez) {
         PonAltura(kLevantada);
         Pausa(180);
-        Sonido(1, kSonidoConsejo);
+        Sonido(1, sonido::kConsejo);
         Pausa(420);
         PonAltura(kEnLinea);
     }

@@ -1,17 +1,18 @@
 #pragma once
-// What the games that count by hands won share: the start of a hand, the winner's mark, the end of a hand and
+// What the games share: the start of a hand, the winner's mark, the end of a hand and
 // of a match, the tutor's advice. Seats 1..4; in pairs a winner is a team, 1 (seats 1 and 3) or 2 (2 and 4).
 
 #include <string>
 
 #include "core/tabla.h"
 
-// The start of a hand of Tute, Brisca and Cinquillo: rules that waited for it come into force; it counts the game,
-// moves JugadorMano on from the second game of the match and off a seat that does not play, clears the hand and
-// deals; a manual deal that was broken off is dealt again. Leaves Personalizar, Normas, Salir and Estadísticas
-// enabled and ManoEnCurso set. al_descubrir, if given, runs between the deal and ManoEnCurso: it turns the trump
-// card. False when the match was left.
-[[nodiscard]] bool IniciarJuego(void (*al_descubrir)() = nullptr);
+// The start of a hand: rules that waited for it come into force; it counts the game, moves JugadorMano on, clears the
+// hand and deals; a manual deal that was broken off is dealt again. What differs from game to game is in the row (mano).
+// Leaves Personalizar, Normas, Salir and Estadísticas enabled and ManoEnCurso set. False when the match was left.
+[[nodiscard]] bool IniciarJuego();
+
+// Both lines of the green button: an automatic seat plays, a manual one lets the program play.
+void RotuloDeJuega(std::string& primera, std::string& segunda);
 
 // JugadorActual one seat before JugadorMano: the first step of the turns lands on it.
 void PonAntesDelMano();
@@ -26,14 +27,16 @@ std::string TextoGana(Integer ganador, const std::string& que);
 // instead when no seat is manual and no pause between moves is wanted). False when the match was left.
 [[nodiscard]] bool CuentaFinalMano(const std::string& texto);
 
-// The hand counts: one more in JuegosGanados(GanadorMano), the game is in the records, the files are written.
+// The hand counts: its record is in Juegos, the files are written. GanaMano adds one to JuegosGanados(GanadorMano).
 void ApuntaMano();
+void GanaMano();
 
 // The end of a match: the winner is told, the history asked for, the table put to rest. Clears PartidaEnCurso.
 void FinalPartida();
 
-// A match: hands, each played by mano (false when the match was left), until GanadorMano has LimitePartida of them
-// and so is GanadorPartida; then the end of the match. A saved match that somebody has already won only ends.
+// A match: hands, each played by mano (false when the match was left), until the game says that the match is over
+// (partida.acabada in its row; by default GanadorMano has LimitePartida of them and so is GanadorPartida); then the
+// end of the match. A saved match that somebody has already won only ends.
 void JuegaPartida(bool (*mano)());
 
 // The tutor's advice: runs elige for JugadorActual and raises CartaElegida twice without playing it.

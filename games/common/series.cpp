@@ -1,6 +1,7 @@
 #include "games/common/series.h"
 
 #include "core/game_state.h"
+#include "core/text.h"
 
 EstadoSeries series;
 
@@ -35,4 +36,8 @@ float PuntosSerie(int asiento, int serie) {
     if (series.ManoBlanda)
         suma.puntos += kMasPorAs;
     return static_cast<float>(suma.puntos.Real());
+}
+
+std::string ClaveDeSerie(Integer palo, Integer valor) {
+    return Formato(valor, "00") + Formato(palo, "0");
 }

@@ -2,8 +2,8 @@
 
 #include "core/game_state.h"
 #include "core/text.h"
+#include "table/controls.h"
 #include "table/side_buttons.h"
-#include "table/table_ops.h"
 
 namespace {
 

@@ -43,3 +43,6 @@ struct EstadoBazas {
 };
 
 extern EstadoBazas bazas;
+
+// What a hand leaves behind is cleared before the next one.
+void BorraBazas();

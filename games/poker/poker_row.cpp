@@ -9,10 +9,10 @@
 #include "core/game_state.h"
 #include "core/numeric.h"
 #include "core/random.h"
-#include "games/game_table.h"
+#include "table/button_column.h"
 #include "table/deck_setup.h"
+#include "table/game_row.h"
 #include "table/messages.h"
-#include "table/table_ops.h"
 
 namespace {
 
@@ -43,12 +43,9 @@ bool HaApostado(Integer asiento) {
     return ApuestaTotal(asiento, 1) > 0;
 }
 
-bool Recibe(Integer asiento) {
-    return (TieneResto(asiento) && estado.ApuestaSalida == 0) || HaApostado(asiento);
-}
-
-bool RecibeAMano(Integer asiento) {
-    return TieneResto(asiento) || HaApostado(asiento);
+// By hand the cards come before the ante.
+bool Recibe(Integer asiento, bool a_mano) {
+    return HaApostado(asiento) || (TieneResto(asiento) && (a_mano || estado.ApuestaSalida == 0));
 }
 
 // What is left of an earlier mixing moves to the first places behind the deck: those already dealt are free.
@@ -118,11 +115,14 @@ void RotuloContinuar(std::string& primera, std::string& segunda) {
 }
 
 // A click raises a card to be discarded, or puts it back in line; the green button then says what it will do.
-void AlternaDescarte(int lugar) {
+bool AlternaDescarte(Puntero puntero, int lugar) {
+    if (puntero != Puntero::ManoVerde && puntero != Puntero::ManoRoja)
+        return false;
     Integer& altura = estado.Mano(estado.JugadorActual, estado.SerieActual, lugar, kAltura);
     altura = altura == kLevantada ? kEnLinea : kLevantada;
     estado.JugadaHecha = true;
     PedirContinuar(1);
+    return true;
 }
 
 // Midway between seat 1's zone and the table's centre, less 10.
@@ -134,16 +134,18 @@ void ColocaMazo() {
 } // namespace
 
 const FilaJuego& FilaPoker() {
-    static const FilaJuego kFila{.id = kPoker,
-                                 .nombre = "Póker",
-                                 .prepara_baraja = PreparaBaraja,
-                                 .con_dinero = true,
-                                 .recibe = Recibe,
-                                 .recibe_a_mano = RecibeAMano,
-                                 .cuenta_reparto = CuentaConResto,
-                                 .coloca_mazo = ColocaMazo,
-                                 .rellena_mazo = MezclaDescartes,
-                                 .clic_carta = AlternaDescarte,
-                                 .rotulo_continuar = RotuloContinuar};
+    static const FilaJuego kFila{
+        .id = kPoker,
+        .nombre = "Póker",
+        .sin_terminar = true,
+        .baraja = {.prepara = PreparaBaraja, .coloca_mazo = ColocaMazo, .rellena = MezclaDescartes},
+        .reparto = {.recibe = Recibe},
+        .entrada = {.clic = AlternaDescarte},
+        .pintura = {.rotulo_continuar = RotuloContinuar},
+        .dinero = {.hay = true},
+        .normas = {.encabezado = "Baraja Francesa",
+                   .reglas = {Regla::Reparto, Regla::Baraja, Regla::Comodines, Regla::Ley,
+                              Regla::RestoInicial, Regla::ApuestaSalida, Regla::ApuestaMaxima}},
+    };
     return kFila;
 }

@@ -3,14 +3,14 @@
 #include "betting/stakes.h"
 #include "core/game_state.h"
 #include "core/numeric.h"
-#include "core/text.h"
 #include "games/common/series.h"
 #include "games/common/series_view.h"
-#include "games/game_table.h"
 #include "table/deck_setup.h"
+#include "table/game_row.h"
 #include "table/layout.h"
 #include "table/messages.h"
-#include "table/table_ops.h"
+#include "table/seat_drawing.h"
+#include "table/sounds.h"
 
 namespace {
 
@@ -47,47 +47,45 @@ void ColocaMazo() {
 }
 
 // The seat turns its covered card up; with seven and a half its turn is over.
-void VolteaSerie(int /*lugar*/) {
-    constexpr int kSonidoPosa = 25;
+bool VolteaSerie(Puntero puntero, int /*lugar*/) {
+    if (puntero != Puntero::Voltear)
+        return false;
     constexpr float kSieteYMediaJusto = 7.5F;
     const Integer asiento = estado.JugadorActual;
     const Integer serie = estado.SerieActual;
-    Sonido(0, kSonidoPosa);
+    Sonido(0, sonido::kPosa);
     for (int lugar = 1; lugar <= estado.NumCartas(asiento, serie); ++lugar)
         estado.Mano(asiento, serie, lugar, kTapada) = 0;
     RedibujarAsiento(asiento);
     if (PuntosSerie(asiento, serie) == kSieteYMediaJusto)
         estado.EsperandoJugada = false;
+    return true;
 }
 
-TextosSorteo Textos() {
-    return {"Se  ha  sorteado  el  jugador  que  comienza  siendo  banca.",
-            "El primer jugador banca es "};
-}
-
-std::string ClaveOrden(Integer palo, Integer valor) {
-    return Formato(valor, "00") + Formato(palo, "0");
+bool Recibe(Integer asiento, bool /*a_mano*/) {
+    return TieneResto(asiento);
 }
 
 } // namespace
 
 const FilaJuego& FilaSieteYMedia() {
-    static const FilaJuego kFila{.id = kSieteYMedia,
-                                 .nombre = "Siete y media",
-                                 .prepara_baraja = PreparaBaraja,
-                                 .con_dinero = true,
-                                 .sorteo_da_banca = true,
-                                 .textos_sorteo = Textos,
-                                 .tapa_al_repartir = true,
-                                 .recibe = TieneResto,
-                                 .recibe_a_mano = TieneResto,
-                                 .cuenta_reparto = CuentaConResto,
-                                 .coloca_mazo = ColocaMazo,
-                                 .clave_orden = ClaveOrden,
-                                 .puntero_carta = PunteroDeSerie,
-                                 .clic_voltear = VolteaSerie,
-                                 .rotulo_continuar = RotuloDeSerie,
-                                 .puntos = PuntosSerie,
-                                 .botones_asiento = PonBotonesDeSerie};
+    static const FilaJuego kFila{
+        .id = kSieteYMedia,
+        .nombre = "Siete y media",
+        .sin_terminar = true,
+        .baraja = {.prepara = PreparaBaraja,
+                   .coloca_mazo = ColocaMazo,
+                   .clave_orden = ClaveDeSerie},
+        .reparto = {.tapa = true, .recibe = Recibe},
+        .sorteo = {.da_banca = true,
+                   .primera = "Se  ha  sorteado  el  jugador  que  comienza  siendo  banca.",
+                   .antes = "El primer jugador banca es "},
+        .entrada = {.puntero = PunteroDeSerie, .clic = VolteaSerie},
+        .pintura = {.botones_asiento = PonBotonesDeSerie,
+                    .puntos = PuntosSerie,
+                    .rotulo_continuar = RotuloDeSerie},
+        .dinero = {.hay = true},
+        .normas = {.reglas = {Regla::Reparto, Regla::RestoInicial, Regla::ApuestaMaxima}},
+    };
     return kFila;
 }

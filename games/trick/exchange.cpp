@@ -5,8 +5,9 @@
 #include "games/common/trick_state.h"
 #include "games/trick/trick_rules.h"
 #include "games/trick/trick_view.h"
+#include "table/flight.h"
 #include "table/layout.h"
-#include "table/table_ops.h"
+#include "table/seat_drawing.h"
 
 namespace {
 
@@ -21,15 +22,16 @@ Punto LugarEnMano(Integer asiento, Integer lugar) {
 void VuelaALaMano(Integer palo, Integer valor, Integer asiento, Integer lugar) {
     const Punto desde = LugarTriunfo();
     const Punto hasta = LugarEnMano(asiento, lugar);
-    MoverCarta(palo, valor, desde.x, desde.y, kOrientacionTriunfo, kDescubierta, hasta.x, hasta.y,
-               OrientacionDe(asiento), estado.Mano(asiento, kSerie, lugar, kCara), 0);
+    MueveCarta(
+        {palo, valor}, {desde.x, desde.y, kOrientacionTriunfo},
+        {hasta.x, hasta.y, OrientacionDe(asiento), estado.Mano(asiento, kSerie, lugar, kCara)});
 }
 
 void VuelaAlMazo(Integer palo, Integer valor, Integer asiento, Integer lugar) {
     const Punto desde = LugarEnMano(asiento, lugar);
     const Punto hasta = LugarTriunfo();
-    MoverCarta(palo, valor, desde.x, desde.y, OrientacionDe(asiento), kDescubierta, hasta.x,
-               hasta.y, kOrientacionTriunfo, kDescubierta, 0);
+    MueveCarta({palo, valor}, {desde.x, desde.y, OrientacionDe(asiento)},
+               {hasta.x, hasta.y, kOrientacionTriunfo});
 }
 
 // The trump card old for new: what the hand and the table hold, and both flights.

@@ -7,7 +7,6 @@
 #include "core/text.h"
 #include "games/common/hands.h"
 #include "games/common/trick_state.h"
-#include "table/messages.h"
 
 namespace {
 
@@ -108,6 +107,6 @@ bool FinalMano() {
     if (!CuentaFinalMano(TextoFinal()))
         return false;
     RegistraMano();
-    ApuntaMano();
+    GanaMano();
     return true;
 }

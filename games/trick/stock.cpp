@@ -3,20 +3,21 @@
 #include "core/game_state.h"
 #include "games/trick/trick_view.h"
 #include "table/deck.h"
+#include "table/flight.h"
 #include "table/messages.h"
-#include "table/table_ops.h"
+#include "table/seat_drawing.h"
+#include "table/sounds.h"
 
 namespace {
 
 constexpr int kSerie = 1;
-constexpr int kSonidoPinta = 24;
 
 void DestapaDelMazo() {
     estado.PaloTriunfo = estado.Baraja(estado.PosicionMazo, 1);
     estado.ValorTriunfo = estado.Baraja(estado.PosicionMazo, 2);
     ++estado.PosicionMazo;
     --estado.CartasEnMazo;
-    Sonido(1, kSonidoPinta);
+    Sonido(1, sonido::kDespega);
     PintaMazo();
     Pausa(500);
 }
@@ -52,13 +53,14 @@ void TomaCarta(Integer asiento, Punto desde, Integer orientacion, Integer cara) 
     const Integer lugar = ++estado.NumCartas(asiento, kSerie);
     const Integer palo = estado.Baraja(estado.PosicionMazo, 1);
     const Integer valor = estado.Baraja(estado.PosicionMazo, 2);
-    PonCarta(asiento, kSerie, lugar, palo, valor, estado.CartasJugador(asiento));
+    PonCarta(asiento, kSerie, lugar, {palo, valor}, estado.CartasJugador(asiento));
     ++estado.PosicionMazo;
     --estado.CartasEnMazo;
     PintaMazo();
     ColocarCarta(asiento, lugar, lugar);
-    MoverCarta(palo, valor, desde.x, desde.y, orientacion, cara, estado.CartaX, estado.CartaY,
-               OrientacionDe(asiento), estado.CartasJugador(asiento), 0);
+    MueveCarta(
+        {palo, valor}, {desde.x, desde.y, orientacion, cara},
+        {estado.CartaX, estado.CartaY, OrientacionDe(asiento), estado.CartasJugador(asiento)});
     RedibujarAsiento(asiento);
 }
 

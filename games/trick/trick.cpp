@@ -7,7 +7,8 @@
 #include "games/trick/trick_rules.h"
 #include "games/trick/trick_turn.h"
 #include "games/trick/trick_view.h"
-#include "table/table_ops.h"
+#include "table/controls.h"
+#include "table/seat_drawing.h"
 
 namespace {
 

@@ -8,14 +8,14 @@
 #include "games/trick/stock.h"
 #include "games/trick/trick.h"
 #include "games/trick/trick_rules.h"
-#include "table/table_ops.h"
+#include "table/button_column.h"
 
 namespace {
 
 constexpr int kSerie = 1;
 
 [[nodiscard]] bool EmpiezaMano() {
-    if (!IniciarJuego(DescubreTriunfo))
+    if (!IniciarJuego())
         return false;
     HabilitaBoton(kBotonNueva, true);
     estado.Juegos(estado.JuegosJugados).Inicio = estado.NombreJugador(estado.JugadorMano);

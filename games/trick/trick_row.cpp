@@ -5,14 +5,15 @@
 #include "core/text.h"
 #include "games/common/hands.h"
 #include "games/common/trick_state.h"
-#include "games/game_table.h"
 #include "games/trick/card_rules.h"
-#include "games/trick/choice_brisca.h"
 #include "games/trick/choice_tute.h"
 #include "games/trick/exchange.h"
+#include "games/trick/stock.h"
+#include "games/trick/trick_choice.h"
 #include "games/trick/trick_driver.h"
 #include "games/trick/trick_view.h"
 #include "table/deck_setup.h"
+#include "table/game_row.h"
 
 namespace {
 
@@ -51,48 +52,52 @@ std::string ClaveOrden(Integer palo, Integer valor) {
     return Formato(palo, "0") + Formato(10 - estado.OrdenCarta(valor), "00");
 }
 
-// An automatic seat plays, a manual one lets the program play.
-void RotuloContinuar(std::string& primera, std::string& segunda) {
-    if (estado.ControlJugador(estado.JugadorActual) == kManual)
-        return;
-    segunda = primera;
-    primera = "Juega";
-}
-
 bool HayCambio() {
     return bazas.CartaCambio != 0;
 }
 
+bool ClicEnMazo(Puntero puntero, int /*lugar*/) {
+    if (puntero != Puntero::Cambiar)
+        return false;
+    CambiaTriunfo();
+    return true;
+}
+
+void OlvidaBazas() {
+    bazas.CartaJugada.Borra();
+    bazas.CartaEnMesa.Borra();
+    bazas.TuteCantado = false;
+}
+
 // What both games have on the table.
-FilaJuego FilaDeBazas(Integer id, const char* nombre) {
-    FilaJuego fila;
-    fila.id = id;
-    fila.nombre = nombre;
-    fila.pinta_bajo_mazo = PintaTriunfo;
-    fila.pinta_centro = PintaBaza;
-    fila.clave_orden = ClaveOrden;
-    fila.cambio_en_mazo = HayCambio;
-    fila.clic_cambio = CambiaTriunfo;
-    fila.rotulo_continuar = RotuloContinuar;
-    return fila;
+FilaJuego FilaDeBazas(Integer id, const char* nombre, void (*prepara)(), void (*driver)()) {
+    return {
+        .id = id,
+        .nombre = nombre,
+        .driver = driver,
+        .baraja = {.prepara = prepara, .clave_orden = ClaveOrden},
+        .entrada = {.cambio_en_mazo = HayCambio,
+                    .clic = ClicEnMazo,
+                    .tutor = [] { AconsejaCarta(EligeParaJugar); }},
+        .pintura = {.bajo_mazo = PintaTriunfo,
+                    .centro = PintaBaza,
+                    .rotulo_continuar = RotuloDeJuega},
+        .mano = {.limpia = BorraBazas, .descubre = DescubreTriunfo},
+        .partida = {.nueva = OlvidaBazas},
+        .normas = {.reglas = {Regla::Reparto, Regla::Modalidad, Regla::Limite}},
+    };
 }
 
 FilaJuego HazFilaTute() {
-    FilaJuego fila = FilaDeBazas(kTute, "Tute");
-    fila.driver = ManoTute;
-    fila.prepara_baraja = PreparaTute;
-    fila.carta_legal = CartaLegalTute;
-    fila.tras_reordenar = EligeCartaTute;
-    fila.tutor = [] { AconsejaCarta(EligeCartaTute); };
+    FilaJuego fila = FilaDeBazas(kTute, "Tute", PreparaTute, ManoTute);
+    fila.entrada.carta_legal = CartaLegalTute;
+    fila.entrada.tras_reordenar = EligeCartaTute;
+    fila.normas.encabezado = "Baraja Española";
     return fila;
 }
 
 FilaJuego HazFilaBrisca() {
-    FilaJuego fila = FilaDeBazas(kBrisca, "Brisca");
-    fila.driver = ManoBrisca;
-    fila.prepara_baraja = PreparaBrisca;
-    fila.tutor = [] { AconsejaCarta(EligeCartaBrisca); };
-    return fila;
+    return FilaDeBazas(kBrisca, "Brisca", PreparaBrisca, ManoBrisca);
 }
 
 } // namespace

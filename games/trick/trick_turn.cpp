@@ -6,13 +6,17 @@
 #include "games/common/trick_state.h"
 #include "games/trick/card_rules.h"
 #include "games/trick/exchange.h"
+#include "games/trick/trick_choice.h"
 #include "games/trick/trick_rules.h"
+#include "table/button_column.h"
+#include "table/controls.h"
 #include "table/deck.h"
+#include "table/flight.h"
 #include "table/hand_order.h"
 #include "table/layout.h"
 #include "table/messages.h"
+#include "table/seat_drawing.h"
 #include "table/table_input.h"
-#include "table/table_ops.h"
 #include "table/waiting.h"
 
 namespace {
@@ -63,23 +67,13 @@ void PreparaEleccion(Integer asiento) {
         MostrarSugerencia(tip);
 }
 
-// The search may propose a place of a hand that has been put in another order since: no card falls against the
-// rules for that.
-void EvitaIlegal() {
-    if (ReglasEnMesa().obliga && !CartaLegalTute(estado.CartaElegida))
-        estado.CartaElegida = bazas.CartasJugables(1, 2);
-}
-
 // The seat's card stands in CartaElegida. False when the match was left.
 [[nodiscard]] bool EsperaEleccion(Integer asiento) {
     const bool espera = EsManual(asiento) || estado.PausaEntreJugadas;
     if (espera && !EsperaContinuar())
         return false;
-    if (estado.JugadaHecha)
-        return true;
-    if (espera)
-        ReglasEnMesa().elige(); // the hand may have changed during the wait
-    EvitaIlegal();
+    if (!estado.JugadaHecha)
+        EligeParaJugar(); // the hand may have changed during the wait
     return true;
 }
 
@@ -133,8 +127,8 @@ void JuegaCarta(Integer asiento) {
     const Punto desde{estado.CartaX, estado.CartaY};
     const Punto hasta = LugarCentro(asiento);
     SacaDeLaMano(asiento, lugar);
-    MoverCarta(palo, valor, desde.x, desde.y, OrientacionDe(asiento), kDescubierta, hasta.x,
-               hasta.y, OrientacionDe(asiento), kDescubierta, 0);
+    MueveCarta({palo, valor}, {desde.x, desde.y, OrientacionDe(asiento)},
+               {hasta.x, hasta.y, OrientacionDe(asiento)});
     AnotaCarta(asiento, lugar, palo, valor);
 }
 

@@ -2,8 +2,11 @@
 
 #include "core/game_state.h"
 #include "games/common/trick_state.h"
+#include "table/drawing.h"
 #include "table/messages.h"
-#include "table/table_ops.h"
+#include "table/pile.h"
+#include "table/seat_drawing.h"
+#include "table/sounds.h"
 
 namespace {
 
@@ -12,7 +15,6 @@ constexpr int kAsomaTriunfo = 18; // how far the turned card looks out at the pi
 constexpr int kBajadaTriunfo = 33;
 constexpr int kMedioAncho = 136,
               kMedioAlto = 136; // half the box that the four cards of a trick take
-constexpr int kSonidoParpadeo = 26;
 
 bool triunfo_sin_mazo = false;
 
@@ -88,7 +90,7 @@ void ParpadeaBaza() {
         PintaBazaSin(estado.GanadorBaza);
         Pausa(180);
         PintaBaza();
-        Sonido(1, kSonidoParpadeo);
+        Sonido(1, sonido::kConsejo);
     }
     Pausa(500);
 }
@@ -97,7 +99,7 @@ void ParpadeaCartas(Integer asiento, const std::vector<Integer>& lugares) {
     for (int vez = 0; vez < 3; ++vez) {
         PonCartas(asiento, lugares, kDescubierta, kLevantada);
         Pausa(180);
-        Sonido(1, kSonidoParpadeo);
+        Sonido(1, sonido::kConsejo);
         Pausa(420);
         PonCartas(asiento, lugares, kDescubierta, kEnLinea);
     }

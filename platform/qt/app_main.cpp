@@ -15,13 +15,13 @@
 #include <malloc.h>
 #endif
 
-#include "core/entry.h"
 #include "forms/normas_view.h"
 #include "forms/personal_view.h"
 #include "platform/qt/demo.h"
 #include "platform/qt/places.h"
 #include "platform/qt/platform_qt.h"
 #include "platform/qt/termination.h"
+#include "session/entry.h"
 
 namespace {
 

@@ -5,12 +5,13 @@
 #include <cstdio>
 
 #include "core/game_state.h"
-#include "core/main_buttons.h"
-#include "core/match_driver.h"
-#include "games/game_table.h"
+#include "games/game_rows.h"
 #include "platform/qt/picture_platform.h"
-#include "table/table_ops.h"
+#include "session/main_buttons.h"
+#include "session/match_driver.h"
+#include "table/game_row.h"
 #include "table/waiting.h"
+#include "table/whole_table.h"
 
 namespace {
 
@@ -56,13 +57,14 @@ int JuegaDemo(const QString& carpeta) {
     mesa.Mide(1024, 768);
     mesa.siempre_continua = true;
     RegistraDespacho(DespachaEvento);
+    UsaJuegos(LosJuegos());
     PonValoresPorDefecto();
     estado.SaltoLinea = "\r\n";
     estado.CarpetaPrograma = carpeta.toStdString();
     estado.CarpetaTrabajo = estado.CarpetaPrograma;
     CalcularMesa();
     for (const FilaJuego* juego : FilasDeJuegos()) {
-        if (juego->driver != nullptr)
+        if (SePuedeJugar(*juego))
             JuegaPartida(mesa, *juego);
     }
     if (mesa.ultima.isNull() || !mesa.ultima.save(QString::fromUtf8(kFichero))) {

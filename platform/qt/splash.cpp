@@ -9,16 +9,18 @@
 #include "platform/qt/canvas_qt.h"
 #include "platform/qt/sheet_images.h"
 #include "platform/qt/suite_paint.h"
+#include "table/game_row.h"
 
 namespace {
 
 constexpr QSize kTamano(520, 340);
 constexpr int kAltoEmblema = 18;
 
-const QStringList& Juegos() {
-    static const QStringList juegos{"Póker",  "Black Jack",    "Tute",
-                                    "Brisca", "Siete y media", "Cinquillo"};
-    return juegos;
+QString NombresDeLosJuegos() {
+    QStringList nombres;
+    for (const FilaJuego* juego : FilasDeJuegos())
+        nombres << QString::fromUtf8(juego->nombre);
+    return nombres.join(QStringLiteral(" · "));
 }
 
 } // namespace
@@ -74,7 +76,7 @@ void Careta::paintEvent(QPaintEvent*) {
     renglon(178, 84, "Zovin", QColor(0, 40, 0));
     renglon(175, 84, "Zovin", estilo::kTitulo);
     p.setFont(LetraDe({.alto = 14}));
-    renglon(264, 20, Juegos().join(" · "), estilo::kPapel);
+    renglon(264, 20, NombresDeLosJuegos(), estilo::kPapel);
     p.setFont(LetraDe({.alto = 11}));
     renglon(300, 16, QApplication::applicationVersion(), estilo::kPapel);
 }

@@ -21,16 +21,16 @@
 #include <functional>
 #include <thread>
 
-#include "core/main_buttons.h"
-#include "core/match_driver.h"
-#include "core/settings.h"
 #include "forms/normas_view.h"
 #include "forms/personal_view.h"
 #include "platform/qt/message_box.h"
 #include "platform/qt/platform_qt.h"
+#include "session/main_buttons.h"
+#include "session/match_driver.h"
+#include "storage/settings.h"
 #include "table/layout.h"
-#include "table/table_ops.h"
 #include "table/waiting.h"
+#include "table/whole_table.h"
 #include "tests/gui/deck_images.h"
 #include "tests/gui/random_hand.h"
 #include "tests/gui/random_match.h"

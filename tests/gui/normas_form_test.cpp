@@ -7,7 +7,7 @@
 
 #include "forms/normas_view.h"
 #include "forms/selector.h"
-#include "games/game_table.h"
+#include "table/game_row.h"
 #include "tests/gui/open_form.h"
 
 using namespace prueba;

@@ -10,11 +10,11 @@
 #include <vector>
 
 #include "core/game_state.h"
-#include "core/match_driver.h"
 #include "core/session_state.h"
 #include "forms/controls_view.h"
 #include "platform/headless/headless_platform.h"
-#include "table/table_ops.h"
+#include "session/match_driver.h"
+#include "table/whole_table.h"
 
 namespace prueba {
 

@@ -8,9 +8,9 @@
 
 #include "core/game_state.h"
 #include "core/session_state.h"
-#include "core/settings.h"
-#include "games/game_table.h"
-#include "games/state_blocks.h"
+#include "session/state_blocks.h"
+#include "storage/settings.h"
+#include "table/game_row.h"
 #include "tests/gui/random_hand.h"
 
 namespace prueba {

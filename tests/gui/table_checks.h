@@ -6,9 +6,10 @@
 
 #include "core/game_state.h"
 #include "core/session_state.h"
-#include "games/game_table.h"
-#include "games/state_blocks.h"
+#include "games/common/trick_state.h"
 #include "platform/platform.h"
+#include "session/state_blocks.h"
+#include "table/game_row.h"
 #include "tests/support/valid_settings.h"
 
 namespace prueba {

@@ -6,15 +6,17 @@
 #include <QTest>
 #include <memory>
 
-#include "core/main_buttons.h"
-#include "core/match_driver.h"
-#include "games/state_blocks.h"
+#include "games/common/trick_state.h"
 #include "platform/qt/platform_qt.h"
+#include "session/main_buttons.h"
+#include "session/match_driver.h"
+#include "session/state_blocks.h"
+#include "table/button_column.h"
 #include "table/deck.h"
 #include "table/layout.h"
-#include "table/messages.h"
-#include "table/table_ops.h"
+#include "table/seat_drawing.h"
 #include "table/waiting.h"
+#include "table/whole_table.h"
 #include "tests/gui/deck_images.h"
 
 namespace {
@@ -26,7 +28,7 @@ struct Carta {
 void Reparte(Integer asiento, std::initializer_list<Carta> cartas) {
     int lugar = 0;
     for (const Carta& carta : cartas)
-        PonCarta(asiento, 1, ++lugar, carta.palo, carta.valor, estado.CartasJugador(asiento));
+        PonCarta(asiento, 1, ++lugar, carta, estado.CartasJugador(asiento));
     estado.NumCartas(asiento, 1) = static_cast<Integer>(lugar);
     RedibujarAsiento(asiento);
 }

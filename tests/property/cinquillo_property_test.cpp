@@ -10,12 +10,12 @@
 #include <string>
 #include <vector>
 
-#include "core/main_buttons.h"
-#include "core/match_driver.h"
 #include "core/random.h"
 #include "core/text.h"
 #include "games/common/trick_state.h"
 #include "platform/headless/headless_platform.h"
+#include "session/main_buttons.h"
+#include "session/match_driver.h"
 #include "table/deck.h"
 #include "table/waiting.h"
 #include "tests/support/trick_hands.h"

@@ -6,10 +6,11 @@
 
 #include <array>
 
-#include "core/pending_rules.h"
 #include "core/text.h"
 #include "forms/form.h"
 #include "forms/spin.h"
+#include "table/deck.h"
+#include "table/pending_rules.h"
 #include "tests/support/open_forms.h"
 #include "tests/support/valid_settings.h"
 

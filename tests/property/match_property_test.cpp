@@ -8,7 +8,7 @@
 #include <iterator>
 #include <vector>
 
-#include "games/game_table.h"
+#include "table/game_row.h"
 #include "tools/simula/match.h"
 
 namespace {

@@ -3,9 +3,9 @@
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
-#include "core/between_hands.h"
-#include "core/settings_repair.h"
 #include "core/text.h"
+#include "storage/between_hands.h"
+#include "storage/settings_repair.h"
 #include "tests/support/settings_files.h"
 #include "tests/support/valid_settings.h"
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "core/random.h"
-#include "games/state_blocks.h"
+#include "session/state_blocks.h"
 #include "table/deck.h"
 #include "table/trace.h"
 #include "table/waiting.h"

@@ -10,9 +10,9 @@
 #include <vector>
 
 #include "core/game_state.h"
-#include "core/main_buttons.h"
-#include "core/match_driver.h"
 #include "platform/headless/headless_platform.h"
+#include "session/main_buttons.h"
+#include "session/match_driver.h"
 #include "table/layout.h"
 #include "tests/support/trick_hands.h"
 

@@ -4,13 +4,12 @@
 #include <vector>
 
 #include "core/game_state.h"
-#include "core/main_buttons.h"
 #include "core/session_state.h"
 #include "forms/normas.h"
 #include "forms/personal.h"
 #include "forms/selector.h"
+#include "session/main_buttons.h"
 #include "table/deck.h"
-#include "table/table_ops.h"
 #include "tests/support/settings_files.h"
 #include "tools/common/fresh_table.h"
 
@@ -43,7 +42,7 @@ public:
 
     void DaCarta(Integer asiento, Integer cara, Integer tapada = 0) {
         const Integer lugar = ++estado.NumCartas(asiento, 1);
-        PonCarta(asiento, 1, lugar, kOros, lugar, cara);
+        PonCarta(asiento, 1, lugar, {kOros, lugar}, cara);
         estado.Mano(asiento, 1, lugar, kTapada) = tapada;
     }
     static Integer CaraDe(Integer asiento, int lugar = 1) {

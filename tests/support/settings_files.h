@@ -6,9 +6,9 @@
 #include "core/files.h"
 #include "core/game_state.h"
 #include "core/session_state.h"
-#include "core/settings.h"
-#include "games/state_blocks.h"
 #include "platform/headless/headless_platform.h"
+#include "session/state_blocks.h"
+#include "storage/settings.h"
 
 namespace prueba {
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "core/settings.h"
+#include "storage/settings.h"
 #include "tests/support/settings_files.h"
 
 namespace prueba {

@@ -4,15 +4,10 @@
 #include <vector>
 
 #include "core/game_state.h"
-#include "games/common/trick_state.h"
 
 namespace prueba {
 
-struct Carta {
-    Integer palo = 0, valor = 0;
-    Carta(Integer p, Integer v) : palo(p), valor(v) {}
-    friend bool operator==(const Carta&, const Carta&) = default;
-};
+using ::Carta;
 
 inline constexpr Integer kAs = 1, kTres = 3, kSota = 10, kCaballo = 11, kRey = 12;
 

@@ -2,14 +2,14 @@
 
 #include <algorithm>
 
-#include "core/main_buttons.h"
-#include "core/match_driver.h"
 #include "core/random.h"
 #include "core/session_state.h"
+#include "session/main_buttons.h"
+#include "session/match_driver.h"
 #include "table/layout.h"
-#include "table/table_ops.h"
 #include "table/trace.h"
 #include "table/waiting.h"
+#include "table/whole_table.h"
 #include "tests/support/live_table.h"
 
 namespace prueba {

@@ -1,13 +1,16 @@
 #include "tools/common/fresh_table.h"
 
-#include "core/match_driver.h"
 #include "core/random.h"
-#include "games/state_blocks.h"
+#include "games/game_rows.h"
 #include "platform/platform.h"
-#include "table/table_ops.h"
+#include "session/match_driver.h"
+#include "session/state_blocks.h"
+#include "table/game_row.h"
 #include "table/table_view.h"
+#include "table/whole_table.h"
 
 void PonMesaNueva() {
+    UsaJuegos(LosJuegos());
     BorraEstado();
     sesion = {};
     VaciaColaAzar();

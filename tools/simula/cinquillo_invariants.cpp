@@ -2,7 +2,8 @@
 
 #include <string>
 
-#include "games/state_blocks.h"
+#include "games/common/trick_state.h"
+#include "session/state_blocks.h"
 #include "tools/simula/invariants.h"
 
 namespace {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "games/state_blocks.h"
+#include "session/state_blocks.h"
 #include "tools/simula/cinquillo_invariants.h"
 #include "tools/simula/trick_invariants.h"
 

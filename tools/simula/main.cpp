@@ -6,7 +6,7 @@
 #include <chrono>
 #include <cstdio>
 
-#include "games/game_table.h"
+#include "table/game_row.h"
 #include "tools/simula/runner.h"
 
 namespace {
@@ -14,7 +14,7 @@ namespace {
 void PonOpciones(CLI::App& app, OpcionesSimula& opciones) {
     std::vector<int> juegos;
     for (const FilaJuego* fila : FilasDeJuegos()) {
-        if (fila->driver != nullptr)
+        if (SePuedeJugar(*fila))
             juegos.push_back(fila->id);
     }
     app.add_option("--juego", opciones.juego, "número del juego")

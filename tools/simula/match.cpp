@@ -4,11 +4,12 @@
 
 #include <stdexcept>
 
-#include "core/main_buttons.h"
-#include "core/match_driver.h"
 #include "core/random.h"
-#include "games/state_blocks.h"
+#include "session/main_buttons.h"
+#include "session/match_driver.h"
+#include "session/state_blocks.h"
 #include "table/deck.h"
+#include "table/game_row.h"
 #include "table/trace.h"
 #include "table/waiting.h"
 #include "tools/common/fresh_table.h"
@@ -91,8 +92,10 @@ Simulacion::Simulacion(const OpcionesSimula& opciones)
     Pide(opciones.asientos >= 2 && opciones.asientos <= 4, "los asientos son de 2 a 4");
     Pide(opciones.limite >= 1 && opciones.limite <= 999, "el límite va de 1 a 999");
     Pide(!opciones.parejas || opciones.asientos == 4, "las parejas son de cuatro asientos");
-    Pide(opciones.juego != kCinquillo || opciones.asientos == 4, "al Cinquillo juegan cuatro");
-    Pide(opciones.juego != kCinquillo || !opciones.parejas, "al Cinquillo no se juega por parejas");
+    const FilaJuego* juego = FilaDe(static_cast<Integer>(opciones.juego));
+    Pide(juego != nullptr && SePuedeJugar(*juego), "ese juego no se puede jugar");
+    Pide(opciones.asientos >= juego->asientos.minimo, "a ese juego juegan más asientos");
+    Pide(!opciones.parejas || !juego->asientos.sin_parejas, "a ese juego no se juega por parejas");
     UsaPlataforma(mesa_);
     RegistraDespacho(&DespachaEvento);
     PonMesaNueva();

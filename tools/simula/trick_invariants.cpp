@@ -3,7 +3,8 @@
 #include <algorithm>
 #include <vector>
 
-#include "games/state_blocks.h"
+#include "games/common/trick_state.h"
+#include "session/state_blocks.h"
 #include "tools/simula/invariants.h"
 
 namespace {

@@ -7,14 +7,14 @@
 #include <unordered_map>
 
 #include "core/game_state.h"
-#include "core/main_buttons.h"
-#include "core/match_driver.h"
 #include "core/random.h"
-#include "games/game_table.h"
+#include "session/main_buttons.h"
+#include "session/match_driver.h"
 #include "table/deck.h"
-#include "table/table_ops.h"
+#include "table/game_row.h"
 #include "table/trace.h"
 #include "table/waiting.h"
+#include "table/whole_table.h"
 #include "tools/common/fresh_table.h"
 #include "tools/sonda/field_access.h"
 #include "tools/sonda/procedures.h"

@@ -8,7 +8,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "games/state_blocks.h"
+#include "session/state_blocks.h"
 
 namespace {
 

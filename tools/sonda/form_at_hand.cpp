@@ -4,7 +4,7 @@
 
 #include <unordered_map>
 
-#include "core/main_buttons.h"
+#include "session/main_buttons.h"
 #include "tools/sonda/literal.h"
 
 namespace {

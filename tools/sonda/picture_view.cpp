@@ -4,9 +4,9 @@
 
 #include <algorithm>
 
-#include "games/state_blocks.h"
 #include "platform/qt/picture_platform.h"
-#include "table/table_ops.h"
+#include "session/state_blocks.h"
+#include "table/whole_table.h"
 #include "tools/common/program_files.h"
 #include "tools/sonda/literal.h"
 

@@ -5,10 +5,6 @@
 #include "betting/chips.h"
 #include "betting/stakes.h"
 #include "core/game_state.h"
-#include "core/initial_draw.h"
-#include "core/main_buttons.h"
-#include "core/match_driver.h"
-#include "core/settings.h"
 #include "forms/spin.h"
 #include "games/cinquillo/cinquillo.h"
 #include "games/cinquillo/cinquillo_choice.h"
@@ -23,13 +19,25 @@
 #include "games/trick/hand_end.h"
 #include "games/trick/stock.h"
 #include "games/trick/trick_driver.h"
+#include "session/initial_draw.h"
+#include "session/main_buttons.h"
+#include "session/match_driver.h"
+#include "storage/settings.h"
+#include "table/button_column.h"
+#include "table/controls.h"
+#include "table/deal.h"
 #include "table/deck.h"
+#include "table/drawing.h"
+#include "table/flight.h"
+#include "table/hit_tests.h"
 #include "table/layout.h"
 #include "table/messages.h"
 #include "table/options_menu.h"
+#include "table/pile.h"
+#include "table/seat_drawing.h"
 #include "table/side_buttons.h"
 #include "table/table_input.h"
-#include "table/table_ops.h"
+#include "table/whole_table.h"
 
 namespace {
 
@@ -68,9 +76,12 @@ void PintaMarco(Control control, int x, int y, int ancho, int alto) {
     PintarMarco(control, 0, x, y, ancho, alto);
 }
 
-// The start of a hand of the active game: Tute and Brisca turn a card up.
-bool EmpiezaJuego() {
-    return estado.JuegoActivo == kCinquillo ? IniciarJuego() : IniciarJuego(DescubreTriunfo);
+// A flight with all that it takes in one line.
+void MoverCarta(Integer palo, Integer valor, int desdeX, int desdeY, Integer desdeOrientacion,
+                Integer desdeCara, int hastaX, int hastaY, Integer hastaOrientacion,
+                Integer hastaCara, int tapada) {
+    MueveCarta({palo, valor}, {desdeX, desdeY, desdeOrientacion, desdeCara},
+               {hastaX, hastaY, hastaOrientacion, hastaCara}, tapada == 1);
 }
 
 // One line a procedure that the console knows.
@@ -161,7 +172,7 @@ const std::unordered_map<std::string, Llamada>& LaTabla() { // NOLINT(readabilit
         {"CuentaPalo", Llama(&CuentaPalo)},
         {"BuscaCarta", Llama(&BuscaCarta)},
         {"PotenciaCarta", Llama(&PotenciaCarta)},
-        {"IniciarJuego", LlamaPasos(&EmpiezaJuego)},
+        {"IniciarJuego", LlamaPasos(&IniciarJuego)},
         {"FinalPartida", Llama(&FinalPartida)},
         {"ManoCinquillo", Llama(&ManoCinquillo)},
         {"EligeCartaCinquillo", Llama(&EligeCartaCinquillo)},

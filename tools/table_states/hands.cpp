@@ -5,7 +5,7 @@
 #include "core/game_state.h"
 #include "table/deck.h"
 #include "table/layout.h"
-#include "table/table_ops.h"
+#include "table/seat_drawing.h"
 
 void PonPartida(Integer juego) {
     estado.JuegoActivo = juego;
@@ -18,12 +18,12 @@ void PonPartida(Integer juego) {
     MostrarNombres();
 }
 
-CartaDeBaraja NesimaCarta(int n) {
-    std::vector<CartaDeBaraja> baraja;
+Carta NesimaCarta(int n) {
+    std::vector<Carta> baraja;
     for (Integer palo = kOros; palo <= kBastos; ++palo) {
         for (Integer valor = 1; valor <= estado.ColumnasBaraja; ++valor) {
             if (estado.ValorEnBaraja(valor))
-                baraja.push_back({palo, valor});
+                baraja.emplace_back(palo, valor);
         }
     }
     return baraja[static_cast<std::size_t>(n) % baraja.size()];
@@ -31,8 +31,8 @@ CartaDeBaraja NesimaCarta(int n) {
 
 void PonCartas(Integer asiento, int cartas, int desde, Integer cara) {
     for (int lugar = 1; lugar <= cartas; ++lugar) {
-        const CartaDeBaraja carta = NesimaCarta(desde + lugar - 1);
-        PonCarta(asiento, 1, lugar, carta.palo, carta.valor, cara);
+        const Carta carta = NesimaCarta(desde + lugar - 1);
+        PonCarta(asiento, 1, lugar, carta, cara);
     }
     estado.NumCartas(asiento, 1) = static_cast<Integer>(cartas);
 }

@@ -1,7 +1,7 @@
 #pragma once
 // Cards in the hands of a table that is only looked at.
 
-#include "core/tabla.h"
+#include "core/game_state.h"
 
 // A match and a hand of the game are on, with the names on show.
 void PonPartida(Integer juego);
@@ -10,7 +10,4 @@ void PonPartida(Integer juego);
 void PonCartas(Integer asiento, int cartas, int desde, Integer cara);
 
 // The n-th card of the active deck, suit by suit, from 0 and round again.
-struct CartaDeBaraja {
-    Integer palo = 0, valor = 0;
-};
-CartaDeBaraja NesimaCarta(int n);
+Carta NesimaCarta(int n);

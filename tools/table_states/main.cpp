@@ -11,8 +11,8 @@
 #include <cstdio>
 #include <stdexcept>
 
-#include "core/main_buttons.h"
 #include "platform/qt/picture_platform.h"
+#include "session/main_buttons.h"
 #include "table/waiting.h"
 #include "tools/common/fresh_table.h"
 #include "tools/common/program_files.h"

@@ -6,20 +6,23 @@
 #include "betting/chips.h"
 #include "core/game_state.h"
 #include "games/common/trick_state.h"
-#include "games/game_table.h"
-#include "games/state_blocks.h"
 #include "platform/platform.h"
+#include "session/state_blocks.h"
 #include "table/button_column.h"
 #include "table/deck.h"
+#include "table/drawing.h"
+#include "table/game_row.h"
 #include "table/hand_order.h"
 #include "table/layout.h"
-#include "table/manual_deal.h"
+#include "table/manual_spread.h"
 #include "table/messages.h"
 #include "table/options_menu.h"
+#include "table/pile.h"
+#include "table/seat_drawing.h"
 #include "table/side_buttons.h"
-#include "table/table_ops.h"
 #include "table/table_view.h"
 #include "table/tips.h"
+#include "table/whole_table.h"
 #include "tools/table_states/hands.h"
 
 namespace {
@@ -109,7 +112,7 @@ void Comodines(int) {
     for (Integer asiento = 1; asiento <= 4; ++asiento) {
         PonCartas(asiento, 4, 6 * asiento, kDescubierta);
         for (Integer lugar = 2; lugar <= 4; ++lugar)
-            PonCarta(asiento, 1, lugar, kComodin, lugar == 2 ? Integer{91} : Integer{92},
+            PonCarta(asiento, 1, lugar, {kComodin, lugar == 2 ? Integer{91} : Integer{92}},
                      lugar == 4 ? kDorso : kDescubierta);
     }
     RedibujaAsientos();
@@ -140,7 +143,7 @@ void Triunfo(int vez) {
     estado.JugadorSalida = 4;
     vista.cartas_mazo = estado.CartasEnMazo;
     for (Integer asiento = 4; asiento >= 6 - vez && asiento >= 1; --asiento) {
-        const CartaDeBaraja carta = NesimaCarta(9 * asiento + vez);
+        const Carta carta = NesimaCarta(9 * asiento + vez);
         bazas.CartaEnMesa(asiento, 1) = carta.palo;
         bazas.CartaEnMesa(asiento, 2) = carta.valor;
     }
@@ -350,7 +353,7 @@ void Reparto(int vez) {
     for (Integer asiento = 1; asiento <= 4 && caso.colgada; ++asiento) {
         PonCartas(asiento, asiento, 5 * asiento, kDescubierta);
         for (int lugar = 1; lugar <= asiento; ++lugar) {
-            const CartaDeBaraja carta = NesimaCarta(5 * asiento + lugar - 1);
+            const Carta carta = NesimaCarta(5 * asiento + lugar - 1);
             estado.CartaEnReparto(carta.palo, carta.valor) = false;
         }
     }
@@ -369,7 +372,7 @@ void Sorteo(int) {
     vista.mazo_centrado = true;
     vista.cartas_mazo = 34;
     for (Integer asiento = 1; asiento <= 4; ++asiento) {
-        const CartaDeBaraja carta = NesimaCarta(11 * asiento);
+        const Carta carta = NesimaCarta(11 * asiento);
         vista.sorteada(asiento) = {.palo = carta.palo,
                                    .valor = carta.valor,
                                    .cara = kDescubierta,

@@ -1,17 +1,18 @@
 // The form Normas: what it shows for each game, its interlocks, its numbers, the change of game.
 
 #include "forms/normas.h"
+#include "forms/refresh.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "betting/chips.h"
-#include "core/between_hands.h"
-#include "core/pending_rules.h"
 #include "core/text.h"
 #include "forms/form.h"
 #include "forms/spin.h"
-#include "games/game_table.h"
+#include "storage/between_hands.h"
+#include "table/game_row.h"
+#include "table/pending_rules.h"
 #include "tests/support/open_forms.h"
 
 namespace {

@@ -2,6 +2,8 @@
 
 #include <gmock/gmock.h>
 
+#include "table/button_column.h"
+#include "table/deck.h"
 #include "table/messages.h"
 #include "table/trace.h"
 #include "tests/support/personal_form.h"
@@ -180,9 +182,9 @@ TEST_F(PersonalTest, InTheGamesWithABankTheOtherSeatsShowTheirFirstSerie) {
     mesa.EnPartida(1, true);
     estado.JugadorActual = kDerecha;
     estado.SerieEnJuego = 2;
-    PonCarta(1, 1, 1, kCopas, 9, kDescubierta);
+    PonCarta(1, 1, 1, {kCopas, 9}, kDescubierta);
     estado.NumCartas(1, 1) = 1;
-    PonCarta(kDerecha, 2, 1, kBastos, 5, kDescubierta);
+    PonCarta(kDerecha, 2, 1, {kBastos, 5}, kDescubierta);
     estado.NumCartas(kDerecha, 2) = 1;
     mesa.LaPlataforma().UsaLienzosRegistrados();
     EXPECT_TRUE(personal::Cierra());

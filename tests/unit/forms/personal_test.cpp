@@ -1,12 +1,14 @@
 // The form Personal: what a seat shows, names, sliders, interlocks, the cards that turn.
 
 #include "forms/personal.h"
+#include "forms/refresh.h"
+#include "table/deck.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "core/pending_rules.h"
 #include "forms/form.h"
+#include "table/pending_rules.h"
 #include "table/table_view.h"
 #include "tests/support/personal_form.h"
 
@@ -313,7 +315,7 @@ TEST_F(PersonalTest, CardsOnTheTableFollowTheSettingsOfTheirSeats) {
 TEST_F(PersonalTest, CardsOfEverySerieTurn) {
     AbreEn(kSieteYMedia);
     mesa.EnPartida(1, true);
-    PonCarta(kArriba, 3, 1, kCopas, 7, kDorso);
+    PonCarta(kArriba, 3, 1, {kCopas, 7}, kDorso);
     estado.Mano(kArriba, 3, 1, kTapada) = 1;
     personal::PulsaSelector(kSelCartas + kArriba);
     EXPECT_EQ(estado.Mano(kArriba, 3, 1, kCara), kDescubierta);

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "core/game_state.h"
-#include "games/game_table.h"
+#include "table/game_row.h"
 
 namespace {
 
@@ -35,8 +35,8 @@ protected:
         estado.FaseApuesta = fase;
         Rotulo rotulo{estado.NombreJugador(estado.JugadorActual), "automático"};
         const FilaJuego& fila = *FilaDe(juego);
-        if (fila.rotulo_continuar != nullptr)
-            fila.rotulo_continuar(rotulo.primera, rotulo.segunda);
+        if (fila.pintura.rotulo_continuar != nullptr)
+            fila.pintura.rotulo_continuar(rotulo.primera, rotulo.segunda);
         return rotulo;
     }
 };

@@ -1,8 +1,8 @@
 #include "table/button_column.h"
+#include "table/whole_table.h"
 
 #include <gtest/gtest.h>
 
-#include "table/table_ops.h"
 #include "tests/support/live_table.h"
 
 using namespace prueba;

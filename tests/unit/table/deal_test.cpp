@@ -4,8 +4,9 @@
 #include <gtest/gtest.h>
 
 #include "core/session_state.h"
+#include "table/deal.h"
 #include "table/deck.h"
-#include "table/table_ops.h"
+#include "table/seat_drawing.h"
 #include "tests/support/live_table.h"
 
 using namespace prueba;

@@ -4,8 +4,7 @@
 
 #include <vector>
 
-#include "table/messages.h"
-#include "table/table_ops.h"
+#include "table/flight.h"
 #include "tests/support/live_table.h"
 
 using namespace prueba;
@@ -40,7 +39,7 @@ struct Vuelo : MesaViva {
     }
     ~Vuelo() override { UsaPlataforma(p); }
     void Lleva(int x1, int y1, int x2, int y2) {
-        MoverCarta(kCopas, 7, x1, y1, 1, kDorso, x2, y2, 4, kDescubierta, 0);
+        MueveCarta({kCopas, 7}, {x1, y1, 1, kDorso}, {x2, y2, 4});
     }
     std::vector<Punto> Pasos() const {
         std::vector<Punto> pasos;

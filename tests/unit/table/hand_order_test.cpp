@@ -1,14 +1,14 @@
 // Putting a hand in order by mouse.
 
 #include "table/hand_order.h"
+#include "table/whole_table.h"
 
 #include <gtest/gtest.h>
 
-#include "core/main_buttons.h"
 #include "core/session_state.h"
 #include "games/cinquillo/cinquillo_choice.h"
 #include "games/common/trick_state.h"
-#include "table/table_ops.h"
+#include "session/main_buttons.h"
 #include "tests/support/live_table.h"
 
 using namespace prueba;

@@ -1,7 +1,9 @@
 // The manual deal, by mouse. At 800 by 600 the Spanish spread begins at (181, 204): 29 pixels a column and 48
 // a row.
 
+#include "table/button_column.h"
 #include "table/manual_deal.h"
+#include "table/manual_spread.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -12,8 +14,6 @@
 #include "core/session_state.h"
 #include "games/common/hands.h"
 #include "table/deck.h"
-#include "table/table_input.h"
-#include "table/table_ops.h"
 #include "tests/support/live_table.h"
 
 using namespace prueba;

@@ -1,3 +1,4 @@
+#include "table/controls.h"
 #include "table/messages.h"
 
 #include <fmt/format.h>
@@ -5,7 +6,6 @@
 #include <gtest/gtest.h>
 
 #include "core/text.h"
-#include "table/table_ops.h"
 #include "table/tips.h"
 #include "tests/support/live_table.h"
 

@@ -1,13 +1,12 @@
 // The pop-up that puts a hand in order, by real clicks: what they hit is decided as a window would.
 
 #include "table/options_menu.h"
+#include "table/whole_table.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "games/cinquillo/cinquillo_choice.h"
-#include "games/common/trick_state.h"
-#include "table/table_ops.h"
 #include "table/waiting.h"
 #include "tests/support/live_table.h"
 

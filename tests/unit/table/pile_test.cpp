@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "table/table_ops.h"
+#include "table/pile.h"
 #include "tests/support/live_table.h"
 
 using namespace prueba;

@@ -3,8 +3,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "table/table_ops.h"
+#include "table/seat_drawing.h"
 #include "table/table_view.h"
+#include "table/whole_table.h"
 #include "tests/support/live_table.h"
 
 using namespace prueba;

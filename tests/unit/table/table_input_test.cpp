@@ -1,3 +1,4 @@
+#include "table/hit_tests.h"
 #include "table/table_input.h"
 
 #include <gtest/gtest.h>
@@ -5,7 +6,6 @@
 #include "core/session_state.h"
 #include "games/cinquillo/cinquillo_choice.h"
 #include "games/common/trick_state.h"
-#include "table/table_ops.h"
 #include "tests/support/live_table.h"
 
 using namespace prueba;

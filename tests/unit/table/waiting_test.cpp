@@ -1,9 +1,9 @@
+#include "table/button_column.h"
 #include "table/waiting.h"
 
 #include <gtest/gtest.h>
 
 #include "core/session_state.h"
-#include "table/table_ops.h"
 #include "tests/support/live_table.h"
 
 using namespace prueba;

@@ -1,12 +1,12 @@
 // The table of the cards laid.
 
 #include "games/cinquillo/cinquillo_table.h"
+#include "table/whole_table.h"
 
 #include <gtest/gtest.h>
 
 #include "games/cinquillo/cinquillo.h"
 #include "games/common/trick_state.h"
-#include "table/table_ops.h"
 #include "tests/support/live_table.h"
 
 using namespace prueba;

@@ -1,6 +1,7 @@
 // Whole hands and matches of Cinquillo.
 
 #include "games/cinquillo/cinquillo.h"
+#include "table/button_column.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -9,7 +10,6 @@
 #include "core/session_state.h"
 #include "games/cinquillo/cinquillo_table.h"
 #include "games/common/trick_state.h"
-#include "table/table_ops.h"
 #include "table/trace.h"
 #include "tests/support/live_table.h"
 

@@ -1,4 +1,5 @@
 #include "games/common/hand_queries.h"
+#include "games/common/trick_state.h"
 
 #include <gtest/gtest.h>
 

@@ -1,11 +1,12 @@
 #include "games/common/hands.h"
+#include "games/game_rows.h"
+#include "table/button_column.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "core/session_state.h"
 #include "games/common/trick_state.h"
-#include "table/table_ops.h"
 #include "tests/support/live_table.h"
 
 using namespace prueba;
@@ -132,11 +133,15 @@ TEST_F(Manos, RepartidoSeHabilitanLosBotones) {
 }
 
 TEST_F(Manos, ElTriunfoSeDescubreTrasElRepartoYAntesDeLaMano) {
-    EXPECT_TRUE(IniciarJuego([] {
+    FilaJuego con_triunfo = *FilaDe(kCinquillo);
+    con_triunfo.mano.descubre = [] {
         EXPECT_EQ(estado.NumCartas(2, 1), 10);
         EXPECT_FALSE(estado.ManoEnCurso);
         estado.PaloTriunfo = kBastos;
-    }));
+    };
+    UsaJuegos({&con_triunfo});
+    EXPECT_TRUE(Empieza());
+    UsaJuegos(LosJuegos());
     EXPECT_EQ(estado.PaloTriunfo, kBastos);
     EXPECT_TRUE(estado.ManoEnCurso);
 }

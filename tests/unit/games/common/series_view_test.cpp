@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "betting/chips.h"
-#include "games/game_table.h"
+#include "table/game_row.h"
 #include "tests/support/live_table.h"
 
 using namespace prueba;
@@ -83,11 +83,11 @@ TEST_F(MesaDeSeries, EnElBlackJackLaBancaTomaUnaSolaCartaYQuienNoTieneRestoNingu
         AsignarResto(asiento, 50);
     AsignarResto(4, 0);
     const FilaJuego& juego = JuegoEnMesa();
-    EXPECT_TRUE(juego.recibe_a_mano(1));
-    EXPECT_FALSE(juego.recibe_a_mano(4));
-    EXPECT_TRUE(juego.recibe_a_mano(2));
+    EXPECT_TRUE(juego.reparto.recibe(1, true));
+    EXPECT_FALSE(juego.reparto.recibe(4, true));
+    EXPECT_TRUE(juego.reparto.recibe(2, true));
     estado.NumCartas(2, 1) = 1;
     estado.NumCartas(1, 1) = 1;
-    EXPECT_FALSE(juego.recibe_a_mano(2));
-    EXPECT_TRUE(juego.recibe_a_mano(1));
+    EXPECT_FALSE(juego.reparto.recibe(2, true));
+    EXPECT_TRUE(juego.reparto.recibe(1, true));
 }

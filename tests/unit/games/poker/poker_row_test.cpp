@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "core/random.h"
-#include "games/game_table.h"
-#include "table/deck.h"
+#include "table/deal.h"
+#include "table/game_row.h"
 #include "table/layout.h"
 #include "tests/support/live_table.h"
 

@@ -1,3 +1,4 @@
+#include "games/common/trick_state.h"
 #include "games/trick/cantes.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+#include "games/common/trick_state.h"
 #include "games/trick/choice_common.h"
 
 #include <gtest/gtest.h>

@@ -4,6 +4,7 @@
 
 #include <array>
 
+#include "games/common/trick_state.h"
 #include "games/trick/card_rules.h"
 #include "tests/support/trick_hands.h"
 

@@ -1,3 +1,4 @@
+#include "games/common/trick_state.h"
 #include "games/trick/exact_search.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+#include "games/common/trick_state.h"
 #include "games/trick/stock.h"
 
 #include <gtest/gtest.h>
@@ -15,7 +16,7 @@ namespace {
 // Deals a hand with these cards at the top of the deck.
 void Reparte(const std::vector<Carta>& primeras) {
     ApilaBaraja(primeras);
-    ASSERT_TRUE(IniciarJuego(DescubreTriunfo));
+    ASSERT_TRUE(IniciarJuego());
 }
 
 Carta EnMano(Integer asiento, int lugar) {

@@ -1,10 +1,11 @@
+#include "games/common/trick_state.h"
 #include "games/trick/trick_driver.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 
-#include "core/match_driver.h"
+#include "session/match_driver.h"
 #include "table/trace.h"
 #include "tests/support/trick_table.h"
 

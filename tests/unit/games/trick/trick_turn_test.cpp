@@ -1,4 +1,6 @@
+#include "games/common/trick_state.h"
 #include "games/trick/trick_turn.h"
+#include "table/button_column.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -10,7 +12,6 @@
 #include "games/trick/search_state.h"
 #include "games/trick/trick_rules.h"
 #include "table/layout.h"
-#include "table/table_ops.h"
 #include "table/trace.h"
 #include "tests/support/trick_table.h"
 

@@ -1,11 +1,12 @@
+#include "games/common/trick_state.h"
 #include "games/trick/trick_view.h"
+#include "table/whole_table.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdio>
 
-#include "games/game_table.h"
-#include "table/table_ops.h"
+#include "table/game_row.h"
 #include "table/trace.h"
 #include "tests/support/trick_table.h"
 
@@ -135,22 +136,22 @@ TEST(Parpadeo, LasCartasSalenDescubiertasYVuelvenASuCara) {
 // --- What the rows of the table say ---------------------------------------------------------------------
 
 TEST(FilasDeTrick, SoloElTutePoneReparosAUnaCarta) {
-    EXPECT_NE(FilaDe(kTute)->carta_legal, nullptr);
-    EXPECT_EQ(FilaDe(kBrisca)->carta_legal, nullptr);
+    EXPECT_NE(FilaDe(kTute)->entrada.carta_legal, nullptr);
+    EXPECT_EQ(FilaDe(kBrisca)->entrada.carta_legal, nullptr);
 }
 
 TEST(FilasDeTrick, ElCambioEstaEnElMazoMientrasSeOfrece) {
     for (const Integer juego : {kTute, kBrisca}) {
         bazas.CartaCambio = 7;
-        EXPECT_TRUE(FilaDe(juego)->cambio_en_mazo());
+        EXPECT_TRUE(FilaDe(juego)->entrada.cambio_en_mazo());
         bazas.CartaCambio = 0;
-        EXPECT_FALSE(FilaDe(juego)->cambio_en_mazo());
+        EXPECT_FALSE(FilaDe(juego)->entrada.cambio_en_mazo());
     }
 }
 
 TEST(FilasDeTrick, LaManoSeOrdenaPorPalosYDeMayorAMenor) {
     MesaDeTrick mesa(kTute, 4);
-    const auto clave = FilaDe(kTute)->clave_orden;
+    const auto clave = FilaDe(kTute)->baraja.clave_orden;
     EXPECT_EQ(clave(kOros, kAs), "100");
     EXPECT_EQ(clave(kOros, kTres), "101");
     EXPECT_EQ(clave(kBastos, 2), "409");

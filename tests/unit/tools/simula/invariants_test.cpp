@@ -1,8 +1,9 @@
+#include "games/common/trick_state.h"
 #include "tools/simula/invariants.h"
 
 #include <gtest/gtest.h>
 
-#include "games/state_blocks.h"
+#include "session/state_blocks.h"
 
 namespace {
 

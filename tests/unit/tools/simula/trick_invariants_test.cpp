@@ -1,5 +1,6 @@
 // A hand that was really played passes; each thing that may not happen is then made to have happened.
 
+#include "games/common/trick_state.h"
 #include "tools/simula/trick_invariants.h"
 
 #include <gtest/gtest.h>
@@ -7,7 +8,7 @@
 #include <string>
 #include <utility>
 
-#include "games/state_blocks.h"
+#include "session/state_blocks.h"
 #include "tools/simula/invariants.h"
 #include "tools/simula/match.h"
 

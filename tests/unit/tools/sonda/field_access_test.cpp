@@ -1,3 +1,4 @@
+#include "games/common/trick_state.h"
 #include "tools/sonda/field_access.h"
 
 #include <gmock/gmock.h>
@@ -5,7 +6,7 @@
 
 #include <algorithm>
 
-#include "games/state_blocks.h"
+#include "session/state_blocks.h"
 
 namespace {
 

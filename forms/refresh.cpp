@@ -1,0 +1,18 @@
+#include "forms/refresh.h"
+
+#include <utility>
+
+namespace {
+
+std::function<void()> refresco_en_uso;
+
+} // namespace
+
+void PonRefresco(std::function<void()> refresco) {
+    refresco_en_uso = std::move(refresco);
+}
+
+void RefrescaForma() {
+    if (refresco_en_uso)
+        refresco_en_uso();
+}

@@ -1,0 +1,57 @@
+#include "games/cinquillo/cinquillo_row.h"
+
+#include "core/game_state.h"
+#include "core/text.h"
+#include "games/cinquillo/cinquillo.h"
+#include "games/cinquillo/cinquillo_choice.h"
+#include "games/cinquillo/cinquillo_table.h"
+#include "games/common/hands.h"
+#include "games/common/trick_state.h"
+#include "table/deck_setup.h"
+#include "table/game_row.h"
+
+namespace {
+
+constexpr const char* kCuatroFijos =
+    "El juego del Cinquillo se juega con cuatro jugadores,  por tanto,  no  puede "
+    "desactivar ninguno  y  no  se  le  permite modificar el valor de este "
+    "selector.";
+
+void PreparaBaraja() {
+    PonMedidas({.tipo = kBarajaEspanola,
+                .valores_por_palo = 10,
+                .reparto = 10,
+                .paso = 5,
+                .max_mano = 10});
+    PonValoresDeBazas();
+}
+
+std::string ClaveOrden(Integer palo, Integer valor) {
+    return Formato(palo, "0") + Formato(valor, "00");
+}
+
+void RecogeTendido() {
+    bazas.CartaJugada.Borra();
+}
+
+} // namespace
+
+const FilaJuego& FilaCinquillo() {
+    static const FilaJuego kFila{
+        .id = kCinquillo,
+        .nombre = "Cinquillo",
+        .driver = ManoCinquillo,
+        .asientos = {.minimo = 4,
+                     .sin_parejas = true,
+                     .candados = {{Candado::Ajuste::Estado, 0, kCuatroFijos}}},
+        .baraja = {.prepara = PreparaBaraja, .clave_orden = ClaveOrden},
+        .entrada = {.carta_legal = LugarJugable,
+                    .tras_reordenar = EligeCartaCinquillo,
+                    .tutor = [] { AconsejaCarta(EligeCartaCinquillo); }},
+        .pintura = {.centro = PintaTendido, .rotulo_continuar = RotuloDeJuega},
+        .mano = {.limpia = BorraBazas},
+        .partida = {.nueva = RecogeTendido},
+        .normas = {.reglas = {Regla::Reparto, Regla::Limite}},
+    };
+    return kFila;
+}

@@ -1,0 +1,60 @@
+#include "storage/saving.h"
+
+#include "betting/stakes.h"
+#include "core/game_state.h"
+#include "core/session_state.h"
+#include "platform/platform.h"
+#include "storage/settings.h"
+#include "table/game_row.h"
+#include "table/messages.h"
+
+namespace {
+
+void CuentaFallo(const std::string& fichero) {
+    if (sesion.fallo_contado)
+        return;
+    sesion.fallo_contado = true;
+    const std::string texto = "No se ha podido grabar el fichero " + fichero +
+                              ". Compruebe que se puede escribir en la carpeta " +
+                              estado.CarpetaPrograma + ".";
+    Mensaje("Error al guardar los datos", texto, LineasDe(texto), 1);
+}
+
+bool GuardaGeneral() {
+    const bool hecho = GrabarIniGeneral() == ErrorArchivo::Ninguno;
+    if (!hecho)
+        CuentaFallo("ZOV31.INI");
+    return hecho;
+}
+
+bool GuardaJuego() {
+    const bool hecho = GrabarIniJuego() == ErrorArchivo::Ninguno;
+    if (!hecho)
+        CuentaFallo(NombreIniJuego(estado.JuegoActivo));
+    return hecho;
+}
+
+} // namespace
+
+bool GuardarPartida() {
+    if (!plataforma().GuardaPartidas())
+        return true;
+    const bool general = GuardaGeneral();
+    return GuardaJuego() && general;
+}
+
+void AnulaMano() {
+    if (estado.RepartoEnCurso) {
+        estado.RepartoEnCurso = false;
+        estado.ManoEnCurso = false;
+    }
+    const FilaJuego* juego = FilaDe(estado.JuegoActivo);
+    if (juego != nullptr && juego->dinero.hay && !sesion.mano_apuntada)
+        RestauraMano();
+}
+
+void GuardarYCambiar(Integer juego) {
+    GuardaJuego();
+    estado.JuegoActivo = juego;
+    GuardaGeneral();
+}

@@ -1,0 +1,140 @@
+#include "storage/settings_repair.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+
+#include "betting/chips.h"
+#include "core/game_state.h"
+#include "core/text.h"
+#include "storage/settings_limits.h"
+#include "table/game_row.h"
+
+namespace {
+
+// A value outside its limits becomes another.
+void Encaja(Integer& valor, const LimitesRegla& limites) {
+    if (valor < limites.minimo || valor > limites.maximo)
+        valor = limites.defecto;
+}
+
+struct ReglaConLimites {
+    Integer EstadoJuego::*campo;
+    LimitesRegla limites;
+};
+
+constexpr ReglaConLimites kReglas[]{
+    {&EstadoJuego::SentidoJuego, {1, 2, 1}},
+    {&EstadoJuego::VentanaInfo, {1, 2, 1}},
+    {&EstadoJuego::SistemaReparto, {1, 2, 1}},
+    {&EstadoJuego::ModalidadJuego, {1, 2, 1}},
+    {&EstadoJuego::LeyApertura, {1, 14, 1}},
+    {&EstadoJuego::CartasBaraja, {1, 6, 1}},
+    {&EstadoJuego::ComodinesJuego, {1, 3, 1}},
+    {&EstadoJuego::RestoInicial, kLimitesRestoInicial},
+    {&EstadoJuego::ApuestaSalida, kLimitesApuestaSalida},
+    {&EstadoJuego::ApuestaMaxima, kLimitesApuestaMaxima},
+    {&EstadoJuego::LimitePartida, kLimitesLimitePartida},
+    // The seat need not be active: a hand starts at the next one that is.
+    {&EstadoJuego::JugadorMano, {1, 4, 4}},
+    {&EstadoJuego::JugadorBanca, {1, 4, 4}},
+};
+
+struct Ajuste {
+    Tabla<Integer, 4> EstadoJuego::*campo;
+    LimitesRegla limites;
+};
+
+constexpr Ajuste kAjustes[]{
+    {&EstadoJuego::EstadoJugador, {1, 2, 1}},   {&EstadoJuego::CartasJugador, {1, 2, 1}},
+    {&EstadoJuego::ControlJugador, {1, 2, 1}},  {&EstadoJuego::CaracterJugador, {1, 3, 2}},
+    {&EstadoJuego::NivelJugador, {0, 100, 50}}, {&EstadoJuego::JuegosGanados, {0, 999, 0}},
+};
+
+void ReparaAsientos() {
+    for (int asiento = 1; asiento <= 4; ++asiento) {
+        estado.NombreJugador(asiento) = NombrePropio(Recorta(estado.NombreJugador(asiento)));
+        for (const Ajuste& ajuste : kAjustes)
+            Encaja((estado.*ajuste.campo)(asiento), ajuste.limites);
+        if (estado.ControlJugador(asiento) == kManual)
+            estado.CartasJugador(asiento) = kVisibles;
+    }
+}
+
+void ImponBanca(Integer banca) {
+    estado.NombreJugador(banca) = "Banca";
+    estado.EstadoJugador(banca) = kActivado;
+    estado.NivelJugador(banca) = 100;
+    estado.ControlJugador(banca) = kAutomatico;
+    for (int asiento = 1; asiento <= 4; ++asiento)
+        estado.CartasJugador(asiento) = kVisibles;
+    estado.SistemaReparto = kAutomatico;
+}
+
+// Too few seats for the game: all of them play.
+void ReparaJugadores(const FilaJuego& juego) {
+    CuentaJugadores();
+    if (juego.asientos.sin_parejas)
+        estado.ModalidadJuego = kIndividual;
+    if (estado.NumJugadores >= juego.asientos.minimo)
+        return;
+    for (int asiento = 1; asiento <= 4; ++asiento)
+        estado.EstadoJugador(asiento) = kActivado;
+    CuentaJugadores();
+}
+
+// All chips of the table, and all bets, have to fit in one amount.
+constexpr int kMaximo = std::numeric_limits<Integer>::max();
+
+int TodoElDinero() {
+    int suma = 0;
+    for (int asiento = 0; asiento <= 4; ++asiento)
+        suma += RestoDe(asiento);
+    return suma;
+}
+
+int TodasLasApuestas() {
+    int suma = 0;
+    for (int asiento = 1; asiento <= 4; ++asiento)
+        suma += estado.Apuesta(asiento, 1, 2);
+    return suma;
+}
+
+// The money as a match begins with it.
+void RepartePorIgual() {
+    AsignarResto(0, 0);
+    for (int asiento = 1; asiento <= 4; ++asiento)
+        AsignarResto(asiento,
+                     estado.EstadoJugador(asiento) == kActivado ? estado.RestoInicial : Integer{0});
+    estado.Apuesta.Borra();
+}
+
+void ReparaDinero() {
+    for (Integer& fichas : estado.Fichas)
+        fichas = std::max<Integer>(fichas, 0);
+    for (Integer& puntos : estado.Apuesta)
+        puntos = std::max<Integer>(puntos, 0);
+    if (TodoElDinero() > kMaximo || TodasLasApuestas() > kMaximo)
+        RepartePorIgual();
+}
+
+} // namespace
+
+void ReparaGeneral() {
+    if (FilaDe(estado.JuegoActivo) == nullptr)
+        estado.JuegoActivo = kPoker;
+    Encaja(estado.VelocidadJuego, {0, 100, 50});
+}
+
+void ReparaJuego() {
+    ReparaAsientos();
+    for (const ReglaConLimites& regla : kReglas)
+        Encaja(estado.*regla.campo, regla.limites);
+    estado.LeyApertura = std::max(estado.LeyApertura, estado.CartasBaraja);
+    estado.PasoSentido = estado.SentidoJuego == kInverso ? -1 : 1;
+    const FilaJuego& juego = JuegoEnMesa();
+    if (juego.asientos.banca != 0)
+        ImponBanca(juego.asientos.banca);
+    ReparaJugadores(juego);
+    ReparaDinero();
+}

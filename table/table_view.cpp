@@ -1,0 +1,3 @@
+#include "table/table_view.h"
+
+VistaMesa vista;
