@@ -15,8 +15,6 @@ namespace {
 
 using testing::ElementsAre;
 
-constexpr int kBote = 0;
-
 // The six counts, from the chips of one point to those of fifty.
 std::vector<int> Fichas(const Tabla<Integer, 6>& tabla) {
     std::vector<int> fichas;
