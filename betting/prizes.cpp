@@ -54,13 +54,15 @@ void Premia(Integer asiento, int puntos) {
 }
 
 // Beyond the common part the full winners share, to the nearest point: the first winner of all settles the
-// difference, and may so be a point short.
+// difference, and may so be a point short. One that has nothing to be short of leaves it to the first full one.
 void PremiaPlenos(const std::vector<Integer>& plenos, Integer primero, int resto) {
     const int cuantos = static_cast<int>(plenos.size());
     const int extra = Redondea(static_cast<double>(resto) / cuantos);
+    const int sobra = resto - extra * cuantos;
     for (const Integer asiento : plenos)
         Premia(asiento, extra);
-    Premia(primero, resto - extra * cuantos);
+    const bool sin_nada = apuestas.PremioJugador(primero) == 0;
+    Premia(sobra < 0 && sin_nada ? plenos.front() : primero, sobra);
 }
 
 // With short winners alone the rest goes to the seats behind them, short or not, which is meant; when all of
