@@ -1,16 +1,11 @@
 #include "betting/chips.h"
 
 #include "betting/bet_state.h"
+#include "betting/phases.h"
 #include "core/game_state.h"
 #include "core/numeric.h"
 
 namespace {
-
-constexpr int kDenominaciones = 6;
-
-Integer ValorDe(int d) {
-    return kValorFicha[static_cast<std::size_t>(d)];
-}
 
 // Takes as many chips of one denomination out of the amount as it holds.
 Integer Saca(int& cantidad, int d) {
@@ -21,6 +16,12 @@ Integer Saca(int& cantidad, int d) {
 
 } // namespace
 
+Integer ValorDe(int d) {
+    if (d < 1 || d > kDenominaciones)
+        LanzaIndiceFuera(1, d, kDenominaciones);
+    return kValorFicha[static_cast<std::size_t>(d)];
+}
+
 Integer RestoDe(int asiento) {
     int resto = 0;
     for (int d = 1; d <= kDenominaciones; ++d)
@@ -29,8 +30,10 @@ Integer RestoDe(int asiento) {
 }
 
 Integer ApuestaTotal(int asiento, int serie) {
-    return EnteroDe(estado.Apuesta(asiento, serie, 2) + estado.Apuesta(asiento, serie, 3) +
-                    estado.Apuesta(asiento, serie, 5));
+    int total = 0;
+    for (const Integer fase : kFasesConApuesta)
+        total += estado.Apuesta(asiento, serie, fase);
+    return EnteroDe(total);
 }
 
 void Desglosa(Integer cantidad) {
@@ -56,4 +59,8 @@ void AsignarResto(int asiento, Integer cantidad) {
     const Tabla<Integer, 6> fichas = FichasDeResto(cantidad);
     for (int d = 1; d <= kDenominaciones; ++d)
         estado.Fichas(asiento, d) = fichas(d);
+}
+
+void SumaAlResto(int asiento, int puntos) {
+    AsignarResto(asiento, EnteroDe(RestoDe(asiento) + puntos));
 }

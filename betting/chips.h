@@ -4,8 +4,14 @@
 
 #include "core/tabla.h"
 
+inline constexpr int kDenominaciones = 6;
+// The place of the pot in the tables of money.
+inline constexpr Integer kBote = 0;
+
 // Points of a chip by denomination; element 0 is spare. IniciarTablas copies it to ValorFicha.
 inline constexpr std::array<Integer, 7> kValorFicha{0, 1, 2, 5, 10, 20, 50};
+// The points of one chip; IndiceFuera for a denomination that is none.
+Integer ValorDe(int d);
 // One chip of each denomination below d, in points.
 constexpr Integer ValorDeMenores(int d) {
     Integer suma = 0;
@@ -30,3 +36,7 @@ Tabla<Integer, 6> FichasDeResto(Integer cantidad);
 
 // The seat holds exactly that amount, in the mix of FichasDeResto. Writes its row of Fichas.
 void AsignarResto(int asiento, Integer cantidad);
+
+// So many points more (or less, below 0) for a seat, its stack regrouped. Writes its row of Fichas;
+// Desbordamiento beyond 16 bits.
+void SumaAlResto(int asiento, int puntos);

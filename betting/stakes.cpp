@@ -1,6 +1,7 @@
 #include "betting/stakes.h"
 
 #include "betting/chips.h"
+#include "betting/phases.h"
 #include "core/game_state.h"
 
 bool TieneResto(Integer asiento) {
@@ -15,10 +16,9 @@ Integer CuentaConResto() {
 }
 
 void RestauraMano() {
-    constexpr int kFases = 5;
     for (int asiento = 0; asiento <= 4; ++asiento) {
         AsignarResto(asiento, estado.RestoPrevio(asiento));
-        for (int fase = 1; fase <= kFases; ++fase)
+        for (int fase = 1; fase <= kNumFases; ++fase)
             estado.Apuesta(asiento, 1, fase) = estado.ApuestaPrevia(asiento, fase);
     }
 }

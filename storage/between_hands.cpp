@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "betting/chips.h"
+#include "betting/phases.h"
 #include "core/game_state.h"
 #include "core/session_state.h"
 #include "table/game_row.h"
@@ -23,7 +24,7 @@ void PonDineroPrevio(EntreManos& entre_manos) {
         const Tabla<Integer, 6> fichas = FichasDeResto(estado.RestoPrevio(asiento));
         for (int d = 1; d <= 6; ++d)
             entre_manos.fichas(asiento, d) = fichas(d);
-        entre_manos.apuesta(asiento) = estado.ApuestaPrevia(asiento, 2);
+        entre_manos.apuesta(asiento) = estado.ApuestaPrevia(asiento, kFaseApuestas);
     }
 }
 
@@ -76,7 +77,7 @@ EntreManos ComoEsta() {
     EntreManos entre_manos{
         estado.JuegosJugados, estado.JugadorMano, estado.JugadorBanca, estado.Fichas, {}};
     for (int asiento = 0; asiento <= 4; ++asiento)
-        entre_manos.apuesta(asiento) = estado.Apuesta(asiento, 1, 2);
+        entre_manos.apuesta(asiento) = estado.Apuesta(asiento, 1, kFaseApuestas);
     return entre_manos;
 }
 
@@ -97,13 +98,13 @@ void Repon(const EntreManos& entre_manos) {
     estado.Fichas = entre_manos.fichas;
     estado.Apuesta.Borra();
     for (int asiento = 0; asiento <= 4; ++asiento)
-        estado.Apuesta(asiento, 1, 2) = entre_manos.apuesta(asiento);
+        estado.Apuesta(asiento, 1, kFaseApuestas) = entre_manos.apuesta(asiento);
 }
 
 void AnotaDineroPrevio() {
     for (int asiento = 0; asiento <= 4; ++asiento) {
         estado.RestoPrevio(asiento) = RestoDe(asiento);
-        for (int fase = 1; fase <= 5; ++fase)
+        for (int fase = 1; fase <= kNumFases; ++fase)
             estado.ApuestaPrevia(asiento, fase) = estado.Apuesta(asiento, 1, fase);
     }
 }

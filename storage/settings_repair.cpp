@@ -2,9 +2,8 @@
 
 #include <algorithm>
 #include <array>
-#include <limits>
 
-#include "betting/chips.h"
+#include "betting/money_repair.h"
 #include "core/game_state.h"
 #include "core/text.h"
 #include "storage/settings_limits.h"
@@ -35,7 +34,7 @@ constexpr ReglaConLimites kReglas[]{
     {&EstadoJuego::ApuestaSalida, kLimitesApuestaSalida},
     {&EstadoJuego::ApuestaMaxima, kLimitesApuestaMaxima},
     {&EstadoJuego::LimitePartida, kLimitesLimitePartida},
-    // The seat need not be active: a hand starts at the next one that is.
+    // The seats need not be active: a hand starts at the next one that is, and a bank is looked at below.
     {&EstadoJuego::JugadorMano, {1, 4, 4}},
     {&EstadoJuego::JugadorBanca, {1, 4, 4}},
 };
@@ -83,39 +82,26 @@ void ReparaJugadores(const FilaJuego& juego) {
     CuentaJugadores();
 }
 
-// All chips of the table, and all bets, have to fit in one amount.
-constexpr int kMaximo = std::numeric_limits<Integer>::max();
-
-int TodoElDinero() {
-    int suma = 0;
-    for (int asiento = 0; asiento <= 4; ++asiento)
-        suma += RestoDe(asiento);
-    return suma;
+// The seat that holds the bank in the match; 0 in a game with a pot.
+Integer BancaDe(const FilaJuego& juego) {
+    if (juego.asiento_banca != 0)
+        return juego.asiento_banca;
+    return juego.sorteo_da_banca ? estado.JugadorBanca : Integer{0};
 }
 
-int TodasLasApuestas() {
-    int suma = 0;
-    for (int asiento = 1; asiento <= 4; ++asiento)
-        suma += estado.Apuesta(asiento, 1, 2);
-    return suma;
+// A bank that does not play hands it on.
+void ReparaBanca() {
+    while (estado.EstadoJugador(estado.JugadorBanca) != kActivado)
+        SiguienteAsiento(estado.JugadorBanca);
 }
 
-// The money as a match begins with it.
-void RepartePorIgual() {
-    AsignarResto(0, 0);
-    for (int asiento = 1; asiento <= 4; ++asiento)
-        AsignarResto(asiento,
-                     estado.EstadoJugador(asiento) == kActivado ? estado.RestoInicial : Integer{0});
-    estado.Apuesta.Borra();
-}
-
-void ReparaDinero() {
-    for (Integer& fichas : estado.Fichas)
-        fichas = std::max<Integer>(fichas, 0);
-    for (Integer& puntos : estado.Apuesta)
-        puntos = std::max<Integer>(puntos, 0);
-    if (TodoElDinero() > kMaximo || TodasLasApuestas() > kMaximo)
-        RepartePorIgual();
+void ReparaDinero(const FilaJuego& juego) {
+    ReparaFichas();
+    if (!juego.con_dinero || !estado.PartidaEnCurso)
+        return;
+    if (juego.sorteo_da_banca)
+        ReparaBanca();
+    ReparaPartidaConDinero({.banca = BancaDe(juego), .resto_maximo = kLimitesRestoInicial.maximo});
 }
 
 } // namespace
@@ -136,5 +122,5 @@ void ReparaJuego() {
     if (juego.asientos.banca != 0)
         ImponBanca(juego.asientos.banca);
     ReparaJugadores(juego);
-    ReparaDinero();
+    ReparaDinero(juego);
 }

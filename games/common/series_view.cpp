@@ -1,5 +1,6 @@
 #include "games/common/series_view.h"
 
+#include "betting/phases.h"
 #include "core/game_state.h"
 #include "core/text.h"
 #include "table/controls.h"
@@ -8,8 +9,6 @@
 namespace {
 
 constexpr Integer kTapadaSi = 1;
-constexpr Integer kFaseApuestas = 2; // the stage of the bets
-constexpr Integer kFaseJuego = 4;    // the stage in which cards are asked for
 
 bool PuedePedir(int asiento) {
     return estado.ControlJugador(asiento) == kManual && estado.FaseApuesta == kFaseJuego &&

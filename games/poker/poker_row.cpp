@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "betting/chips.h"
+#include "betting/phases.h"
 #include "betting/stakes.h"
 #include "core/game_state.h"
 #include "core/numeric.h"
@@ -98,17 +99,16 @@ bool HayCartaLevantada(Integer asiento) {
 }
 
 void RotuloContinuar(std::string& primera, std::string& segunda) {
-    constexpr Integer kPrimeraRonda = 3, kDescartes = 4, kSegundaRonda = 5;
     const Integer asiento = estado.JugadorActual;
     const bool manual = estado.ControlJugador(asiento) == kManual;
     const Integer fase = estado.FaseApuesta;
-    if (!manual && (fase == kPrimeraRonda || fase == kSegundaRonda)) {
+    if (!manual && (fase == kFasePrimeraRonda || fase == kFaseSegundaRonda)) {
         segunda = "Apuesta";
         std::swap(primera, segunda);
-    } else if (!manual && fase == kDescartes) {
+    } else if (!manual && fase == kFaseDescartes) {
         segunda = "Descarta";
         std::swap(primera, segunda);
-    } else if (manual && fase == kDescartes && HayCartaLevantada(asiento)) {
+    } else if (manual && fase == kFaseDescartes && HayCartaLevantada(asiento)) {
         primera = "Descartar";
         segunda = "elegidas";
     }

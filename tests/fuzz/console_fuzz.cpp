@@ -22,7 +22,7 @@ constexpr std::array kSinJugar{
     "PuntosSerie",      "DetectaJdorYCar",   "DetectaZonaCartas", "HallaFilyCol",
     "ColocarCarta",     "MostrarSugerencia", "Mensaje",           "Sonido",
     "ExaminaMano",      "CuentaPalo",        "BuscaCarta",        "PotenciaCarta",
-    "CompactarMano",    "LeerIniGeneral",    "GrabarIniGeneral"};
+    "CompactarMano",    "LeerIniGeneral",    "GrabarIniGeneral",  "RepartePremios"};
 
 bool SePuedeLlamar(std::string_view nombre) {
     for (const char* uno : kSinJugar) {

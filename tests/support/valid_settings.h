@@ -101,6 +101,28 @@ inline std::string FalloDeDinero() {
     return total <= 32767 ? "" : "demasiado dinero";
 }
 
+// A match with money that goes on: somebody has chips, no more than the seats can have brought, and only where
+// they can be played for.
+inline std::string FalloDePartidaConDinero() {
+    const bool con_banca = estado.JuegoActivo == kBlackJack || estado.JuegoActivo == kSieteYMedia;
+    if (!estado.PartidaEnCurso || !(con_banca || estado.JuegoActivo == kPoker))
+        return "";
+    int en_asientos = 0;
+    for (int asiento = 1; asiento <= 4; ++asiento) {
+        if (estado.EstadoJugador(asiento) != kActivado && RestoDe(asiento) > 0)
+            return "fichas de quien no juega";
+        en_asientos += RestoDe(asiento);
+    }
+    if (en_asientos == 0 || en_asientos + RestoDe(kBote) > 995 * estado.NumJugadores)
+        return "dinero que no puede haber";
+    if (con_banca && RestoDe(kBote) > 0)
+        return "un bote con banca";
+    if (estado.JuegoActivo == kSieteYMedia &&
+        estado.EstadoJugador(estado.JugadorBanca) != kActivado)
+        return "JugadorBanca";
+    return "";
+}
+
 inline std::string FalloDeBanca() {
     if (estado.JuegoActivo != kBlackJack)
         return "";
@@ -111,7 +133,8 @@ inline std::string FalloDeBanca() {
 }
 
 inline std::string FalloDeAjustesDeJuego() {
-    for (auto fallo : {FalloDeAsientos(), FalloDeReglas(), FalloDeDinero(), FalloDeBanca()}) {
+    for (auto fallo : {FalloDeAsientos(), FalloDeReglas(), FalloDeDinero(),
+                       FalloDePartidaConDinero(), FalloDeBanca()}) {
         if (!fallo.empty())
             return fallo;
     }

@@ -3,6 +3,7 @@
 #include <unordered_map>
 
 #include "betting/chips.h"
+#include "betting/prizes.h"
 #include "betting/stakes.h"
 #include "core/game_state.h"
 #include "forms/spin.h"
@@ -165,6 +166,7 @@ const std::unordered_map<std::string, Llamada>& LaTabla() { // NOLINT(readabilit
         {"ApuestaTotal", Llama(&ApuestaTotal, {1.0})},
         {"Desglosa", Llama(&Desglosa)},
         {"AsignarResto", Llama(&AsignarResto)},
+        {"RepartePremios", Llama(&RepartePremios)},
         {"PuntosSerie", Llama(&PuntosSerie)},
 
         // Hands of the games of laying cards.

@@ -15,8 +15,6 @@ namespace {
 
 using testing::ElementsAre;
 
-constexpr int kBote = 0;
-
 // The six counts, from the chips of one point to those of fifty.
 std::vector<int> Fichas(const Tabla<Integer, 6>& tabla) {
     std::vector<int> fichas;
@@ -92,6 +90,32 @@ TEST_F(FichasTest, DesglosaNoTocaLasFichasDeNadie) {
 TEST_F(FichasTest, CienPuntosNuncaSonDosFichasDeCincuenta) {
     AsignarResto(4, 100);
     EXPECT_THAT(FichasDe(4), ElementsAre(1, 2, 1, 2, 1, 1));
+}
+
+TEST_F(FichasTest, TresPuntosSonUnaDe2YUnaDe1) {
+    AsignarResto(1, 3);
+    EXPECT_THAT(FichasDe(1), ElementsAre(1, 1, 0, 0, 0, 0));
+}
+
+TEST_F(FichasTest, CincuentaPuntosNoSonUnaFichaDe50) {
+    AsignarResto(1, 50);
+    EXPECT_THAT(FichasDe(1), ElementsAre(1, 2, 1, 2, 1, 0));
+}
+
+TEST_F(FichasTest, SumarAlRestoReagrupaElMonton) {
+    AsignarResto(2, 98);
+    SumaAlResto(2, 2);
+    EXPECT_THAT(FichasDe(2), ElementsAre(1, 2, 1, 2, 1, 1));
+    SumaAlResto(2, -97);
+    EXPECT_THAT(FichasDe(2), ElementsAre(1, 1, 0, 0, 0, 0));
+}
+
+TEST_F(FichasTest, CadaFichaTieneSuValorYOtraClaseEsUnError) {
+    constexpr std::array kPuntos{1, 2, 5, 10, 20, 50};
+    for (int d = 1; d <= kDenominaciones; ++d)
+        EXPECT_EQ(ValorDe(d), kPuntos[static_cast<std::size_t>(d - 1)]);
+    EXPECT_THROW(ValorDe(0), IndiceFuera);
+    EXPECT_THROW(ValorDe(7), IndiceFuera);
 }
 
 TEST_F(FichasTest, AsignarRestoRompeUnaFichaSoloSiFaltanLasMenores) {
