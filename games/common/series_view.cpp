@@ -2,14 +2,11 @@
 
 #include "core/game_state.h"
 #include "core/text.h"
+#include "games/common/series.h"
 #include "table/side_buttons.h"
 #include "table/table_ops.h"
 
 namespace {
-
-constexpr Integer kTapadaSi = 1;
-constexpr Integer kFaseApuestas = 2; // the stage of the bets
-constexpr Integer kFaseJuego = 4;    // the stage in which cards are asked for
 
 bool PuedePedir(int asiento) {
     return estado.ControlJugador(asiento) == kManual && estado.FaseApuesta == kFaseJuego &&
