@@ -6,6 +6,7 @@
 #include "betting/stakes.h"
 #include "core/game_state.h"
 #include "core/text.h"
+#include "games/blackjack/blackjack_tutor.h"
 #include "games/common/series.h"
 #include "games/common/series_view.h"
 #include "games/game_table.h"
@@ -80,6 +81,7 @@ const FilaJuego& FilaBlackJack() {
                                  .puntero_carta = PunteroDeSerie,
                                  .rotulo_continuar = RotuloDeSerie,
                                  .puntos = PuntosSerie,
-                                 .botones_asiento = PonBotonesDeSerie};
+                                 .botones_asiento = PonBotonesDeSerie,
+                                 .tutor = AconsejaBlackJack};
     return kFila;
 }

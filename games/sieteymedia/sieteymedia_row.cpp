@@ -7,6 +7,7 @@
 #include "games/common/series.h"
 #include "games/common/series_view.h"
 #include "games/game_table.h"
+#include "games/sieteymedia/sieteymedia_tutor.h"
 #include "table/deck_setup.h"
 #include "table/layout.h"
 #include "table/messages.h"
@@ -88,6 +89,7 @@ const FilaJuego& FilaSieteYMedia() {
                                  .clic_voltear = VolteaSerie,
                                  .rotulo_continuar = RotuloDeSerie,
                                  .puntos = PuntosSerie,
-                                 .botones_asiento = PonBotonesDeSerie};
+                                 .botones_asiento = PonBotonesDeSerie,
+                                 .tutor = AconsejaSiete};
     return kFila;
 }
