@@ -5,6 +5,7 @@
 #include "betting/chips.h"
 #include "betting/stakes.h"
 #include "core/game_state.h"
+#include "games/blackjack/blackjack_tutor.h"
 #include "games/common/series.h"
 #include "games/common/series_view.h"
 #include "table/deck.h"
@@ -76,7 +77,7 @@ const FilaJuego& FilaBlackJack() {
                    .clave_orden = ClaveDeSerie},
         .reparto = {.recibe = Recibe, .cartas_de = CartasDe},
         .sorteo = {.se_hace = false},
-        .entrada = {.menu_ordenar = false, .puntero = PunteroDeSerie},
+        .entrada = {.menu_ordenar = false, .puntero = PunteroDeSerie, .tutor = AconsejaBlackJack},
         .pintura = {.botones_asiento = PonBotonesDeSerie,
                     .puntos = PuntosSerie,
                     .rotulo_continuar = RotuloDeSerie},

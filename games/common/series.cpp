@@ -1,7 +1,14 @@
 #include "games/common/series.h"
 
+#include <algorithm>
+
+#include "betting/bet_state.h"
+#include "betting/chips.h"
 #include "core/game_state.h"
+#include "core/numeric.h"
 #include "core/text.h"
+#include "table/messages.h"
+#include "table/seat_drawing.h"
 
 EstadoSeries series;
 
@@ -26,6 +33,38 @@ Suma SumaCartas(int asiento, int serie) {
     return suma;
 }
 
+void VuelveBocaArriba(int asiento, int serie) {
+    constexpr int kSonidoPosa = 25;
+    for (int lugar = 1; lugar <= estado.NumCartas(asiento, serie); ++lugar) {
+        estado.Mano(asiento, serie, lugar, kCara) = kDescubierta;
+        estado.Mano(asiento, serie, lugar, kTapada) = 0;
+    }
+    RedibujarAsiento(asiento);
+    Sonido(0, kSonidoPosa);
+}
+
+// The second card of a serie becomes the only one of another.
+void PasaSegundaCarta(int asiento, int serie, int nueva) {
+    for (int campo = kPalo; campo <= kTapada; ++campo) {
+        estado.Mano(asiento, nueva, 1, campo) = estado.Mano(asiento, serie, 2, campo);
+        estado.Mano(asiento, serie, 2, campo) = 0;
+    }
+    estado.NumCartas(asiento, serie) = 1;
+    estado.NumCartas(asiento, nueva) = 1;
+}
+
+void IgualaApuesta(int asiento, int serie, int nueva) {
+    for (int fase : {2, 3, 5})
+        estado.Apuesta(asiento, nueva, fase) = estado.Apuesta(asiento, serie, fase);
+    for (int ficha = 1; ficha <= kMaximoFichasPuestas; ++ficha) {
+        apuestas.FichasPuestas(asiento, nueva, ficha) =
+            apuestas.FichasPuestas(asiento, serie, ficha);
+    }
+    apuestas.NumFichasPuestas(asiento, nueva) = apuestas.NumFichasPuestas(asiento, serie);
+    const int queda = RestoDe(asiento) - ApuestaTotal(asiento, serie);
+    AsignarResto(asiento, EnteroDe(std::max(queda, 0)));
+}
+
 } // namespace
 
 float PuntosSerie(int asiento, int serie) {
@@ -40,4 +79,27 @@ float PuntosSerie(int asiento, int serie) {
 
 std::string ClaveDeSerie(Integer palo, Integer valor) {
     return Formato(valor, "00") + Formato(palo, "0");
+}
+
+int LugarTapada(int asiento, int serie) {
+    for (int lugar = 1; lugar <= estado.NumCartas(asiento, serie); ++lugar) {
+        if (estado.Mano(asiento, serie, lugar, kTapada) == kTapadaSi)
+            return lugar;
+    }
+    return 0;
+}
+
+void AbreSerie() {
+    const Integer asiento = estado.JugadorActual;
+    const Integer serie = estado.SerieActual;
+    const auto nueva = static_cast<Integer>(estado.SeriesJugador(asiento) + 1);
+    if (nueva > kMaximoSeries)
+        LanzaIndiceFuera(2, nueva, kMaximoSeries);
+    VuelveBocaArriba(asiento, serie);
+    estado.SeriesJugador(asiento) = nueva;
+    PasaSegundaCarta(asiento, serie, nueva);
+    if (estado.JuegoActivo == kBlackJack)
+        IgualaApuesta(asiento, serie, nueva);
+    series.PuedeAbrir = false;
+    RedibujarAsiento(asiento);
 }

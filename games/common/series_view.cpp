@@ -3,12 +3,11 @@
 #include "betting/phases.h"
 #include "core/game_state.h"
 #include "core/text.h"
+#include "games/common/series.h"
 #include "table/controls.h"
 #include "table/side_buttons.h"
 
 namespace {
-
-constexpr Integer kTapadaSi = 1;
 
 bool PuedePedir(int asiento) {
     return estado.ControlJugador(asiento) == kManual && estado.FaseApuesta == kFaseJuego &&

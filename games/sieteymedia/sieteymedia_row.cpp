@@ -5,6 +5,7 @@
 #include "core/numeric.h"
 #include "games/common/series.h"
 #include "games/common/series_view.h"
+#include "games/sieteymedia/sieteymedia_tutor.h"
 #include "table/deck_setup.h"
 #include "table/game_row.h"
 #include "table/layout.h"
@@ -80,7 +81,7 @@ const FilaJuego& FilaSieteYMedia() {
         .sorteo = {.da_banca = true,
                    .primera = "Se  ha  sorteado  el  jugador  que  comienza  siendo  banca.",
                    .antes = "El primer jugador banca es "},
-        .entrada = {.puntero = PunteroDeSerie, .clic = VolteaSerie},
+        .entrada = {.puntero = PunteroDeSerie, .clic = VolteaSerie, .tutor = AconsejaSiete},
         .pintura = {.botones_asiento = PonBotonesDeSerie,
                     .puntos = PuntosSerie,
                     .rotulo_continuar = RotuloDeSerie},

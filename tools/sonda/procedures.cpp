@@ -7,11 +7,13 @@
 #include "betting/stakes.h"
 #include "core/game_state.h"
 #include "forms/spin.h"
+#include "games/blackjack/blackjack_decision.h"
 #include "games/cinquillo/cinquillo.h"
 #include "games/cinquillo/cinquillo_choice.h"
 #include "games/common/hand_queries.h"
 #include "games/common/hands.h"
 #include "games/common/series.h"
+#include "games/sieteymedia/sieteymedia_decision.h"
 #include "games/trick/card_rules.h"
 #include "games/trick/choice_brisca.h"
 #include "games/trick/choice_tute.h"
@@ -168,6 +170,9 @@ const std::unordered_map<std::string, Llamada>& LaTabla() { // NOLINT(readabilit
         {"AsignarResto", Llama(&AsignarResto)},
         {"RepartePremios", Llama(&RepartePremios)},
         {"PuntosSerie", Llama(&PuntosSerie)},
+        {"AbreSerie", Llama(&AbreSerie)},
+        {"DecideBlackJack", Llama(&DecideBlackJack)},
+        {"DecideSiete", Llama(&DecideSiete)},
 
         // Hands of the games of laying cards.
         {"ExaminaMano", Llama(&ExaminaMano)},

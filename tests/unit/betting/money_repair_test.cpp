@@ -4,7 +4,7 @@
 
 #include <gmock/gmock.h>
 
-#include "core/settings_repair.h"
+#include "storage/settings_repair.h"
 #include "tests/support/money.h"
 
 namespace {
