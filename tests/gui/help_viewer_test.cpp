@@ -13,6 +13,7 @@
 #include <QTreeWidgetItemIterator>
 
 #include "platform/qt/help_viewer.h"
+#include "table/tips.h"
 
 namespace {
 
@@ -223,6 +224,14 @@ private Q_SLOTS:
             QCOMPARE(cada.next().captured(1).toInt(), pagina.tema);
         }
         QVERIFY(!cada.hasNext());
+    }
+
+    void CadaConsejoTieneSuPagina() {
+        QList<int> temas;
+        for (const PaginaAyuda& pagina : LeeContenido(PaginasDelProyecto()))
+            temas << pagina.tema;
+        for (const Consejo& consejo : Consejos())
+            QVERIFY2(temas.contains(consejo.tema), consejo.texto);
     }
 
     void LasPaginasDelProyectoSeMuestranTodas() {
