@@ -56,6 +56,12 @@ add_custom_target(zovin_contact_sheets
   DEPENDS render_assets ${deck_drawings} ${picture_drawings}
   COMMENT "Painting the contact sheets" VERBATIM)
 
+# The hands that the help's page of Póker shows, painted on demand: they lie beside the pages.
+add_custom_target(zovin_help_hands
+  COMMAND ${render} hands "${drawings}" "${drawings}/help"
+  DEPENDS render_assets ${deck_drawings} ${picture_drawings}
+  COMMENT "Painting the hands of the help" VERBATIM)
+
 # Puts the pictures into a target as Qt resources: ":/arte/laminas.png", ":/arte/mano_indice@2x.png"...
 function(zovin_add_assets target)
   qt_add_resources(${target} arte PREFIX /arte BASE "${pictures}" FILES ${picture_files})

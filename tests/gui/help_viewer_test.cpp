@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QTemporaryDir>
 #include <QTest>
@@ -12,6 +13,7 @@
 #include <QTreeWidgetItemIterator>
 
 #include "platform/qt/help_viewer.h"
+#include "table/tips.h"
 
 namespace {
 
@@ -194,6 +196,42 @@ private Q_SLOTS:
         VistaAyuda ayuda(rota);
         ayuda.MuestraTema(0);
         QVERIFY(ayuda.findChild<QTextBrowser*>()->toPlainText().contains("no está disponible"));
+    }
+
+    void LosEnlacesYLosDibujosDelProyectoExisten() {
+        static const QRegularExpression remite(QStringLiteral("(?:href|src)=\"([^\"]+)\""));
+        const QDir paginas(PaginasDelProyecto());
+        int remites = 0;
+        for (const QString& nombre : paginas.entryList({"*.html"})) {
+            QFile pagina(paginas.filePath(nombre));
+            QVERIFY(pagina.open(QIODevice::ReadOnly));
+            auto cada = remite.globalMatch(QString::fromUtf8(pagina.readAll()));
+            for (; cada.hasNext(); ++remites) {
+                const QString destino = cada.next().captured(1);
+                QVERIFY2(paginas.exists(destino), qPrintable(nombre + ": " + destino));
+            }
+        }
+        QVERIFY(remites > 100);
+    }
+
+    void ElIndiceTieneLasPaginasEnElOrdenDelArbol() {
+        static const QRegularExpression enlace(QStringLiteral("<li><a href=\"(\\d+)\\.html\""));
+        QFile indice(PaginasDelProyecto() + "/index.html");
+        QVERIFY(indice.open(QIODevice::ReadOnly));
+        auto cada = enlace.globalMatch(QString::fromUtf8(indice.readAll()));
+        for (const PaginaAyuda& pagina : LeeContenido(PaginasDelProyecto())) {
+            QVERIFY2(cada.hasNext(), qPrintable(pagina.titulo));
+            QCOMPARE(cada.next().captured(1).toInt(), pagina.tema);
+        }
+        QVERIFY(!cada.hasNext());
+    }
+
+    void CadaConsejoTieneSuPagina() {
+        QList<int> temas;
+        for (const PaginaAyuda& pagina : LeeContenido(PaginasDelProyecto()))
+            temas << pagina.tema;
+        for (const Consejo& consejo : Consejos())
+            QVERIFY2(temas.contains(consejo.tema), consejo.texto);
     }
 
     void LasPaginasDelProyectoSeMuestranTodas() {

@@ -1,3 +1,4 @@
+#include "betting/phases.h"
 #include "tests/support/bank_table.h"
 
 #include <algorithm>

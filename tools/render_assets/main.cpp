@@ -1,5 +1,6 @@
 // Paints the drawings of assets/ as the pictures that the program reads: the two deck images beside
-// the program, everything else as PNG for its resources, and contact sheets for those who draw.
+// the program, everything else as PNG for its resources, contact sheets for those who draw, and the
+// hands of Póker for the help.
 // It needs no screen: run it with QT_QPA_PLATFORM=offscreen.
 
 #include <array>
@@ -208,13 +209,75 @@ void HazMuestras(const Carpetas& carpetas) {
     guarda(PintaMuestra(carpetas), "sheet.png");
 }
 
+// A hand of the help's page of Póker: its cards as the files of the drawings name them.
+struct Jugada {
+    const char* nombre;
+    std::array<const char*, 5> cartas;
+};
+
+constexpr std::array kJugadas{
+    Jugada{"repoker",
+           {"french/diamantes-09", "french/corazones-09", "french/picas-09", "french/treboles-09",
+            "comodin1"}},
+    Jugada{"escalera-de-color",
+           {"french/picas-09", "french/picas-08", "french/picas-07", "french/picas-06",
+            "french/picas-05"}},
+    Jugada{"poker",
+           {"french/diamantes-12", "french/corazones-12", "french/picas-12", "french/treboles-12",
+            "french/picas-04"}},
+    Jugada{"full",
+           {"french/corazones-10", "french/picas-10", "french/treboles-10", "french/diamantes-04",
+            "french/treboles-04"}},
+    Jugada{"color",
+           {"french/corazones-13", "french/corazones-10", "french/corazones-08",
+            "french/corazones-05", "french/corazones-03"}},
+    Jugada{"escalera",
+           {"french/treboles-10", "french/corazones-09", "french/picas-08", "french/diamantes-07",
+            "french/treboles-06"}},
+    Jugada{"figuras",
+           {"french/treboles-01", "french/diamantes-13", "french/picas-13", "french/corazones-12",
+            "french/picas-11"}},
+    Jugada{"trio",
+           {"french/diamantes-07", "french/picas-07", "french/treboles-07", "french/corazones-12",
+            "french/diamantes-03"}},
+    Jugada{"doble-pareja",
+           {"french/diamantes-11", "french/picas-11", "french/corazones-05", "french/treboles-05",
+            "french/picas-09"}},
+    Jugada{"pareja",
+           {"french/corazones-08", "french/treboles-08", "french/picas-13", "french/diamantes-06",
+            "french/treboles-02"}},
+    Jugada{"carta-mayor",
+           {"french/picas-01", "french/diamantes-10", "french/treboles-07", "french/corazones-05",
+            "french/diamantes-03"}},
+    Jugada{"trio-con-comodin",
+           {"french/diamantes-12", "french/treboles-12", "comodin1", "french/picas-09",
+            "french/corazones-04"}},
+};
+
+// The hands at the size of a page: five cards side by side in the second column of a table.
+void HazJugadas(const Carpetas& carpetas) {
+    constexpr int ancho = 56, alto = 78, hueco = 4;
+    const QSize medida(kAnchoCarta, kAltoCarta);
+    for (const Jugada& jugada : kJugadas) {
+        QImage imagen = Lienzo(5 * ancho + 4 * hueco, alto, 0);
+        QPainter pintor(&imagen);
+        int x = 0;
+        for (const char* carta : jugada.cartas) {
+            Pinta(pintor, carpetas.dibujos + "/cards/" + carta + ".svg", {x, 0, ancho, alto},
+                  medida);
+            x += ancho + hueco;
+        }
+        Guarda(imagen, carpetas.salida + "/jugada-" + jugada.nombre + ".png");
+    }
+}
+
 struct Encargo {
     std::string nombre;
     void (*haz)(const Carpetas&);
 };
 
 const std::array kEncargos{Encargo{"decks", HazBarajas}, Encargo{"resources", HazRecursos},
-                           Encargo{"contact", HazMuestras}};
+                           Encargo{"contact", HazMuestras}, Encargo{"hands", HazJugadas}};
 
 int Trabaja(int argc, char** argv) {
     CLI::App opciones{"Paints the drawings of the suite."};

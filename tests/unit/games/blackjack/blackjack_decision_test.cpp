@@ -4,6 +4,7 @@
 
 #include "betting/bet_state.h"
 #include "betting/chips.h"
+#include "betting/phases.h"
 #include "tests/support/bank_table.h"
 
 using namespace prueba;

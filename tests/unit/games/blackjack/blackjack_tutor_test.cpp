@@ -8,6 +8,7 @@
 
 #include "betting/chips.h"
 #include "table/button_column.h"
+#include "betting/phases.h"
 #include "tests/support/bank_table.h"
 #include "tests/support/live_table.h"
 

@@ -5,6 +5,7 @@
 #include "betting/bet_state.h"
 #include "betting/chips.h"
 #include "games/common/trick_state.h"
+#include "betting/phases.h"
 #include "tests/support/bank_table.h"
 
 using namespace prueba;
