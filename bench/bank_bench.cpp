@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <initializer_list>
 
+#include "betting/bet_state.h"
 #include "betting/chips.h"
 #include "core/game_state.h"
 #include "games/blackjack/blackjack_decision.h"
@@ -23,7 +24,7 @@ void PonMesa(Integer juego) {
     estado.PosicionMazo = 30;
     estado.Baraja(30, 2) = 6;
     estado.JugadorBanca = 2;
-    estado.FaseApuesta = kFaseJuego;
+    apuestas.FaseApuesta = kFaseJuego;
     estado.RestoInicial = 200;
     estado.ApuestaMaxima = 25;
     estado.SerieActual = 1;
@@ -45,7 +46,7 @@ void PonSerie(Integer asiento, Integer serie, std::initializer_list<Integer> val
         estado.Mano(asiento, serie, lugar, kValor) = valor;
         estado.Mano(asiento, serie, lugar, kCara) = kDescubierta;
     }
-    estado.Apuesta(asiento, serie, 2) = 10;
+    apuestas.Apuesta(asiento, serie, 2) = 10;
 }
 
 // A pair of five cards' weight, with everything on offer.

@@ -45,7 +45,7 @@ void BorraFilas(Integer asiento, Devolucion modo) {
     for (const Integer fase : kFasesConApuesta) {
         const bool del_seguro = fase == kFaseSeguro;
         if (modo == Devolucion::Todo || del_seguro == (modo == Devolucion::Seguro))
-            estado.Apuesta(asiento, estado.SerieActual, fase) = 0;
+            apuestas.Apuesta(asiento, estado.SerieActual, fase) = 0;
     }
 }
 
@@ -62,7 +62,7 @@ void PagaDeBanca(Integer asiento, Integer cantidad, const AlMoverFicha& al_mover
 void DevuelveApuesta(Integer asiento, Integer destino, Devolucion modo,
                      const AlMoverFicha& al_mover) {
     const std::vector<int> lista = Lista(asiento);
-    const Integer seguro = estado.Apuesta(asiento, estado.SerieActual, kFaseSeguro);
+    const Integer seguro = apuestas.Apuesta(asiento, estado.SerieActual, kFaseSeguro);
     const auto corte = lista.begin() + PrimeraDelSeguro(lista, seguro);
     const std::vector<int> apostadas(lista.begin(), corte), del_seguro(corte, lista.end());
 

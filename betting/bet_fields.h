@@ -6,6 +6,15 @@
 
 template <MismoQue<EstadoApuestas> E, class V>
 void RecorreCampos(E& bloque, V&& visita) {
+    CAMPO(Fichas);
+    CAMPO(ValorFicha);
+    CAMPO(Apuesta);
+    CAMPO(RestoPrevio);
+    CAMPO(ApuestaPrevia);
+
+    CAMPO(FaseApuesta);
+    CAMPO(ModoApuesta);
+
     CAMPO(DesgloseFichas);
 
     CAMPO(MaximaApuesta);

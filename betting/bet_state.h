@@ -10,6 +10,18 @@
 inline constexpr int kMaximoFichasPuestas = 150;
 
 struct EstadoApuestas {
+    // Row 0 of Fichas, Apuesta, RestoPrevio and ApuestaPrevia is the pot. Chips held, by denomination 1..6; what is at
+    // stake, by serie and row (betting/phases.h); both as they were when the hand began.
+    Tabla<Integer, 4, 6> Fichas;
+    Tabla<Integer, 6> ValorFicha;
+    Tabla<Integer, 4, 4, 5> Apuesta;
+    Tabla<Integer, 4> RestoPrevio;
+    Tabla<Integer, 4, 5> ApuestaPrevia;
+
+    // The stage of the hand, and whether chips may be clicked.
+    Integer FaseApuesta = 0;
+    bool ModoApuesta = false;
+
     // The chips of an amount, by denomination 1..6: what Desglosa leaves.
     Tabla<Integer, 6> DesgloseFichas;
 

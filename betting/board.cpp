@@ -13,7 +13,7 @@ namespace {
 
 Integer Falta(Integer asiento) {
     return EnteroDe(apuestas.MaximaApuesta -
-                    estado.Apuesta(asiento, estado.SerieActual, estado.FaseApuesta));
+                    apuestas.Apuesta(asiento, estado.SerieActual, apuestas.FaseApuesta));
 }
 
 std::string TextoIgualar(Integer asiento) {

@@ -25,14 +25,14 @@ Integer ValorDe(int d) {
 Integer RestoDe(int asiento) {
     int resto = 0;
     for (int d = 1; d <= kDenominaciones; ++d)
-        resto += estado.Fichas(asiento, d) * ValorDe(d);
+        resto += apuestas.Fichas(asiento, d) * ValorDe(d);
     return EnteroDe(resto);
 }
 
 Integer ApuestaTotal(int asiento, int serie) {
     int total = 0;
     for (const Integer fase : kFasesConApuesta)
-        total += estado.Apuesta(asiento, serie, fase);
+        total += apuestas.Apuesta(asiento, serie, fase);
     return EnteroDe(total);
 }
 
@@ -58,7 +58,7 @@ Tabla<Integer, 6> FichasDeResto(Integer cantidad) {
 void AsignarResto(int asiento, Integer cantidad) {
     const Tabla<Integer, 6> fichas = FichasDeResto(cantidad);
     for (int d = 1; d <= kDenominaciones; ++d)
-        estado.Fichas(asiento, d) = fichas(d);
+        apuestas.Fichas(asiento, d) = fichas(d);
 }
 
 void SumaAlResto(int asiento, int puntos) {

@@ -26,11 +26,11 @@ Techo RivalMasRico(Integer asiento) {
 
 // The bets of the three games have the same number: the ante in Póker.
 bool AlApostar() {
-    return estado.FaseApuesta == kFaseApuestas;
+    return apuestas.FaseApuesta == kFaseApuestas;
 }
 
 bool SubeSinRivales(Integer asiento, Integer valor) {
-    const Integer puesto = estado.Apuesta(asiento, estado.SerieActual, estado.FaseApuesta);
+    const Integer puesto = apuestas.Apuesta(asiento, estado.SerieActual, apuestas.FaseApuesta);
     return RivalesSinResto(asiento) && puesto + valor > apuestas.MaximaApuesta;
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <limits>
 
+#include "betting/bet_state.h"
 #include "betting/chips.h"
 #include "betting/phases.h"
 #include "betting/stakes.h"
@@ -22,7 +23,7 @@ int TodoElDinero() {
     int suma = 0;
     for (int asiento = 0; asiento <= 4; ++asiento) {
         for (int d = 1; d <= kDenominaciones; ++d)
-            suma += estado.Fichas(asiento, d) * ValorDe(d);
+            suma += apuestas.Fichas(asiento, d) * ValorDe(d);
     }
     return suma;
 }
@@ -31,7 +32,7 @@ int TodoElDinero() {
 int TodasLasApuestas() {
     int suma = 0;
     for (int asiento = 1; asiento <= 4; ++asiento)
-        suma += estado.Apuesta(asiento, 1, kFaseApuestas);
+        suma += apuestas.Apuesta(asiento, 1, kFaseApuestas);
     return suma;
 }
 
@@ -39,7 +40,7 @@ void EmpiezaDeNuevo() {
     AsignarResto(kBote, 0);
     for (int asiento = 1; asiento <= 4; ++asiento)
         AsignarResto(asiento, Juega(asiento) ? estado.RestoInicial : Integer{0});
-    estado.Apuesta.Borra();
+    apuestas.Apuesta.Borra();
 }
 
 void Traslada(int de, int a) {
@@ -71,9 +72,9 @@ void ReparteBote() {
 } // namespace
 
 void ReparaFichas() {
-    for (Integer& fichas : estado.Fichas)
+    for (Integer& fichas : apuestas.Fichas)
         fichas = std::max<Integer>(fichas, 0);
-    for (Integer& puntos : estado.Apuesta)
+    for (Integer& puntos : apuestas.Apuesta)
         puntos = std::max<Integer>(puntos, 0);
     if (TodoElDinero() > kMaximo || TodasLasApuestas() > kMaximo)
         EmpiezaDeNuevo();
@@ -89,5 +90,5 @@ void ReparaPartidaConDinero(const MesaConDinero& mesa) {
     // After a hand that was paid the bets stand beside an empty pot, until the next one begins.
     const Integer bote = RestoDe(kBote);
     if (bote > 0 && bote < TodasLasApuestas())
-        estado.Apuesta.Borra();
+        apuestas.Apuesta.Borra();
 }

@@ -10,7 +10,7 @@
 namespace {
 
 void CambiaApuesta(Integer asiento, int puntos) {
-    Integer& puesto = estado.Apuesta(asiento, estado.SerieActual, estado.FaseApuesta);
+    Integer& puesto = apuestas.Apuesta(asiento, estado.SerieActual, apuestas.FaseApuesta);
     puesto = EnteroDe(puesto + puntos);
     apuestas.ApuestaEnCurso = EnteroDe(apuestas.ApuestaEnCurso + puntos);
 }
@@ -31,9 +31,9 @@ int QuitaDeLaLista(Integer asiento) {
 FichaMovida QuitaFicha(Integer asiento, const ReglasApuesta& reglas) {
     const int d = QuitaDeLaLista(asiento);
     CambiaApuesta(asiento, -ValorDe(d));
-    ++estado.Fichas(asiento, d);
+    ++apuestas.Fichas(asiento, d);
     if (reglas.bote)
-        --estado.Fichas(kBote, d);
+        --apuestas.Fichas(kBote, d);
     return {d, DondeSePone(asiento, reglas), {asiento}, ApuestaTotal(asiento, estado.SerieActual)};
 }
 
@@ -54,7 +54,7 @@ FichaMovida AnotaFicha(Integer asiento, int d, const ReglasApuesta& reglas) {
     CambiaApuesta(asiento, ValorDe(d));
     SumaAlResto(asiento, -ValorDe(d));
     if (reglas.bote)
-        ++estado.Fichas(kBote, d);
+        ++apuestas.Fichas(kBote, d);
     return {d, {asiento}, DondeSePone(asiento, reglas), ApuestaTotal(asiento, estado.SerieActual)};
 }
 

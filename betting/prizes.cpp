@@ -107,17 +107,17 @@ void PagaBote(const AlMoverFicha& al_mover, const std::function<void()>& al_vaci
     if (premiados.empty())
         return;
     for (int d = 1; d <= kDenominaciones; ++d) {
-        if (estado.Fichas(kBote, d) == 0)
+        if (apuestas.Fichas(kBote, d) == 0)
             continue;
         for (const Integer asiento : premiados)
             al_mover({d, {kBote}, {asiento}, 0});
-        estado.Fichas(kBote, d) = 0;
+        apuestas.Fichas(kBote, d) = 0;
         al_vaciar();
     }
     for (const Integer asiento : premiados) {
         Desglosa(apuestas.PremioJugador(asiento));
         for (int d = 1; d <= kDenominaciones; ++d)
-            estado.Fichas(asiento, d) =
-                EnteroDe(estado.Fichas(asiento, d) + apuestas.DesgloseFichas(d));
+            apuestas.Fichas(asiento, d) =
+                EnteroDe(apuestas.Fichas(asiento, d) + apuestas.DesgloseFichas(d));
     }
 }

@@ -1,5 +1,6 @@
 #include "betting/stakes.h"
 
+#include "betting/bet_state.h"
 #include "betting/chips.h"
 #include "betting/phases.h"
 #include "core/game_state.h"
@@ -17,8 +18,8 @@ Integer CuentaConResto() {
 
 void RestauraMano() {
     for (int asiento = 0; asiento <= 4; ++asiento) {
-        AsignarResto(asiento, estado.RestoPrevio(asiento));
+        AsignarResto(asiento, apuestas.RestoPrevio(asiento));
         for (int fase = 1; fase <= kNumFases; ++fase)
-            estado.Apuesta(asiento, 1, fase) = estado.ApuestaPrevia(asiento, fase);
+            apuestas.Apuesta(asiento, 1, fase) = apuestas.ApuestaPrevia(asiento, fase);
     }
 }

@@ -105,7 +105,6 @@ struct EstadoJuego {
     Integer SerieActual = 0;
     Integer SerieEnJuego = 0;
     Tabla<Integer, 4> SeriesJugador;
-    Integer FaseApuesta = 0;
     Integer NumBaza = 0;
     Integer JugadorSalida = 0;
     Integer GanadorBaza = 0;
@@ -124,7 +123,6 @@ struct EstadoJuego {
     bool ArrastraReparto = false;
     bool ModoOrdenar = false;
     bool ArrastraCarta = false;
-    bool ModoApuesta = false;
 
     // Hands: Mano(asiento, serie, lugar, campo).
     Tabla<Integer, 4, 4, 54, 5> Mano;
@@ -164,13 +162,6 @@ struct EstadoJuego {
     Integer PaloTriunfo = 0;
     Integer ValorTriunfo = 0;
     bool JuegoConBanca = false;
-
-    // Money: row 0 of Fichas, Apuesta, RestoPrevio and ApuestaPrevia is the pot.
-    Tabla<Integer, 4, 6> Fichas;
-    Tabla<Integer, 6> ValorFicha;
-    Tabla<Integer, 4, 4, 5> Apuesta;
-    Tabla<Integer, 4> RestoPrevio;
-    Tabla<Integer, 4, 5> ApuestaPrevia;
 
     // Results of the match.
     Tabla<Integer, 4> JuegosGanados;

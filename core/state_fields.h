@@ -82,7 +82,6 @@ void RecorreCampos(E& bloque, V&& visita) { // NOLINT(readability-function-size)
     CAMPO(SerieActual);
     CAMPO(SerieEnJuego);
     CAMPO(SeriesJugador);
-    CAMPO(FaseApuesta);
     CAMPO(NumBaza);
     CAMPO(JugadorSalida);
     CAMPO(GanadorBaza);
@@ -100,7 +99,6 @@ void RecorreCampos(E& bloque, V&& visita) { // NOLINT(readability-function-size)
     CAMPO(ArrastraReparto);
     CAMPO(ModoOrdenar);
     CAMPO(ArrastraCarta);
-    CAMPO(ModoApuesta);
 
     CAMPO(Mano);
     CAMPO(NumCartas);
@@ -138,12 +136,6 @@ void RecorreCampos(E& bloque, V&& visita) { // NOLINT(readability-function-size)
     CAMPO(PaloTriunfo);
     CAMPO(ValorTriunfo);
     CAMPO(JuegoConBanca);
-
-    CAMPO(Fichas);
-    CAMPO(ValorFicha);
-    CAMPO(Apuesta);
-    CAMPO(RestoPrevio);
-    CAMPO(ApuestaPrevia);
 
     CAMPO(JuegosGanados);
     CAMPO(Juegos);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "betting/bet_state.h"
 #include "betting/chips.h"
 #include "core/game_state.h"
 #include "core/random.h"
@@ -49,7 +50,7 @@ void LimpiaTodo() {
 void BajaBanderas() {
     estado.ManoEnCurso = false;
     estado.ModoOrdenar = false;
-    estado.ModoApuesta = false;
+    apuestas.ModoApuesta = false;
     estado.RepartoEnCurso = false;
     estado.ArrastraReparto = false;
     estado.ArrastraCarta = false;

@@ -1,5 +1,7 @@
 #include "session/word_tables.h"
 
+#include "betting/bet_state.h"
+#include "betting/chips.h"
 #include "core/game_state.h"
 #include "table/game_row.h"
 
@@ -43,15 +45,14 @@ void PonAsientos() {
 } // namespace
 
 void PonTablasDePalabras() {
-    constexpr Integer kFichas[] = {0, 1, 2, 5, 10, 20, 50};
     constexpr const char* kNumeros[] = {"",       "Una",   "Dos",  "Tres",
                                         "Cuatro", "Cinco", "Seis", "Siete"};
     PonAsientos();
     PonTitulos();
     estado.TextoOrdenar(4) = "Ordenar cartas manualmente";
     estado.TextoOrdenar(5) = "Ordenar cartas automáticamente";
-    for (int i = 1; i <= 6; ++i)
-        estado.ValorFicha(i) = kFichas[i];
+    for (int d = 1; d <= kDenominaciones; ++d)
+        apuestas.ValorFicha(d) = ValorDe(d);
     for (int i = 1; i <= 7; ++i)
         estado.NombreNumero(i) = kNumeros[i];
     for (const FilaJuego* fila : FilasDeJuegos())

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "betting/bet_state.h"
 #include "betting/chips.h"
 #include "betting/phases.h"
 #include "core/game_state.h"
@@ -15,16 +16,16 @@ constexpr int kMaximoFichas = 99; // of one denomination, in two columns
 
 // The money when the hand began; a game without any has none there.
 bool HabiaDinero() {
-    return std::any_of(estado.RestoPrevio.begin(), estado.RestoPrevio.end(),
+    return std::any_of(apuestas.RestoPrevio.begin(), apuestas.RestoPrevio.end(),
                        [](Integer resto) { return resto != 0; });
 }
 
 void PonDineroPrevio(EntreManos& entre_manos) {
     for (int asiento = 0; asiento <= 4; ++asiento) {
-        const Tabla<Integer, 6> fichas = FichasDeResto(estado.RestoPrevio(asiento));
+        const Tabla<Integer, 6> fichas = FichasDeResto(apuestas.RestoPrevio(asiento));
         for (int d = 1; d <= 6; ++d)
             entre_manos.fichas(asiento, d) = fichas(d);
-        entre_manos.apuesta(asiento) = estado.ApuestaPrevia(asiento, kFaseApuestas);
+        entre_manos.apuesta(asiento) = apuestas.ApuestaPrevia(asiento, kFaseApuestas);
     }
 }
 
@@ -75,9 +76,9 @@ void ReagrupaFichas(EntreManos& entre_manos, int asiento) {
 
 EntreManos ComoEsta() {
     EntreManos entre_manos{
-        estado.JuegosJugados, estado.JugadorMano, estado.JugadorBanca, estado.Fichas, {}};
+        estado.JuegosJugados, estado.JugadorMano, estado.JugadorBanca, apuestas.Fichas, {}};
     for (int asiento = 0; asiento <= 4; ++asiento)
-        entre_manos.apuesta(asiento) = estado.Apuesta(asiento, 1, kFaseApuestas);
+        entre_manos.apuesta(asiento) = apuestas.Apuesta(asiento, 1, kFaseApuestas);
     return entre_manos;
 }
 
@@ -95,16 +96,16 @@ void Repon(const EntreManos& entre_manos) {
     estado.JuegosJugados = entre_manos.juegos;
     estado.JugadorMano = entre_manos.mano;
     estado.JugadorBanca = entre_manos.banca;
-    estado.Fichas = entre_manos.fichas;
-    estado.Apuesta.Borra();
+    apuestas.Fichas = entre_manos.fichas;
+    apuestas.Apuesta.Borra();
     for (int asiento = 0; asiento <= 4; ++asiento)
-        estado.Apuesta(asiento, 1, kFaseApuestas) = entre_manos.apuesta(asiento);
+        apuestas.Apuesta(asiento, 1, kFaseApuestas) = entre_manos.apuesta(asiento);
 }
 
 void AnotaDineroPrevio() {
     for (int asiento = 0; asiento <= 4; ++asiento) {
-        estado.RestoPrevio(asiento) = RestoDe(asiento);
+        apuestas.RestoPrevio(asiento) = RestoDe(asiento);
         for (int fase = 1; fase <= kNumFases; ++fase)
-            estado.ApuestaPrevia(asiento, fase) = estado.Apuesta(asiento, 1, fase);
+            apuestas.ApuestaPrevia(asiento, fase) = apuestas.Apuesta(asiento, 1, fase);
     }
 }

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "betting/limits.h"
 #include "core/tabla.h"
 #include "platform/platform.h"
 
@@ -100,6 +101,10 @@ struct PinturaDeJuego {
 
 struct DineroDeJuego {
     bool hay = false; // the seats get RestoInicial in chips
+    ReglasApuesta reglas{};
+    // A manual seat clicks a chip: the game may refuse it, with its own message. Empty: it is placed if the limits
+    // allow it.
+    bool (*permite_ficha)() = nullptr;
     // Who holds the bank when the next hand starts: that is saved after a finished hand. Empty: JugadorBanca.
     Integer (*banca_siguiente)() = nullptr;
 };
@@ -111,6 +116,10 @@ struct ManoDeJuego {
     void (*pasa_la_mano)() = nullptr;
     // What the game itself keeps of a hand is cleared, before the deal. Empty: nothing.
     void (*limpia)() = nullptr;
+    // The hand is dealt at its start; false: the game deals when it wants to.
+    bool reparte = true;
+    // What every seat puts in at the start: before the cards, but after them when they are dealt by hand. Empty: nothing.
+    void (*apuesta_de_salida)() = nullptr;
     // Between the deal and ManoEnCurso: the trump is turned. Empty: nothing.
     void (*descubre)() = nullptr;
 };

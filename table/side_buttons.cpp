@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "betting/bet_state.h"
 #include "core/game_state.h"
 #include "core/text.h"
 #include "table/game_row.h"
@@ -135,7 +136,7 @@ void PintarFichas(int asiento, int area) {
         return;
     Lienzo& mesa = plataforma().LienzoDe(Control::Mesa, 0);
     for (int ficha = 1; ficha <= 6; ++ficha) {
-        const int altura = std::min<int>(estado.Fichas(asiento, ficha), kFichasVisibles);
+        const int altura = std::min<int>(apuestas.Fichas(asiento, ficha), kFichasVisibles);
         for (int i = 0; i < altura; ++i) {
             mesa.Lamina(estado.PosFichaX(area, ficha),
                         estado.PosFichaY(area, ficha) - i * kGruesoFicha, lamina::Ficha(ficha));

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "betting/bet_state.h"
 #include "core/game_state.h"
 #include "core/numeric.h"
 #include "table/controls.h"
@@ -43,7 +44,7 @@ Integer PunteroEnCarta() {
     const FilaJuego& juego = JuegoEnMesa();
     if (juego.entrada.puntero != nullptr)
         return Codigo(juego.entrada.puntero(estado.CartaBajoCursor));
-    if (estado.ModoApuesta)
+    if (apuestas.ModoApuesta)
         return 0;
     return Codigo(CartaLegal() ? Puntero::ManoVerde : Puntero::ManoRoja);
 }
@@ -150,7 +151,7 @@ void PulsaSegunPuntero() {
     switch (puntero) {
     case Puntero::ManoVerde:
     case Puntero::ManoRoja: // sounds like a card, and plays none
-        if (estado.EligeCarta && !estado.ModoApuesta)
+        if (estado.EligeCarta && !apuestas.ModoApuesta)
             EligeLaCarta(puntero);
         break;
     case Puntero::Voltear:

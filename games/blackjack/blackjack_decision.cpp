@@ -110,8 +110,8 @@ void DecideJugada(const Criterio& quien) {
 
 void DecideBlackJack() {
     const Criterio quien = CriterioDelTurno();
-    if (estado.FaseApuesta == kFaseApuestas)
+    if (apuestas.FaseApuesta == kFaseApuestas)
         apuestas.ApuestaPropuesta = ProponApuesta(quien);
-    else if (estado.FaseApuesta == kFaseJuego)
+    else if (apuestas.FaseApuesta == kFaseJuego)
         DecideJugada(quien);
 }

@@ -1,5 +1,6 @@
 #include "games/blackjack/blackjack_offers.h"
 
+#include "betting/bet_state.h"
 #include "betting/chips.h"
 #include "core/game_state.h"
 #include "games/common/series.h"
@@ -27,7 +28,7 @@ Currency CuentaCarta(int lugar) {
 }
 
 Integer ApuestaDeSerie(int serie) {
-    return estado.Apuesta(estado.JugadorActual, serie, kRenglonApuesta);
+    return apuestas.Apuesta(estado.JugadorActual, serie, kRenglonApuesta);
 }
 
 } // namespace

@@ -81,7 +81,7 @@ const FilaJuego& FilaBlackJack() {
         .pintura = {.botones_asiento = PonBotonesDeSerie,
                     .puntos = PuntosSerie,
                     .rotulo_continuar = RotuloDeSerie},
-        .dinero = {.hay = true},
+        .dinero = {.hay = true, .reglas = {.maxima_solo_al_apostar = true, .maximas_de_techo = 12}},
         .normas = {.reglas = {Regla::RestoInicial, Regla::ApuestaMaxima}},
     };
     return kFila;

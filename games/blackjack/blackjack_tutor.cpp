@@ -28,7 +28,7 @@ void MuestraJugada() {
 void AconsejaBlackJack() {
     EmpiezaConsejo();
     DecideBlackJack();
-    if (estado.FaseApuesta == kFaseApuestas)
+    if (apuestas.FaseApuesta == kFaseApuestas)
         AconsejaConRotulo("Apostar " + Numero(apuestas.ApuestaPropuesta));
     else
         MuestraJugada();

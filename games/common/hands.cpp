@@ -1,5 +1,7 @@
 #include "games/common/hands.h"
 
+#include "betting/bet_state.h"
+#include "betting/stakes.h"
 #include "core/game_state.h"
 #include "core/numeric.h"
 #include "core/session_state.h"
@@ -58,8 +60,10 @@ void BorraMano() {
         VaciaMano(asiento);
         estado.SeriesJugador(asiento) = 1;
     }
-    estado.Baraja.Borra();
-    estado.Apuesta.Borra();
+    if (!JuegoEnMesa().baraja.seguida)
+        estado.Baraja.Borra();
+    if (!JuegoEnMesa().dinero.hay)
+        apuestas.Apuesta.Borra();
     estado.RotuloSerie.Borra();
     estado.ParpadeoRotulo.Borra();
     estado.PaloTriunfo = 0;
@@ -70,14 +74,27 @@ void BorraMano() {
     estado.JugadoresEnMano = estado.NumJugadores;
 }
 
+// In the games with money who has none left gets nothing, and the bank that is always the same one has no turn yet.
+bool SeVeAlEmpezar(Integer asiento) {
+    const FilaJuego& juego = JuegoEnMesa();
+    return !juego.dinero.hay || (TieneResto(asiento) && asiento != juego.asientos.banca);
+}
+
 void PonMesaDeMano() {
     BorraMano();
     if (JuegoEnMesa().mano.limpia != nullptr)
         JuegoEnMesa().mano.limpia();
     LimpiarMesa();
     MostrarNombres();
-    for (int asiento = 1; asiento <= 4; ++asiento)
-        RedibujarAsiento(asiento);
+    for (Integer asiento = 1; asiento <= 4; ++asiento) {
+        if (SeVeAlEmpezar(asiento))
+            RedibujarAsiento(asiento);
+    }
+}
+
+void TomaApuestaDeSalida() {
+    if (JuegoEnMesa().mano.apuesta_de_salida != nullptr)
+        JuegoEnMesa().mano.apuesta_de_salida();
 }
 
 // A manual deal that a change of the rules has broken off is dealt again, by whatever system holds by then.
@@ -85,11 +102,17 @@ void PonMesaDeMano() {
     bool a_mano = false;
     do {
         PonMesaDeMano();
+        if (!JuegoEnMesa().mano.reparte)
+            return true;
         a_mano = estado.SistemaReparto == kRepartoManual;
+        if (!a_mano)
+            TomaApuestaDeSalida();
         if (!Repartir())
             return false;
     } while (a_mano && !RepartoCompleto());
-    return true;
+    if (a_mano)
+        TomaApuestaDeSalida();
+    return PartidaSigue();
 }
 
 bool AlguienManual() {

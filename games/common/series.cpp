@@ -55,7 +55,7 @@ void PasaSegundaCarta(int asiento, int serie, int nueva) {
 
 void IgualaApuesta(int asiento, int serie, int nueva) {
     for (int fase : {2, 3, 5})
-        estado.Apuesta(asiento, nueva, fase) = estado.Apuesta(asiento, serie, fase);
+        apuestas.Apuesta(asiento, nueva, fase) = apuestas.Apuesta(asiento, serie, fase);
     for (int ficha = 1; ficha <= kMaximoFichasPuestas; ++ficha) {
         apuestas.FichasPuestas(asiento, nueva, ficha) =
             apuestas.FichasPuestas(asiento, serie, ficha);

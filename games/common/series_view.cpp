@@ -1,5 +1,6 @@
 #include "games/common/series_view.h"
 
+#include "betting/bet_state.h"
 #include "betting/phases.h"
 #include "core/game_state.h"
 #include "core/text.h"
@@ -10,7 +11,7 @@
 namespace {
 
 bool PuedePedir(int asiento) {
-    return estado.ControlJugador(asiento) == kManual && estado.FaseApuesta == kFaseJuego &&
+    return estado.ControlJugador(asiento) == kManual && apuestas.FaseApuesta == kFaseJuego &&
            estado.SerieActual == estado.SerieEnJuego;
 }
 
@@ -34,12 +35,12 @@ void PonBotonesDeSerie(int asiento) {
 Puntero PunteroDeSerie(int lugar) {
     const bool tapada =
         estado.Mano(estado.JugadorActual, estado.SerieActual, lugar, kTapada) == kTapadaSi;
-    return tapada && !estado.ModoApuesta ? Puntero::Voltear : Puntero::Flecha;
+    return tapada && !apuestas.ModoApuesta ? Puntero::Voltear : Puntero::Flecha;
 }
 
 void RotuloDeSerie(std::string& primera, std::string& segunda) {
     const Integer asiento = estado.JugadorActual;
-    const Integer fase = estado.FaseApuesta;
+    const Integer fase = apuestas.FaseApuesta;
     if (estado.ControlJugador(asiento) == kManual ||
         (fase != kFaseApuestas && fase != kFaseJuego)) {
         return;

@@ -4,6 +4,7 @@
 #include <string>
 #include <utility>
 
+#include "betting/bet_state.h"
 #include "betting/chips.h"
 #include "betting/phases.h"
 #include "betting/stakes.h"
@@ -101,7 +102,7 @@ bool HayCartaLevantada(Integer asiento) {
 void RotuloContinuar(std::string& primera, std::string& segunda) {
     const Integer asiento = estado.JugadorActual;
     const bool manual = estado.ControlJugador(asiento) == kManual;
-    const Integer fase = estado.FaseApuesta;
+    const Integer fase = apuestas.FaseApuesta;
     if (!manual && (fase == kFasePrimeraRonda || fase == kFaseSegundaRonda)) {
         segunda = "Apuesta";
         std::swap(primera, segunda);
@@ -142,7 +143,7 @@ const FilaJuego& FilaPoker() {
         .reparto = {.recibe = Recibe},
         .entrada = {.clic = AlternaDescarte},
         .pintura = {.rotulo_continuar = RotuloContinuar},
-        .dinero = {.hay = true},
+        .dinero = {.hay = true, .reglas = {.bote = true}},
         .normas = {.encabezado = "Baraja Francesa",
                    .reglas = {Regla::Reparto, Regla::Baraja, Regla::Comodines, Regla::Ley,
                               Regla::RestoInicial, Regla::ApuestaSalida, Regla::ApuestaMaxima}},

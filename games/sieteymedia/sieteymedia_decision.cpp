@@ -218,10 +218,10 @@ void DecideBanca(const Criterio& banca) {
 void DecideSiete() {
     const Criterio quien = CriterioDelTurno();
     AnotaCartasALaVista();
-    if (estado.FaseApuesta == kFaseApuestas)
+    if (apuestas.FaseApuesta == kFaseApuestas)
         DecideApuesta(quien);
-    else if (estado.FaseApuesta == kFaseJuego && quien.asiento == estado.JugadorBanca)
+    else if (apuestas.FaseApuesta == kFaseJuego && quien.asiento == estado.JugadorBanca)
         DecideBanca(quien);
-    else if (estado.FaseApuesta == kFaseJuego)
+    else if (apuestas.FaseApuesta == kFaseJuego)
         DecideAsiento(quien);
 }

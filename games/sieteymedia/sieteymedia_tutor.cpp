@@ -57,7 +57,7 @@ void MuestraJugada() {
 void AconsejaSiete() {
     EmpiezaConsejo();
     DecideSiete();
-    if (estado.FaseApuesta == kFaseApuestas)
+    if (apuestas.FaseApuesta == kFaseApuestas)
         MuestraApuesta();
     else
         MuestraJugada();

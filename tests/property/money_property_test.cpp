@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "betting/bank.h"
+#include "betting/bet_state.h"
 #include "betting/money_repair.h"
 #include "betting/placing.h"
 #include "betting/prizes.h"
@@ -73,8 +74,8 @@ RC_GTEST_FIXTURE_PROP(DineroProp, ApostarYAnularDejaLaMesaComoEstaba, ()) {
         estado.JugadorBanca; // who bets is another: what the bank holds is the ceiling
     for (int pasos = Entre(1, 3); pasos > 0; --pasos)
         SiguienteAsiento(asiento);
-    estado.FaseApuesta = *rc::gen::elementOf(kFasesConApuesta);
-    const bool al_apostar = estado.FaseApuesta == kFaseApuestas;
+    apuestas.FaseApuesta = *rc::gen::elementOf(kFasesConApuesta);
+    const bool al_apostar = apuestas.FaseApuesta == kFaseApuestas;
     const EstadoJuego antes = estado;
     const EstadoApuestas apuestas_antes = apuestas;
     const int total = EnLaMesa(reglas);
@@ -112,7 +113,7 @@ RC_GTEST_FIXTURE_PROP(DineroProp, LoQueSeDevuelveLlegaYLoDemasSeQueda, ()) {
     PonMesa();
     const Integer asiento = Entre(1, 4), destino = Entre(1, 4);
     for (const Integer fase : kFasesConApuesta) {
-        estado.FaseApuesta = fase;
+        apuestas.FaseApuesta = fase;
         Apuesta(asiento, Entre(0, 200), kComoBlackJack);
     }
     const int total = EnLaMesa(kComoBlackJack);
@@ -131,7 +132,7 @@ RC_GTEST_FIXTURE_PROP(DineroProp, LosPremiosSumanElBoteYPagarloNoPierdeNiUnPunto
     PonMesa();
     for (int asiento = 1; asiento <= 4; ++asiento) {
         for (const Integer fase : kFasesConApuesta)
-            estado.Apuesta(asiento, 1, fase) = Entre(0, 60);
+            apuestas.Apuesta(asiento, 1, fase) = Entre(0, 60);
         if (*rc::gen::arbitrary<bool>())
             Tiene(asiento, 0);
         apuestas.PuestoJugador(asiento) = Entre(0, 4);
@@ -160,7 +161,7 @@ RC_GTEST_FIXTURE_PROP(DineroProp, RepararGuardaLaSumaQueLaMesaPuedeTener, ()) {
     for (int asiento = 1; asiento <= 4; ++asiento) {
         if (*rc::gen::arbitrary<bool>())
             Tiene(asiento, 0);
-        estado.Apuesta(asiento, 1, kFaseApuestas) = Entre(0, 100);
+        apuestas.Apuesta(asiento, 1, kFaseApuestas) = Entre(0, 100);
     }
     estado.EstadoJugador(Entre(1, 4)) = Entre(1, 2);
     estado.RestoInicial = Entre(5, 995);

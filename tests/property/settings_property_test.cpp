@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
+#include "betting/bet_state.h"
 #include "core/text.h"
 #include "storage/between_hands.h"
 #include "storage/settings_repair.h"
@@ -44,11 +45,11 @@ void PonAsientosAlAzar() {
         estado.ControlJugador(asiento) = Entre(1, 2);
         estado.CaracterJugador(asiento) = Entre(1, 3);
         estado.JuegosGanados(asiento) = Entre(0, 999);
-        estado.Apuesta(asiento, 1, 2) = Entre(0, 995);
+        apuestas.Apuesta(asiento, 1, 2) = Entre(0, 995);
     }
     for (int asiento = 0; asiento <= 4; ++asiento) {
         for (int d = 1; d <= 6; ++d)
-            estado.Fichas(asiento, d) = Entre(0, 60);
+            apuestas.Fichas(asiento, d) = Entre(0, 60);
     }
 }
 
@@ -156,9 +157,9 @@ RC_GTEST_FIXTURE_PROP(AjustesProp, DeUnaManoAMediasNoSeGuardaNada, ()) {
         SiguienteAsiento(estado.JugadorMano);
     estado.ManoEnCurso = true;
     for (int asiento = 0; asiento <= 4; ++asiento) {
-        estado.Fichas(asiento, 1) = Entre(0, 60);
-        estado.Apuesta(asiento, 1, 2) = Entre(0, 995);
-        estado.Apuesta(asiento, 1, 3) = Entre(0, 995);
+        apuestas.Fichas(asiento, 1) = Entre(0, 60);
+        apuestas.Apuesta(asiento, 1, 2) = Entre(0, 995);
+        apuestas.Apuesta(asiento, 1, 3) = Entre(0, 995);
     }
     PonRegistroAlAzar(estado.Juegos(estado.JuegosJugados));
     RC_ASSERT(GrabarIniJuego() == ErrorArchivo::Ninguno);
@@ -168,9 +169,9 @@ RC_GTEST_FIXTURE_PROP(AjustesProp, DeUnaManoAMediasNoSeGuardaNada, ()) {
     RC_ASSERT(estado.Juegos == antes.Juegos);
     for (int asiento = 0; asiento <= 4; ++asiento) {
         RC_ASSERT(RestoDe(asiento) == antes.RestoPrevio(asiento));
-        RC_ASSERT(estado.Apuesta(asiento, 1, 3) == 0);
+        RC_ASSERT(apuestas.Apuesta(asiento, 1, 3) == 0);
         if (asiento > 0)
-            RC_ASSERT(estado.Apuesta(asiento, 1, 2) == antes.ApuestaPrevia(asiento, 2));
+            RC_ASSERT(apuestas.Apuesta(asiento, 1, 2) == antes.ApuestaPrevia(asiento, 2));
     }
 }
 

@@ -1,5 +1,5 @@
-#include "betting/phases.h"
 #include "tests/support/bank_table.h"
+#include "betting/phases.h"
 
 #include <algorithm>
 
@@ -34,7 +34,7 @@ void MesaDeBanca(Integer juego) {
     estado.RestoInicial = 200;
     estado.ApuestaMaxima = 25;
     estado.JugadorBanca = 2;
-    estado.FaseApuesta = kFaseJuego;
+    apuestas.FaseApuesta = kFaseJuego;
     for (Integer asiento = 1; asiento <= 4; ++asiento) {
         estado.NivelJugador(asiento) = 100;
         estado.CaracterJugador(asiento) = kMedio;
@@ -72,7 +72,7 @@ void TocaJugar(Integer asiento) {
 }
 
 void Apuesta(Integer asiento, Integer serie, Integer puntos) {
-    estado.Apuesta(asiento, serie, 2) = puntos;
+    apuestas.Apuesta(asiento, serie, 2) = puntos;
 }
 
 void Azar(double azar) {

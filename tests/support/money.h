@@ -25,7 +25,7 @@ struct MesaConFichas : testing::Test {
         apuestas = {};
         estado.PasoSentido = 1;
         estado.SerieActual = 1;
-        estado.FaseApuesta = kFaseApuestas;
+        apuestas.FaseApuesta = kFaseApuestas;
         estado.ApuestaMaxima = 995;
     }
 
@@ -36,7 +36,7 @@ struct MesaConFichas : testing::Test {
     static void Juega(int asiento, int resto, int puesto, Integer fase = kFaseApuestas) {
         estado.NumCartas(asiento, 1) = 5;
         Tiene(asiento, resto);
-        estado.Apuesta(asiento, 1, fase) = static_cast<Integer>(puesto);
+        apuestas.Apuesta(asiento, 1, fase) = static_cast<Integer>(puesto);
     }
     // Has bet and thrown its cards in.
     static void SeRetira(int asiento, int resto, int puesto) {
@@ -63,7 +63,7 @@ struct MesaConFichas : testing::Test {
     static std::vector<int> FichasDe(int asiento) {
         std::vector<int> fichas;
         for (int d = 1; d <= kDenominaciones; ++d)
-            fichas.push_back(estado.Fichas(asiento, d));
+            fichas.push_back(apuestas.Fichas(asiento, d));
         return fichas;
     }
     static std::vector<int> Puestas(int asiento, int serie = 1) {

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <string>
 
+#include "betting/bet_state.h"
 #include "betting/chips.h"
 #include "core/game_state.h"
 #include "core/text.h"
@@ -88,13 +89,13 @@ inline std::string FalloDeDinero() {
     int total = 0;
     for (int asiento = 0; asiento <= 4; ++asiento) {
         for (int d = 1; d <= 6; ++d) {
-            if (estado.Fichas(asiento, d) < 0)
+            if (apuestas.Fichas(asiento, d) < 0)
                 return "Fichas";
         }
-        if (estado.RestoPrevio(asiento) != RestoDe(asiento))
+        if (apuestas.RestoPrevio(asiento) != RestoDe(asiento))
             return "RestoPrevio";
-        if (estado.Apuesta(asiento, 1, 2) < 0 ||
-            estado.Apuesta(asiento, 1, 2) != estado.ApuestaPrevia(asiento, 2))
+        if (apuestas.Apuesta(asiento, 1, 2) < 0 ||
+            apuestas.Apuesta(asiento, 1, 2) != apuestas.ApuestaPrevia(asiento, 2))
             return "Apuesta";
         total += RestoDe(asiento);
     }

@@ -3,6 +3,7 @@
 #include <array>
 #include <string>
 
+#include "betting/bet_state.h"
 #include "betting/chips.h"
 #include "core/game_state.h"
 #include "games/common/trick_state.h"
@@ -77,7 +78,7 @@ void BotonVerde(int vez) {
     estado.ManoEnCurso = caso.mano;
     estado.NombreJugador(4) = kNombreLargo;
     estado.ControlJugador(4) = caso.control;
-    estado.FaseApuesta = caso.fase;
+    apuestas.FaseApuesta = caso.fase;
     estado.SeriesJugador(4) = caso.series;
     estado.SerieActual = caso.series;
     PonCartas(4, 5, 0, kDescubierta);

@@ -1,6 +1,7 @@
 // Payments of the bank, and chips that leave a seat's bet.
 
 #include "betting/bank.h"
+#include "betting/bet_state.h"
 
 #include <gmock/gmock.h>
 
@@ -23,13 +24,13 @@ struct BancaTest : MesaConFichas {
         Tiene(1, 100);
     }
     static void Apuesta(Integer fase, int cantidad) {
-        estado.FaseApuesta = fase;
+        apuestas.FaseApuesta = fase;
         for (const int d : FichasParaApostar(1, static_cast<Integer>(cantidad)))
             AnotaFicha(1, d, kComoBlackJack);
     }
     static std::vector<int> Filas() {
-        return {estado.Apuesta(1, 1, kFaseApuestas), estado.Apuesta(1, 1, kFaseDoblar),
-                estado.Apuesta(1, 1, kFaseSeguro)};
+        return {apuestas.Apuesta(1, 1, kFaseApuestas), apuestas.Apuesta(1, 1, kFaseDoblar),
+                apuestas.Apuesta(1, 1, kFaseSeguro)};
     }
     std::vector<int> Rotulos() const {
         std::vector<int> rotulos;

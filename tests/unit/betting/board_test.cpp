@@ -1,5 +1,6 @@
 // What the bet board offers.
 
+#include "betting/bet_state.h"
 #include "betting/board.h"
 
 #include <gmock/gmock.h>
@@ -41,7 +42,7 @@ TEST_F(ApostadoraTest, Con12PuntosAnteUnaApuestaDe40SeVaConElResto) {
 
 TEST_F(ApostadoraTest, ConJustoLoQueFaltaSeVaConElResto) {
     Tiene(1, 30);
-    estado.Apuesta(1, 1, kFaseApuestas) = 10;
+    apuestas.Apuesta(1, 1, kFaseApuestas) = 10;
     apuestas.MaximaApuesta = 40;
     EXPECT_EQ(Botones(kComoPoker)[1], "Voy con mi resto");
     Tiene(1, 31);
@@ -51,7 +52,7 @@ TEST_F(ApostadoraTest, ConJustoLoQueFaltaSeVaConElResto) {
 
 TEST_F(ApostadoraTest, ConFichasPuestasSeFinalizaOSeAnula) {
     Tiene(1, 200);
-    estado.Apuesta(1, 1, kFaseApuestas) = 15;
+    apuestas.Apuesta(1, 1, kFaseApuestas) = 15;
     apuestas.ApuestaEnCurso = 15;
     apuestas.MaximaApuesta = 15;
     EXPECT_THAT(Botones(kComoPoker), ElementsAre("", "", "Finalizar apuesta", "Anular apostado"));
@@ -71,7 +72,7 @@ TEST_F(ApostadoraTest, ConBancaNoSeIgualaNiSePasa) {
 
 TEST_F(ApostadoraTest, NoBastaConMenosDeLaMaximaMientrasQuedenFichas) {
     Tiene(1, 200);
-    estado.Apuesta(1, 1, kFaseApuestas) = 10;
+    apuestas.Apuesta(1, 1, kFaseApuestas) = 10;
     apuestas.MaximaApuesta = 15;
     EXPECT_TRUE(ApuestaInsuficiente(1));
     Tiene(1, 0);

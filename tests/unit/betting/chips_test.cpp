@@ -26,7 +26,7 @@ std::vector<int> Fichas(const Tabla<Integer, 6>& tabla) {
 std::vector<int> FichasDe(int asiento) {
     std::vector<int> fichas;
     for (int d = 1; d <= 6; ++d)
-        fichas.push_back(estado.Fichas(asiento, d));
+        fichas.push_back(apuestas.Fichas(asiento, d));
     return fichas;
 }
 
@@ -49,25 +49,25 @@ protected:
 TEST_F(FichasTest, ElRestoSumaCadaFichaPorSuValor) {
     const std::array<Integer, 7> tiene{0, 3, 1, 2, 0, 4, 1};
     for (int d = 1; d <= 6; ++d)
-        estado.Fichas(2, d) = tiene[static_cast<std::size_t>(d)];
+        apuestas.Fichas(2, d) = tiene[static_cast<std::size_t>(d)];
     EXPECT_EQ(RestoDe(2), 3 + 2 + 10 + 80 + 50);
     EXPECT_EQ(RestoDe(1), 0);
 }
 
 TEST_F(FichasTest, ElRestoDeCeroEsElBote) {
-    estado.Fichas(kBote, 6) = 2;
-    estado.Fichas(4, 6) = 1;
+    apuestas.Fichas(kBote, 6) = 2;
+    apuestas.Fichas(4, 6) = 1;
     EXPECT_EQ(RestoDe(kBote), 100);
 }
 
 TEST_F(FichasTest, UnRestoDeMasDe16BitsEsUnDesbordamiento) {
-    estado.Fichas(3, 6) = 700;
+    apuestas.Fichas(3, 6) = 700;
     EXPECT_THROW(RestoDe(3), Desbordamiento);
 }
 
 TEST_F(FichasTest, LaApuestaTotalSumaSoloLasFases2y3y5) {
     for (int fase = 1; fase <= 5; ++fase)
-        estado.Apuesta(1, 2, fase) = static_cast<Integer>(fase * 10);
+        apuestas.Apuesta(1, 2, fase) = static_cast<Integer>(fase * 10);
     EXPECT_EQ(ApuestaTotal(1, 2), 20 + 30 + 50);
     EXPECT_EQ(ApuestaTotal(1, 1), 0);
 }

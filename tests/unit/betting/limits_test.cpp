@@ -1,5 +1,6 @@
 // What stands against one more chip.
 
+#include "betting/bet_state.h"
 #include "betting/limits.h"
 
 #include "tests/support/money.h"
@@ -20,8 +21,8 @@ TEST_F(LimitesTest, LaMaximaCuentaLoApostadoEnTodaLaMano) {
     estado.ApuestaMaxima = 25;
     Juega(1, 200, 5);
     Juega(2, 200, 5);
-    estado.Apuesta(1, 1, kFasePrimeraRonda) = 19;
-    estado.FaseApuesta = kFaseSegundaRonda;
+    apuestas.Apuesta(1, 1, kFasePrimeraRonda) = 19;
+    apuestas.FaseApuesta = kFaseSegundaRonda;
     EXPECT_EQ(Contra(kFichaDe1, kComoPoker), Rechazo::Ninguno);
     EXPECT_EQ(Contra(kFichaDe5, kComoPoker), Rechazo::Maxima);
 }
@@ -39,16 +40,16 @@ TEST_F(LimitesTest, EnBlackJackLaMaximaSoloObligaAlApostar) {
     estado.ApuestaMaxima = 25;
     Juega(1, 200, 25);
     EXPECT_EQ(Contra(kFichaDe1, kComoBlackJack), Rechazo::Maxima);
-    estado.FaseApuesta = kFaseDoblar;
+    apuestas.FaseApuesta = kFaseDoblar;
     EXPECT_EQ(Contra(kFichaDe20, kComoBlackJack), Rechazo::Ninguno);
-    estado.FaseApuesta = kFaseSeguro;
+    apuestas.FaseApuesta = kFaseSeguro;
     EXPECT_EQ(Contra(kFichaDe10, kComoBlackJack), Rechazo::Ninguno);
 }
 
 TEST_F(LimitesTest, EnBlackJackElTechoSonDoceMaximas) {
     estado.ApuestaMaxima = 25;
     Juega(1, 995, 295);
-    estado.FaseApuesta = kFaseDoblar;
+    apuestas.FaseApuesta = kFaseDoblar;
     EXPECT_EQ(Contra(kFichaDe5, kComoBlackJack), Rechazo::Ninguno);
     EXPECT_EQ(Contra(kFichaDe10, kComoBlackJack), Rechazo::RestoDeBanca);
     EXPECT_EQ(TechoDe(1, kComoBlackJack).puntos, 300);
@@ -68,7 +69,7 @@ TEST_F(LimitesTest, ConTodosLosRivalesSinFichasSoloSeIguala) {
     Juega(1, 100, 10, kFasePrimeraRonda);
     Juega(2, 0, 15, kFasePrimeraRonda);
     SeRetira(3, 80, 5); // who has thrown its cards in is no rival
-    estado.FaseApuesta = kFasePrimeraRonda;
+    apuestas.FaseApuesta = kFasePrimeraRonda;
     apuestas.MaximaApuesta = 15;
     EXPECT_TRUE(RivalesSinResto(1));
     EXPECT_EQ(Contra(kFichaDe5, kComoPoker), Rechazo::Ninguno);
@@ -80,7 +81,7 @@ TEST_F(LimitesTest, NadieApuestaMasDeLoQueAlcanzaElRivalMasRico) {
     Juega(2, 5, 15, kFasePrimeraRonda);
     Juega(3, 20, 10, kFasePrimeraRonda);
     SeRetira(4, 90, 5);
-    estado.FaseApuesta = kFasePrimeraRonda;
+    apuestas.FaseApuesta = kFasePrimeraRonda;
     apuestas.MaximaApuesta = 20;
     const Veredicto veredicto = JuzgaFicha(1, kFichaDe20, kComoPoker);
     EXPECT_EQ(veredicto.rechazo, Rechazo::RestoDeRival);
@@ -96,7 +97,7 @@ TEST_F(LimitesTest, DeDosRivalesIgualDeRicosCuentaElPrimero) {
 }
 
 TEST_F(LimitesTest, LaApuestaDeSalidaNoMiraALosRivales) {
-    estado.FaseApuesta = kFaseSalida;
+    apuestas.FaseApuesta = kFaseSalida;
     Juega(1, 100, 0);
     Juega(2, 0, 2);
     EXPECT_EQ(Contra(kFichaDe5, kComoPoker), Rechazo::Ninguno);
@@ -104,7 +105,7 @@ TEST_F(LimitesTest, LaApuestaDeSalidaNoMiraALosRivales) {
 
 TEST_F(LimitesTest, LaMaximaSeDiceAntesQueElRestoDeLosDemas) {
     estado.ApuestaMaxima = 25;
-    estado.FaseApuesta = kFasePrimeraRonda;
+    apuestas.FaseApuesta = kFasePrimeraRonda;
     Juega(1, 100, 20, kFasePrimeraRonda);
     Juega(2, 0, 20, kFasePrimeraRonda);
     apuestas.MaximaApuesta = 20;

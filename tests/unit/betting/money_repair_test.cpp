@@ -1,5 +1,6 @@
 // Money that a match cannot have, as a damaged file may tell of it.
 
+#include "betting/bet_state.h"
 #include "betting/money_repair.h"
 
 #include <gmock/gmock.h>
@@ -33,7 +34,7 @@ struct ReparaDineroTest : MesaConFichas {
     }
     static void PonApuestas(int cantidad) {
         for (int asiento = 1; asiento <= 4; ++asiento)
-            estado.Apuesta(asiento, 1, kFaseApuestas) = static_cast<Integer>(cantidad);
+            apuestas.Apuesta(asiento, 1, kFaseApuestas) = static_cast<Integer>(cantidad);
     }
     // The pot and the seats 1 to 4.
     static std::vector<int> Restos() {

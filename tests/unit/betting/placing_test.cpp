@@ -1,5 +1,6 @@
 // Chips placed and taken back.
 
+#include "betting/bet_state.h"
 #include "betting/placing.h"
 
 #include <gmock/gmock.h>
@@ -22,12 +23,12 @@ struct ColocarTest : MesaConFichas {
 };
 
 TEST_F(ColocarTest, UnaFichaDePokerVaAlBoteYElMontonSeReagrupa) {
-    estado.FaseApuesta = kFasePrimeraRonda;
-    estado.Apuesta(3, 1, kFaseSalida) = 2;
+    apuestas.FaseApuesta = kFasePrimeraRonda;
+    apuestas.Apuesta(3, 1, kFaseSalida) = 2;
     Tiene(3, 98);
     const FichaMovida movida = AnotaFicha(3, 2, kComoPoker);
     EXPECT_EQ(movida, (FichaMovida{2, {3}, {kBote}, 4})); // the label counts the ante and this chip
-    EXPECT_EQ(estado.Apuesta(3, 1, kFasePrimeraRonda), 2);
+    EXPECT_EQ(apuestas.Apuesta(3, 1, kFasePrimeraRonda), 2);
     EXPECT_EQ(apuestas.ApuestaEnCurso, 2);
     EXPECT_THAT(FichasDe(3), ElementsAre(2, 2, 2, 1, 1, 1)); // 96 points
     EXPECT_THAT(FichasDe(kBote), ElementsAre(0, 1, 0, 0, 0, 0));
@@ -39,8 +40,8 @@ TEST_F(ColocarTest, ConBancaLaFichaQuedaDelanteDelAsiento) {
     estado.SerieActual = 3;
     const FichaMovida movida = AnotaFicha(2, 4, kComoSieteYMedia);
     EXPECT_EQ(movida, (FichaMovida{4, {2}, {2, true}, 10}));
-    EXPECT_EQ(estado.Apuesta(2, 3, kFaseApuestas), 10);
-    EXPECT_EQ(estado.Apuesta(2, 1, kFaseApuestas), 0);
+    EXPECT_EQ(apuestas.Apuesta(2, 3, kFaseApuestas), 10);
+    EXPECT_EQ(apuestas.Apuesta(2, 1, kFaseApuestas), 0);
     EXPECT_THAT(Puestas(2, 3), ElementsAre(4));
     EXPECT_EQ(RestoDe(kBote), 0);
 }
@@ -66,7 +67,7 @@ TEST_F(ColocarTest, Colocar0NoColocaNada) {
 TEST_F(ColocarTest, QuienTieneMenosQueLaApuestaDeSalidaPoneTodoYVaConSuResto) {
     Tiene(4, 3);
     Coloca(4, 5, kComoPoker);
-    EXPECT_EQ(estado.Apuesta(4, 1, kFaseSalida), 3);
+    EXPECT_EQ(apuestas.Apuesta(4, 1, kFaseSalida), 3);
     EXPECT_EQ(RestoDe(4), 0);
     EXPECT_EQ(RestoDe(kBote), 3);
 }
@@ -89,7 +90,7 @@ TEST_F(ColocarTest, AnularDevuelveCadaFichaDeLaUltimaALaPrimera) {
 TEST_F(ColocarTest, EnPokerLoAnuladoSaleDelBote) {
     Tiene(kBote, 20);
     Tiene(1, 60);
-    estado.FaseApuesta = kFasePrimeraRonda;
+    apuestas.FaseApuesta = kFasePrimeraRonda;
     Coloca(1, 12, kComoPoker);
     EXPECT_EQ(RestoDe(kBote), 32);
     AnulaApuestas(1, kComoPoker, Anota());
@@ -100,16 +101,16 @@ TEST_F(ColocarTest, EnPokerLoAnuladoSaleDelBote) {
 
 TEST_F(ColocarTest, AnularNoTocaLoQueSeApostoEnOtroTurno) {
     Tiene(1, 60);
-    estado.FaseApuesta = kFaseSalida;
+    apuestas.FaseApuesta = kFaseSalida;
     Coloca(1, 5, kComoPoker);
-    estado.FaseApuesta = kFasePrimeraRonda;
+    apuestas.FaseApuesta = kFasePrimeraRonda;
     EmpiezaTurnoDeApuesta(1);
     Coloca(1, 10, kComoPoker);
     EmpiezaTurnoDeApuesta(1); // raised by another: a second turn in the round
     Coloca(1, 7, kComoPoker);
     AnulaApuestas(1, kComoPoker, Anota());
-    EXPECT_EQ(estado.Apuesta(1, 1, kFaseSalida), 5);
-    EXPECT_EQ(estado.Apuesta(1, 1, kFasePrimeraRonda), 10);
+    EXPECT_EQ(apuestas.Apuesta(1, 1, kFaseSalida), 5);
+    EXPECT_EQ(apuestas.Apuesta(1, 1, kFasePrimeraRonda), 10);
     EXPECT_EQ(RestoDe(1), 45);
     EXPECT_EQ(RestoDe(kBote), 15);
 }

@@ -1,5 +1,6 @@
 // Who gets what of the pot.
 
+#include "betting/bet_state.h"
 #include "betting/prizes.h"
 
 #include <gmock/gmock.h>
@@ -123,8 +124,8 @@ TEST_F(PremiosTest, LosPremiosDeAntesSeOlvidanYSinGanadorNoHayNinguno) {
 }
 
 TEST_F(PremiosTest, PagarElBoteEnsenaUnaFichaPorGanadorYClaseYPagaElPremio) {
-    estado.Fichas(kBote, 1) = 3;
-    estado.Fichas(kBote, 5) = 2;
+    apuestas.Fichas(kBote, 1) = 3;
+    apuestas.Fichas(kBote, 5) = 2;
     Tiene(1, 4);
     apuestas.PremioJugador(1) = 22;
     apuestas.PremioJugador(3) = 21;

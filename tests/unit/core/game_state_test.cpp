@@ -1,3 +1,4 @@
+#include "betting/bet_state.h"
 #include "core/game_state.h"
 
 #include <gtest/gtest.h>
@@ -144,11 +145,11 @@ TEST_F(EstadoTest, LasReglasPorDefecto) {
 }
 
 TEST_F(EstadoTest, ElBoteEsLaFilaCeroDelDinero) {
-    estado.Fichas(0, 6) = 3;
-    EXPECT_NO_THROW(estado.Apuesta(0, 4, 5));
-    EXPECT_NO_THROW(estado.ApuestaPrevia(0, 5));
-    EXPECT_NO_THROW(estado.RestoPrevio(0));
-    EXPECT_THROW(estado.Fichas(5, 1), IndiceFuera);
+    apuestas.Fichas(0, 6) = 3;
+    EXPECT_NO_THROW(apuestas.Apuesta(0, 4, 5));
+    EXPECT_NO_THROW(apuestas.ApuestaPrevia(0, 5));
+    EXPECT_NO_THROW(apuestas.RestoPrevio(0));
+    EXPECT_THROW(apuestas.Fichas(5, 1), IndiceFuera);
 }
 
 TEST(RegistroJuegoTest, BorradoEsComoUnoNuevo) {

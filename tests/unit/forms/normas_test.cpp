@@ -1,5 +1,6 @@
 // The form Normas: what it shows for each game, its interlocks, its numbers, the change of game.
 
+#include "betting/bet_state.h"
 #include "forms/normas.h"
 #include "forms/refresh.h"
 
@@ -304,14 +305,14 @@ TEST_F(NormasTest, TheMoneyOfAHandInPlayGoesIntoTheOldFileAsTheHandBegan) {
         AsignarResto(asiento, 200);
     AnotaDineroPrevio();
     AsignarResto(1, 150);
-    estado.Apuesta(1, 1, 2) = 50;
+    apuestas.Apuesta(1, 1, 2) = 50;
     mesa.Responde(kAceptar);
     normas::PulsaJuego(kTute);
     estado.JuegoActivo = kSieteYMedia;
     LeerIniJuego();
     EXPECT_TRUE(estado.PartidaEnCurso);
     EXPECT_EQ(RestoDe(1), 200);
-    EXPECT_EQ(estado.Apuesta(1, 1, 2), 0);
+    EXPECT_EQ(apuestas.Apuesta(1, 1, 2), 0);
 }
 
 TEST_F(NormasTest, AManualDealIsOverWithItsGame) {

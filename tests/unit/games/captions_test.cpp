@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "betting/bet_state.h"
 #include "core/game_state.h"
 #include "table/game_row.h"
 
@@ -32,7 +33,7 @@ protected:
     void TearDown() override { estado = {}; }
 
     static Rotulo DeJuego(Integer juego, Integer fase) {
-        estado.FaseApuesta = fase;
+        apuestas.FaseApuesta = fase;
         Rotulo rotulo{estado.NombreJugador(estado.JugadorActual), "automático"};
         const FilaJuego& fila = *FilaDe(juego);
         if (fila.pintura.rotulo_continuar != nullptr)

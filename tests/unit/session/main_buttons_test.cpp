@@ -1,3 +1,4 @@
+#include "betting/bet_state.h"
 #include "session/main_buttons.h"
 #include "table/button_column.h"
 
@@ -353,12 +354,12 @@ TEST_F(SalidaEnCualquierMomento, EnElPokerElDineroVuelveAlDeElPrincipioDeLaMano)
     AsignarResto(1, 150);
     AsignarResto(2, 120);
     AsignarResto(0, 130);
-    estado.Apuesta(1, 1, 2) = 50;
+    apuestas.Apuesta(1, 1, 2) = 50;
     estado.ManoEnCurso = true;
     GuardarYSalir();
     SeReanuda(3, 2);
     for (int asiento = 1; asiento <= 4; ++asiento)
         EXPECT_EQ(RestoDe(asiento), 200);
     EXPECT_EQ(RestoDe(0), 0);
-    EXPECT_EQ(estado.Apuesta(1, 1, 2), 0);
+    EXPECT_EQ(apuestas.Apuesta(1, 1, 2), 0);
 }

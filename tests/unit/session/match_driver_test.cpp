@@ -1,3 +1,4 @@
+#include "betting/bet_state.h"
 #include "session/match_driver.h"
 #include "table/button_column.h"
 #include "table/controls.h"
@@ -86,7 +87,7 @@ TEST_F(Partida, CadaJuegoYCadaNumeroTienenSuNombre) {
                                            estado.NombreNumero.end());
     EXPECT_THAT(numeros,
                 testing::ElementsAre("Una", "Dos", "Tres", "Cuatro", "Cinco", "Seis", "Siete"));
-    const std::vector<Integer> fichas(estado.ValorFicha.begin() + 1, estado.ValorFicha.end());
+    const std::vector<Integer> fichas(apuestas.ValorFicha.begin() + 1, apuestas.ValorFicha.end());
     EXPECT_THAT(fichas, testing::ElementsAre(1, 2, 5, 10, 20, 50));
 }
 
@@ -103,7 +104,7 @@ TEST_F(Partida, LasTablasDeCadaSesion) {
     EXPECT_EQ(estado.PasoSentido, -1);
     EXPECT_EQ(estado.TextoOrdenar(4), "Ordenar cartas manualmente");
     EXPECT_EQ(estado.TextoOrdenar(5), "Ordenar cartas automáticamente");
-    EXPECT_EQ(estado.ValorFicha(6), 50);
+    EXPECT_EQ(apuestas.ValorFicha(6), 50);
     EXPECT_EQ(estado.NombreNumero(7), "Siete");
     EXPECT_EQ(estado.NombreJuego(65), "Siete y media");
     EXPECT_EQ(estado.TituloSelector(33), " Carácter del jugador  ");
@@ -187,14 +188,14 @@ TEST_F(Partida, LoQueLaPartidaGuardadaNoDiceEmpiezaDeNuevo) {
     estado.AzarTurno = 0.9F;
     estado.GanadorBaza = 2;
     TodoSolo();
-    estado.ModoOrdenar = estado.ModoApuesta = estado.ManoEnCurso = true;
+    estado.ModoOrdenar = apuestas.ModoApuesta = estado.ManoEnCurso = true;
     PonMano(1, {{kOros, 1}});
     ASSERT_EQ(GrabarIniJuego(), ErrorArchivo::Ninguno);
     IniciarSesion();
     EXPECT_EQ(estado.AzarTurno, 0);
     EXPECT_EQ(estado.GanadorBaza, 0);
     EXPECT_FALSE(estado.ModoOrdenar);
-    EXPECT_FALSE(estado.ModoApuesta);
+    EXPECT_FALSE(apuestas.ModoApuesta);
     EXPECT_FALSE(estado.ManoEnCurso);
     EXPECT_THAT(ManoDe(1), IsEmpty());
 }

@@ -1,5 +1,6 @@
 // The file of a game as it is written, column by column, and what of a hand in play goes into it.
 
+#include "betting/bet_state.h"
 #include "storage/settings_layout.h"
 
 #include <gmock/gmock.h>
@@ -55,8 +56,8 @@ TEST_F(AjustesTest, UnaPartidaDePokerSeEscribeEnSusColumnas) {
     AsignarResto(kBote, 5);
     AsignarResto(1, 100);
     AsignarResto(4, 88);
-    estado.Apuesta(1, 1, 2) = 45;
-    estado.Apuesta(4, 1, 2) = 5;
+    apuestas.Apuesta(1, 1, 2) = 45;
+    apuestas.Apuesta(4, 1, 2) = 5;
     estado.JuegosGanados(4) = 1;
     RegistroJuego& registro = estado.Juegos(1);
     registro.Inicio = "Íñigo";
@@ -187,12 +188,12 @@ TEST_F(AjustesTest, DeUnaManoAMediasSeGuardaElDineroDelPrincipio) {
         AsignarResto(asiento, 200);
     AsignarResto(kBote, 20);
     for (int asiento = 1; asiento <= 4; ++asiento)
-        estado.Apuesta(asiento, 1, 2) = 5;
+        apuestas.Apuesta(asiento, 1, 2) = 5;
     AnotaDineroPrevio();
     AsignarResto(1, 150); // bets of the hand in play
     AsignarResto(kBote, 70);
-    estado.Apuesta(1, 1, 2) = 10;
-    estado.Apuesta(1, 1, 3) = 45;
+    apuestas.Apuesta(1, 1, 2) = 10;
+    apuestas.Apuesta(1, 1, 3) = 45;
     const EstadoJuego antes = estado;
     const auto lineas = JuegoGrabado();
     EXPECT_TRUE(estado == antes);
@@ -206,8 +207,8 @@ TEST_F(AjustesTest, DeUnaManoAMediasSeGuardaElDineroDelPrincipio) {
     LeerIniJuego();
     EXPECT_EQ(RestoDe(kBote), 20);
     EXPECT_EQ(RestoDe(1), 200);
-    EXPECT_EQ(estado.Apuesta(1, 1, 2), 5);
-    EXPECT_EQ(estado.Apuesta(1, 1, 3), 0);
+    EXPECT_EQ(apuestas.Apuesta(1, 1, 2), 5);
+    EXPECT_EQ(apuestas.Apuesta(1, 1, 3), 0);
 }
 
 // A game without money has none when the hand begins.
@@ -216,7 +217,7 @@ TEST_F(AjustesTest, SinDineroAlEmpezarLaManoSeGuardaElQueHay) {
     estado.JuegosJugados = 2;
     estado.JugadorMano = 1;
     AsignarResto(3, 5);
-    estado.Apuesta(3, 1, 2) = 7;
+    apuestas.Apuesta(3, 1, 2) = 7;
     const auto lineas = JuegoGrabado();
     EXPECT_EQ(Columnas(lineas[1], 37, 12), "010200000000");
     EXPECT_EQ(Columnas(lineas[2], 15, 7), "0007000");
@@ -231,7 +232,7 @@ TEST_F(AjustesTest, UnaManoDePokerSinApuestasAcabadaGuardaElBoteConSusApuestas) 
     AnotaDineroPrevio();
     for (int asiento = 1; asiento <= 4; ++asiento) {
         AsignarResto(asiento, 195);
-        estado.Apuesta(asiento, 1, 2) = 5;
+        apuestas.Apuesta(asiento, 1, 2) = 5;
     }
     AsignarResto(kBote, 20);
     sesion.mano_apuntada = true;
@@ -241,14 +242,14 @@ TEST_F(AjustesTest, UnaManoDePokerSinApuestasAcabadaGuardaElBoteConSusApuestas) 
     EXPECT_EQ(estado.JuegosJugados, 1);
     EXPECT_EQ(RestoDe(kBote), 20);
     EXPECT_EQ(RestoDe(2), 195);
-    EXPECT_EQ(estado.Apuesta(2, 1, 2), 5);
+    EXPECT_EQ(apuestas.Apuesta(2, 1, 2), 5);
 }
 
 TEST_F(AjustesTest, MasDe99FichasDeUnaClaseSeGuardanAgrupadasSinPerderUnPunto) {
     mesa.Empieza(kPoker);
-    estado.Fichas(kBote, 2) = 131; // antes of four, hand after hand
-    estado.Fichas(kBote, 1) = 3;
-    estado.Fichas(4, 6) = 99;
+    apuestas.Fichas(kBote, 2) = 131; // antes of four, hand after hand
+    apuestas.Fichas(kBote, 1) = 3;
+    apuestas.Fichas(4, 6) = 99;
     const auto lineas = JuegoGrabado();
     EXPECT_EQ(Columnas(lineas[1], 1, 12), "000001010005"); // 265 = 5 + 10 + 250
     EXPECT_EQ(Columnas(lineas[1], 49, 12), "000000000099");

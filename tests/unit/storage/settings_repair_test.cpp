@@ -1,5 +1,6 @@
 // What reading a file of a game makes of values that cannot be.
 
+#include "betting/bet_state.h"
 #include "storage/settings_repair.h"
 
 #include <gmock/gmock.h>
@@ -175,10 +176,10 @@ TEST_F(AjustesTest, LasFichasYApuestasNegativasSonNinguna) {
             std::string(21, '0') + "\n" + RegistroDe("Ana", "    0") + "\n" +
             RegistroDe("Eva", "  -45"));
     EXPECT_THAT(mesa.Mensajes(), IsEmpty());
-    EXPECT_EQ(estado.Fichas(kBote, 1), 0);
-    EXPECT_EQ(estado.Fichas(kBote, 2), 0);
-    EXPECT_EQ(estado.Fichas(kBote, 3), 5);
-    EXPECT_EQ(estado.Apuesta(1, 1, 2), 0);
+    EXPECT_EQ(apuestas.Fichas(kBote, 1), 0);
+    EXPECT_EQ(apuestas.Fichas(kBote, 2), 0);
+    EXPECT_EQ(apuestas.Fichas(kBote, 3), 5);
+    EXPECT_EQ(apuestas.Apuesta(1, 1, 2), 0);
     EXPECT_EQ(estado.JuegosGanados(1), 0);
     EXPECT_EQ(estado.Juegos(2).Total, -45);
 }
@@ -190,7 +191,7 @@ TEST_F(AjustesTest, MasDineroDelQueCabeEnUnaCantidadSeRepartePorIgual) {
     EXPECT_EQ(RestoDe(kBote), 0);
     for (int asiento = 1; asiento <= 4; ++asiento)
         EXPECT_EQ(RestoDe(asiento), 200);
-    EXPECT_EQ(estado.RestoPrevio(1), 200);
+    EXPECT_EQ(apuestas.RestoPrevio(1), 200);
 }
 
 TEST_F(AjustesTest, MasApuestasDeLasQueCabenEnUnaCantidadSonNinguna) {
@@ -201,8 +202,8 @@ TEST_F(AjustesTest, MasApuestasDeLasQueCabenEnUnaCantidadSonNinguna) {
             "9999000" +
             "\n" + RegistroDe("Ana", "    0") + "\n" + RegistroDe("Eva", "    0"));
     EXPECT_THAT(mesa.Mensajes(), IsEmpty());
-    EXPECT_EQ(estado.Apuesta(2, 1, 2), 0);
-    EXPECT_EQ(estado.ApuestaPrevia(2, 2), 0);
+    EXPECT_EQ(apuestas.Apuesta(2, 1, 2), 0);
+    EXPECT_EQ(apuestas.ApuestaPrevia(2, 2), 0);
 }
 
 TEST_F(AjustesTest, UnNumeroDeJuegosNegativoEsNinguno) {

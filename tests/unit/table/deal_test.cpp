@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "betting/bet_state.h"
 #include "core/session_state.h"
 #include "table/deal.h"
 #include "table/deck.h"
@@ -104,7 +105,7 @@ TEST_F(Reparto, EnElPokerQuienNoTieneRestoNoRecibeYLaVueltaAcabaEnElMano) {
     Juega(kPoker);
     estado.ApuestaSalida = 0;
     for (int asiento : {1, 3, 4})
-        estado.Fichas(asiento, 4) = 2;
+        apuestas.Fichas(asiento, 4) = 2;
     ASSERT_TRUE(Repartir());
     EXPECT_EQ(estado.NumCartas(2, 1), 0);
     for (int asiento : {1, 3, 4})
@@ -115,7 +116,7 @@ TEST_F(Reparto, EnElPokerQuienNoTieneRestoNoRecibeYLaVueltaAcabaEnElMano) {
 TEST_F(Reparto, EnSieteYMediaLaCartaVaTapada) {
     Juega(kSieteYMedia);
     for (int asiento = 1; asiento <= 4; ++asiento)
-        estado.Fichas(asiento, 4) = 2;
+        apuestas.Fichas(asiento, 4) = 2;
     ASSERT_TRUE(Repartir());
     EXPECT_EQ(estado.NumCartas(2, 1), 1);
     EXPECT_EQ(estado.Mano(2, 1, 1, kTapada), 1);
@@ -127,7 +128,7 @@ TEST_F(Reparto, EnElBlackJackElMazoSigueDeManoEnManoYLaBancaTieneUnaCarta) {
     Juega(kBlackJack);
     estado.JugadorBanca = 2;
     for (int asiento : {1, 3, 4})
-        estado.Apuesta(asiento, 1, 2) = 5;
+        apuestas.Apuesta(asiento, 1, 2) = 5;
     Barajar();
     estado.CartasEnMazo = 100;
     estado.PosicionMazo = 213;
@@ -142,7 +143,7 @@ TEST_F(Reparto, EnElBlackJackElMazoQueSeAcabaVuelveEnteroAMitadDelReparto) {
     Juega(kBlackJack);
     estado.JugadorBanca = 2;
     for (int asiento : {1, 3, 4})
-        estado.Apuesta(asiento, 1, 2) = 5;
+        apuestas.Apuesta(asiento, 1, 2) = 5;
     Barajar();
     estado.CartasEnMazo = 3;
     estado.PosicionMazo = 310;

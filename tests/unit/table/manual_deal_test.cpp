@@ -1,6 +1,7 @@
 // The manual deal, by mouse. At 800 by 600 the Spanish spread begins at (181, 204): 29 pixels a column and 48
 // a row.
 
+#include "betting/bet_state.h"
 #include "table/button_column.h"
 #include "table/manual_deal.h"
 #include "table/manual_spread.h"
@@ -150,7 +151,7 @@ TEST_F(RepartoAMano, CadaPasoDeUnaCartaSuenaYSePinta) {
 
 TEST_F(RepartoAMano, CadaCartaSeExtiendeConSuPausaYLosComodinesConOtra) {
     estado.ComodinesJuego = 3;
-    estado.Fichas(3, 4) = 2;
+    apuestas.Fichas(3, 4) = 2;
     Juega(kPoker);
     EmpiezaTraza();
     Extendido();
@@ -355,7 +356,7 @@ TEST_F(RepartoAMano, OtraBarajaEnLasNormasExtiendeLaNueva) {
     estado.ApuestaSalida = 0;
     Juega(kPoker);
     for (int asiento = 1; asiento <= 4; ++asiento)
-        estado.Fichas(asiento, 4) = 2;
+        apuestas.Fichas(asiento, 4) = 2;
     p.formas = {Forma::Normas};
     p.al_abrir = [](Forma) {
         estado.CartasBaraja = 6;
@@ -370,8 +371,8 @@ TEST_F(RepartoAMano, OtraBarajaEnLasNormasExtiendeLaNueva) {
 TEST_F(RepartoAMano, EnElPokerRecibeQuienTieneResto) {
     estado.ApuestaSalida = 0;
     Juega(kPoker);
-    estado.Fichas(3, 4) = 2;
-    estado.Fichas(4, 4) = 2;
+    apuestas.Fichas(3, 4) = 2;
+    apuestas.Fichas(4, 4) = 2;
     Extendido();
     EXPECT_EQ(estado.JugadoresEnMano, 2);
     Da({kOros, 1}, 1);
@@ -382,7 +383,7 @@ TEST_F(RepartoAMano, EnElPokerRecibeQuienTieneResto) {
 
 TEST_F(RepartoAMano, EnSieteYMediaLaCartaSeDaTapada) {
     Juega(kSieteYMedia);
-    estado.Fichas(3, 4) = 2;
+    apuestas.Fichas(3, 4) = 2;
     Extendido();
     Da({kOros, 1}, 3);
     EXPECT_EQ(estado.Mano(3, 1, 1, kTapada), 1);
@@ -392,7 +393,7 @@ TEST_F(RepartoAMano, UnComodinSeDaComoComodin) {
     estado.ComodinesJuego = 3;
     estado.ApuestaSalida = 0;
     Juega(kPoker);
-    estado.Fichas(3, 4) = 2;
+    apuestas.Fichas(3, 4) = 2;
     Extendido();
     Da({kComodin, 2}, 3);
     EXPECT_EQ(ManoDe(3), (std::vector<Carta>{{kComodin, 92}}));

@@ -30,7 +30,7 @@ struct DecisionBlackJack : testing::Test {
     }
     static void Banca(Integer valor) { PonSerie(2, 1, {{kOros, valor}}); }
     static Integer ApuestaCon(double azar) {
-        estado.FaseApuesta = kFaseApuestas;
+        apuestas.FaseApuesta = kFaseApuestas;
         Azar(azar);
         DecideBlackJack();
         return apuestas.ApuestaPropuesta;
@@ -171,7 +171,7 @@ TEST_F(DecisionBlackJack, EnElJuegoLaApuestaPropuestaQuedaComoEstaba) {
 
 TEST_F(DecisionBlackJack, FueraDeApuestasYJuegoNoDecideNada) {
     Mano({10, 10});
-    estado.FaseApuesta = 5;
+    apuestas.FaseApuesta = 5;
     DecideBlackJack();
     EXPECT_EQ(apuestas.ApuestaPropuesta, 0);
     EXPECT_FALSE(series.ConsejoServido);

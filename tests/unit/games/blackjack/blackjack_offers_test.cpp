@@ -1,3 +1,4 @@
+#include "betting/bet_state.h"
 #include "games/blackjack/blackjack_offers.h"
 
 #include <gtest/gtest.h>
@@ -55,7 +56,7 @@ TEST_F(OfertasBlackJack, ContraUnAsDeLaBancaNoSeDobla) {
 
 TEST_F(OfertasBlackJack, DoblarCuestaLaApuestaSinElSeguro) {
     PonSerie(4, 1, {{kOros, 5}, {kCopas, 6}});
-    estado.Apuesta(4, 1, 5) = 10;
+    apuestas.Apuesta(4, 1, 5) = 10;
     AsignarResto(4, 21);
     EXPECT_TRUE(OfreceDoblar());
     AsignarResto(4, 20);
@@ -73,7 +74,7 @@ TEST_F(OfertasBlackJack, UnDiezYUnReySePuedenAbrir) {
 
 TEST_F(OfertasBlackJack, AbrirCuestaTambienElSeguro) {
     PonSerie(4, 1, {{kOros, 8}, {kCopas, 8}});
-    estado.Apuesta(4, 1, 5) = 10;
+    apuestas.Apuesta(4, 1, 5) = 10;
     AsignarResto(4, 30);
     EXPECT_FALSE(OfreceAbrir());
     AsignarResto(4, 31);

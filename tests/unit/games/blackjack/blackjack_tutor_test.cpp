@@ -6,9 +6,10 @@
 #include <string>
 #include <vector>
 
+#include "betting/bet_state.h"
 #include "betting/chips.h"
-#include "table/button_column.h"
 #include "betting/phases.h"
+#include "table/button_column.h"
 #include "tests/support/bank_table.h"
 #include "tests/support/live_table.h"
 
@@ -29,7 +30,7 @@ struct TutorBlackJack : MesaViva {
         TocaJugar(4);
         estado.NivelJugador(4) = 10;
         estado.CaracterJugador(4) = kMedio;
-        estado.FaseApuesta = kFaseJuego;
+        apuestas.FaseApuesta = kFaseJuego;
         estado.EsperandoJugada = true;
         PonSerie(2, 1, {{kOros, 6}});
         Azar(0.9);
@@ -60,7 +61,7 @@ Lineas Primeras(Lineas lineas) {
 } // namespace
 
 TEST_F(TutorBlackJack, EnLasApuestasDiceLaSumaEnVerde) {
-    estado.FaseApuesta = kFaseApuestas;
+    apuestas.FaseApuesta = kFaseApuestas;
     Aconseja();
     EXPECT_EQ(p.anuncios, Lineas{"Jugador4: Apostar 10"});
     EXPECT_EQ(TrazaDe("Sonido"), (Lineas{"Sonido(1, 12)", "Sonido(1, 12)"}));

@@ -1,3 +1,4 @@
+#include "betting/bet_state.h"
 #include "games/common/hands.h"
 #include "games/game_rows.h"
 #include "table/button_column.h"
@@ -78,7 +79,7 @@ TEST_F(Manos, LaManoAnteriorSeBorra) {
     estado.JugadoresEnMano = 1;
     estado.Mano(1, 1, 12, kPalo) = kBastos;
     estado.RotuloSerie(1, 1) = "Paso";
-    estado.Apuesta(1, 1, 2) = 50;
+    apuestas.Apuesta(1, 1, 2) = 50;
     bazas.CartaJugada(kOros, 5) = 2;
     bazas.RegistroBazas(6, 1) = 1;
     bazas.TantosJugador(2) = 30;
@@ -101,7 +102,7 @@ TEST_F(Manos, LaManoAnteriorSeBorra) {
     EXPECT_EQ(estado.JugadoresEnMano, 4);
     EXPECT_EQ(estado.Mano(1, 1, 12, kPalo), kSinCarta);
     EXPECT_EQ(estado.RotuloSerie(1, 1), "");
-    EXPECT_EQ(estado.Apuesta(1, 1, 2), 0);
+    EXPECT_EQ(apuestas.Apuesta(1, 1, 2), 0);
     EXPECT_EQ(bazas.CartaJugada(kOros, 5), 0);
     EXPECT_EQ(bazas.RegistroBazas(6, 1), 0);
     EXPECT_EQ(bazas.TantosJugador(2), Currency(0));

@@ -64,13 +64,13 @@ TEST_F(AbrirSerie, LaNuevaEsLaUltimaAunqueSeAbraLaPrimera) {
 TEST_F(AbrirSerie, EnElBlackJackLaNuevaLlevaLaMismaApuestaConSuSeguro) {
     Turno(kBlackJack, {{kOros, 8}, {kCopas, 8}});
     Apuesta(4, 1, 15);
-    estado.Apuesta(4, 1, 5) = 7;
+    apuestas.Apuesta(4, 1, 5) = 7;
     Puestas(1, {4, 3, 3, 2});
     AbreSerie();
     EXPECT_EQ(ApuestaTotal(4, 1), 22);
-    EXPECT_EQ(estado.Apuesta(4, 2, 2), 15);
-    EXPECT_EQ(estado.Apuesta(4, 2, 3), 0);
-    EXPECT_EQ(estado.Apuesta(4, 2, 5), 7);
+    EXPECT_EQ(apuestas.Apuesta(4, 2, 2), 15);
+    EXPECT_EQ(apuestas.Apuesta(4, 2, 3), 0);
+    EXPECT_EQ(apuestas.Apuesta(4, 2, 5), 7);
     EXPECT_EQ(apuestas.NumFichasPuestas(4, 2), 4);
     EXPECT_EQ(apuestas.FichasPuestas(4, 2, 1), 4);
     EXPECT_EQ(apuestas.FichasPuestas(4, 2, 4), 2);

@@ -1,5 +1,6 @@
 // The cards of the games with a bank under the mouse: a covered card may be turned.
 
+#include "betting/bet_state.h"
 #include "games/common/series_view.h"
 
 #include <gtest/gtest.h>
@@ -40,7 +41,7 @@ TEST_F(MesaDeSeries, SoloLaCartaTapadaSePuedeVoltear) {
     Turno(kSieteYMedia, {{kOros, 5}, {kCopas, 1}});
     EXPECT_EQ(Sobre(1), Puntero::Voltear);
     EXPECT_EQ(Sobre(2), Puntero::Flecha);
-    estado.ModoApuesta = true;
+    apuestas.ModoApuesta = true;
     EXPECT_EQ(Sobre(1), Puntero::Flecha);
 }
 

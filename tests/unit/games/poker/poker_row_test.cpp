@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "betting/bet_state.h"
 #include "core/random.h"
 #include "table/deal.h"
 #include "table/game_row.h"
@@ -88,7 +89,7 @@ TEST_F(MesaDePoker, UnClicLevantaLaCartaYOtroLaBaja) {
     p.UsaLienzosRegistrados();
     PonMano(4, {{kOros, 7}, {kOros, 8}, {kOros, 9}, {kCopas, 1}, {kCopas, 9}});
     ManoEmpezada(4);
-    estado.FaseApuesta = 4;
+    apuestas.FaseApuesta = 4;
     estado.EligeCarta = true;
     estado.EsperandoJugada = true;
     const Punto carta = SobreCarta(4, 2);
@@ -106,7 +107,7 @@ TEST_F(MesaDePoker, EnLasApuestasUnClicNoLevantaNada) {
     PonMano(4, {{kOros, 7}, {kOros, 8}, {kOros, 9}, {kCopas, 1}, {kCopas, 9}});
     ManoEmpezada(4);
     estado.EligeCarta = true;
-    estado.ModoApuesta = true;
+    apuestas.ModoApuesta = true;
     const Punto carta = SobreCarta(4, 2);
     Clic(carta.x, carta.y);
     EXPECT_EQ(estado.Mano(4, 1, 2, kAltura), kEnLinea);

@@ -4,8 +4,8 @@
 
 #include "betting/bet_state.h"
 #include "betting/chips.h"
-#include "games/common/trick_state.h"
 #include "betting/phases.h"
+#include "games/common/trick_state.h"
 #include "tests/support/bank_table.h"
 
 using namespace prueba;
@@ -34,7 +34,7 @@ struct DecisionSiete : testing::Test {
 struct ApuestaSiete : DecisionSiete {
     void SetUp() override {
         DecisionSiete::SetUp();
-        estado.FaseApuesta = kFaseApuestas;
+        apuestas.FaseApuesta = kFaseApuestas;
     }
     static Integer ApuestaCon(Integer valor, double azar) {
         PonSerieTapada(4, 1, {{kBastos, valor}});
@@ -523,7 +523,7 @@ TEST_F(BancaSiete, LaBancaNiAbreNiDestapa) {
 
 TEST_F(DecisionSiete, FueraDeApuestasYJuegoNoDecideNada) {
     PonSerie(4, 1, {{kOros, 7}});
-    estado.FaseApuesta = 5;
+    apuestas.FaseApuesta = 5;
     DecideSiete();
     EXPECT_EQ(apuestas.ApuestaPropuesta, 0);
     EXPECT_FALSE(series.ConsejoServido);

@@ -5,9 +5,10 @@
 #include <string>
 #include <vector>
 
+#include "betting/bet_state.h"
 #include "betting/chips.h"
-#include "table/button_column.h"
 #include "betting/phases.h"
+#include "table/button_column.h"
 #include "tests/support/bank_table.h"
 #include "tests/support/live_table.h"
 
@@ -30,7 +31,7 @@ struct TutorSiete : MesaViva {
         TocaJugar(4);
         estado.NivelJugador(4) = 10;
         estado.CaracterJugador(4) = kMedio;
-        estado.FaseApuesta = kFaseJuego;
+        apuestas.FaseApuesta = kFaseJuego;
         estado.EsperandoJugada = true;
         estado.PosicionMazo = 20;
         SiguienteDelMazo({kBastos, 3});
@@ -58,7 +59,7 @@ struct TutorSiete : MesaViva {
 } // namespace
 
 TEST_F(TutorSiete, EnLasApuestasDiceLaSuma) {
-    estado.FaseApuesta = kFaseApuestas;
+    apuestas.FaseApuesta = kFaseApuestas;
     Visible({{kOros, 3}});
     Aconseja();
     EXPECT_EQ(p.anuncios, Lineas{"Jugador4: Apostar 8"});
@@ -66,7 +67,7 @@ TEST_F(TutorSiete, EnLasApuestasDiceLaSuma) {
 }
 
 TEST_F(TutorSiete, ElCuatroSeCambiaSalvoQueSeConserve) {
-    estado.FaseApuesta = kFaseApuestas;
+    apuestas.FaseApuesta = kFaseApuestas;
     series.PuedeCambiarCuatro = true;
     Visible({{kOros, 4}});
     Aconseja();
