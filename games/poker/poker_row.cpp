@@ -10,6 +10,8 @@
 #include "core/numeric.h"
 #include "core/random.h"
 #include "games/game_table.h"
+#include "games/poker/hand_order.h"
+#include "games/poker/hand_reading.h"
 #include "table/deck_setup.h"
 #include "table/messages.h"
 #include "table/table_ops.h"
@@ -37,6 +39,7 @@ void PreparaBaraja() {
     for (int valor = 2; valor <= estado.CartasBaraja; ++valor)
         estado.ValorEnBaraja(valor) = false;
     PonFuerzas();
+    CargaTablasPoker();
 }
 
 bool HaApostado(Integer asiento) {
@@ -143,6 +146,7 @@ const FilaJuego& FilaPoker() {
                                  .cuenta_reparto = CuentaConResto,
                                  .coloca_mazo = ColocaMazo,
                                  .rellena_mazo = MezclaDescartes,
+                                 .ordena_mano = OrdenaCartasSeat,
                                  .clic_carta = AlternaDescarte,
                                  .rotulo_continuar = RotuloContinuar};
     return kFila;

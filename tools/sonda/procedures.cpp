@@ -15,6 +15,9 @@
 #include "games/common/hand_queries.h"
 #include "games/common/hands.h"
 #include "games/common/series.h"
+#include "games/poker/hand_order.h"
+#include "games/poker/hand_reading.h"
+#include "games/poker/hand_value.h"
 #include "games/trick/card_rules.h"
 #include "games/trick/choice_brisca.h"
 #include "games/trick/choice_tute.h"
@@ -177,6 +180,17 @@ const std::unordered_map<std::string, Llamada>& LaTabla() { // NOLINT(readabilit
         {"RobaCartas", Llama(&RobaCartas)},
         {"CambiaTriunfo", Llama(&CambiaTriunfo)},
         {"FinalMano", LlamaPasos(&FinalMano)},
+
+        // Hands of Póker.
+        {"CargaTablasPoker", Llama(&CargaTablasPoker)},
+        {"AnalizaJugada", Llama(&AnalizaJugada)},
+        {"OrdenaJugada", Llama(&OrdenaJugada)},
+        {"ValorJugada", Llama(&ValorJugada)},
+        {"TextoJugada", Llama(&TextoJugada)},
+        {"EsFigura", Llama(&EsFigura)},
+        {"Combinaciones", Llama(&Combinaciones)},
+        {"TieneComodin", Llama(&TieneComodin)},
+        {"OrdenaCartasSeat", Llama(&OrdenaCartasSeat)},
     };
     return kTabla;
 }
