@@ -12,6 +12,7 @@
 #include "games/game_table.h"
 #include "games/poker/hand_order.h"
 #include "games/poker/hand_reading.h"
+#include "games/poker/poker_tutor.h"
 #include "table/deck_setup.h"
 #include "table/messages.h"
 #include "table/table_ops.h"
@@ -148,6 +149,7 @@ const FilaJuego& FilaPoker() {
                                  .rellena_mazo = MezclaDescartes,
                                  .ordena_mano = OrdenaCartasSeat,
                                  .clic_carta = AlternaDescarte,
-                                 .rotulo_continuar = RotuloContinuar};
+                                 .rotulo_continuar = RotuloContinuar,
+                                 .tutor = ConsejoTutor};
     return kFila;
 }
