@@ -15,9 +15,13 @@
 #include "games/common/hand_queries.h"
 #include "games/common/hands.h"
 #include "games/common/series.h"
+#include "games/poker/bet_choice.h"
+#include "games/poker/discard_choice.h"
 #include "games/poker/hand_order.h"
 #include "games/poker/hand_reading.h"
 #include "games/poker/hand_value.h"
+#include "games/poker/opening_law.h"
+#include "games/poker/rivals.h"
 #include "games/trick/card_rules.h"
 #include "games/trick/choice_brisca.h"
 #include "games/trick/choice_tute.h"
@@ -74,6 +78,14 @@ void PintaMarco(Control control, int x, int y, int ancho, int alto) {
 // The start of a hand of the active game: Tute and Brisca turn a card up.
 bool EmpiezaJuego() {
     return estado.JuegoActivo == kCinquillo ? IniciarJuego() : IniciarJuego(DescubreTriunfo);
+}
+
+// The tutor as its button asks it, be the button enabled or not.
+void PideConsejo() {
+    const bool habilitado = BotonHabilitado(kBotonTutor);
+    HabilitaBoton(kBotonTutor, true);
+    PulsaBoton(kBotonTutor);
+    HabilitaBoton(kBotonTutor, habilitado);
 }
 
 // One line a procedure that the console knows.
@@ -191,6 +203,14 @@ const std::unordered_map<std::string, Llamada>& LaTabla() { // NOLINT(readabilit
         {"Combinaciones", Llama(&Combinaciones)},
         {"TieneComodin", Llama(&TieneComodin)},
         {"OrdenaCartasSeat", Llama(&OrdenaCartasSeat)},
+
+        // Bets and discards of Póker, and the tutor of the game in play.
+        {"CalculaApuesta", Llama(&CalculaApuesta)},
+        {"ActitudMesa", Llama(&ActitudMesa)},
+        {"LeyAperturaCumplida", Llama(&LeyAperturaCumplida)},
+        {"RivalesSinResto", Llama(&RivalesSinResto)},
+        {"DecideDescarte", Llama(&DecideDescarte)},
+        {"ConsejoTutor", Llama(&PideConsejo)},
     };
     return kTabla;
 }
