@@ -5,7 +5,7 @@
 
 #include "core/game_state.h"
 #include "core/numeric.h"
-#include "games/poker/hand_counts.h"
+#include "games/poker/deck_counts.h"
 #include "platform/platform.h"
 
 namespace {

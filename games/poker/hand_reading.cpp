@@ -1,491 +1,388 @@
 #include "games/poker/hand_reading.h"
 
 #include <algorithm>
-#include <array>
-#include <utility>
+#include <bit>
 
 #include "core/game_state.h"
-#include "core/numeric.h"
+#include "games/poker/hand_tally.h"
 #include "games/poker/poker_state.h"
+#include "games/poker/runs.h"
 
 namespace {
 
-constexpr int kCartas = 5;
-constexpr Integer kAs = 1, kAsAlto = 14, kRey = 13;
+// Calidad of the draws of four in a row: with figures, and what a joker adds.
+constexpr Integer kCalidadDeFiguras = 3, kCalidadConComodin = 3;
 
-bool EsComodin(Integer valor) {
-    return valor > kRey;
-}
+// One hand while it is read. The records get their cards and qualities, the set of categories decides which of them
+// are active in the end.
+class Lectura {
+public:
+    explicit Lectura(Integer asiento)
+        : asiento_(asiento), r_(CuentaMano(asiento)), registros_(&poker.Jugadas(asiento, 0)) {
+        RegistroJugada vacio;
+        vacio.Calidad = 1;
+        std::fill_n(registros_ + 1, kCategorias, vacio);
+    }
 
-struct Cuenta {
-    int comodines = 0;
-    Integer comodin = 0; // valor of the last one
-    std::array<int, 5> de_palo{};
-    std::array<int, 14> de_valor{};
-    std::array<std::array<bool, 14>, 5> hay{}; // by suit and valor
+    void BuscaIguales();
+    void BuscaFiguras();
+    void BuscaColor();
+    void BuscaEscaleras();
+    void BuscaProyectoDeColor();
+    void QuedaLaCartaMayor();
+    void QuitaLoQueSobra();
+    void PonCartas();
+    void Publica();
+
+private:
+    static unsigned Bit(Integer n) { return 1U << static_cast<unsigned>(n); }
+    bool Es(Integer n) const { return (activas_ & Bit(n)) != 0; }
+    void Pon(Integer n) { activas_ |= Bit(n); }
+    template <class... N>
+    void Quita(N... n) {
+        activas_ &= ~(Bit(n) | ...);
+    }
+    RegistroJugada& Registro(Integer n) { return registros_[n]; }
+    bool ConComodin() const { return r_.comodines > 0; }
+    // The strongest rank with so many cards, none when there is none.
+    Integer ValorConCartas(int cartas) const;
+
+    void Pon(Integer n, const Tramo& tramo, Integer palo);
+    void PonDePalos(const Corrida& corrida, Integer primero, Integer segundo);
+    void QuitaFrenteA(Integer cuatro, Integer tres);
+    void QuitaIgual(Integer una, Integer otra);
+
+    void Lista(Integer n);
+    void Encabeza(Integer n, Integer valor, int gastadas);
+    void CartasDePoker();
+    void CartasDeFull();
+    void CartasDeDoblePareja();
+    void CartasDePareja();
+    void CartasDeProyectoDeColor();
+    void CalidadDeProyectoDeEscalera(Integer n);
+    void CalidadDeProyectoDeFiguras();
+
+    Integer asiento_;
+    Recuento r_;
+    RegistroJugada* registros_; // by category
+    unsigned activas_ = 0;      // bit n: category n
 };
 
-Cuenta CuentaMano(Integer asiento) {
-    Cuenta c;
-    for (int lugar = 1; lugar <= kCartas; ++lugar) {
-        const Integer palo = estado.Mano(asiento, 1, lugar, kPalo);
-        const Integer valor = estado.Mano(asiento, 1, lugar, kValor);
-        if (palo == kComodin) {
-            ++c.comodines;
-            c.comodin = valor;
-        } else if (palo != kSinCarta) {
-            ++c.de_palo.at(palo);
-            ++c.de_valor.at(valor);
-            c.hay.at(palo).at(valor) = true;
-        }
-    }
-    return c;
-}
-
-struct Lectura {
-    Integer asiento;
-    Cuenta c;
-    RegistroJugada& J(Integer n) const { return poker.Jugadas(asiento, n); }
-    bool Es(Integer n) const { return J(n).Activa != 0; }
-    void Pon(Integer n) const { J(n).Activa = 1; }
-    void Quita(Integer n) const { J(n).Activa = 0; }
-};
-
-void ListaCartas(const Lectura& l, Integer categoria) {
-    const Cuenta& c = l.c;
-    RegistroJugada& j = l.J(categoria);
-    int p = 1;
-    const auto mete = [&](Integer valor) {
-        if (p <= kCartas)
-            j.Cartas(p++) = valor;
-    };
-    bool por_poner = categoria == poker.Color && c.comodines > 0;
-    if ((categoria == poker.Figuras || categoria == poker.ProyFiguras) && c.comodines > 0) {
-        mete(c.comodin);
-        j.ValorComodin = kAs;
-    }
-    for (int f = 13; f >= 1; --f) {
-        const Integer v = estado.OrdenCarta(f);
-        if (c.de_valor[v] == 0 && por_poner) {
-            mete(c.comodin);
-            j.ValorComodin = v;
-            por_poner = false;
-        }
-        for (int i = 0; i < c.de_valor[v]; ++i)
-            mete(v);
-    }
-    if (c.comodines == 2)
-        mete(c.comodin == 91 ? 92 : 91);
-}
-
-struct Ajuste {
-    std::array<Integer, 8> puesto{};
-    int ultima = 0;
-    int ajustadas = 0;
-    int huecos = 0;
-    Integer calidad = 9;
-};
-
-using ListaValores = std::array<Integer, 6>; // from 1, As on top 14
-
-Integer Q(const Ajuste& a) {
-    if (a.ajustadas == 4) {
-        const bool extremo = a.puesto[1] == kAs || a.puesto[a.ultima] == kAs;
-        if (a.huecos == 0 && !extremo)
-            return 1;
-        if (a.huecos == 1 || extremo)
-            return 2;
-    }
-    if (a.ajustadas == 3) {
-        int bordes = 0;
-        if (a.puesto[1] == estado.CartasBaraja + 1)
-            bordes += 1;
-        else if (a.puesto[1] > estado.CartasBaraja + 1)
-            bordes += 2;
-        int fin = a.puesto[a.ultima];
-        if (EsComodin(a.puesto[a.ultima + 1]))
-            ++fin;
-        if (fin == 13)
-            bordes += 1;
-        else if (fin >= 2 && fin <= 12)
-            bordes += 2;
-        if (a.huecos == 2)
-            return 3;
-        if (a.huecos == 1)
-            return 2;
-        if (a.huecos == 0)
-            return static_cast<Integer>(4 - (bordes - 1));
-        return 4;
-    }
-    return 9;
-}
-
-Ajuste Ajusta(const ListaValores& lista, int n, const std::array<bool, 6>* marcas,
-              const Cuenta& c) {
-    Ajuste a;
-    int pos = 0;
-    Integer anterior = 0;
-    for (int i = 1; i <= n; ++i) {
-        if (marcas != nullptr && !(*marcas)[i])
-            continue;
-        const Integer v = lista[i];
-        ++pos;
-        if (a.ajustadas > 0) {
-            for (int w = anterior + 1; w < v; ++w) {
-                if (estado.ValorEnBaraja(w)) {
-                    ++pos;
-                    ++a.huecos;
-                }
-            }
-        }
-        a.puesto[pos] = v == kAsAlto ? kAs : v;
-        a.ultima = pos;
-        ++a.ajustadas;
-        anterior = v;
-    }
-    if (c.comodines > 0) {
-        bool puesto = false;
-        for (int p = a.huecos > 0 ? a.ultima : 5; p >= 2 && !puesto; --p) {
-            if (a.puesto[p] == 0 && a.puesto[p - 1] != 0 &&
-                !(p == a.ultima + 1 && a.puesto[a.ultima] == kAs)) {
-                a.puesto[p] = c.comodin;
-                puesto = true;
-            }
-        }
-        if (!puesto) {
-            for (int p = 6; p >= 2; --p)
-                a.puesto[p] = a.puesto[p - 1];
-            a.puesto[1] = c.comodin;
-            ++a.ultima;
-        }
-        if (a.huecos > 0)
-            --a.huecos;
-        ++a.ajustadas;
-    }
-    a.calidad = Q(a);
-    return a;
-}
-
-void Registra(const Lectura& l, const Ajuste& a, Integer categoria, Integer palo) {
-    RegistroJugada& j = l.J(categoria);
-    if (j.Activa != 0 && a.ajustadas != 5 && a.calidad > j.Calidad)
-        return;
-    j.Activa = 1;
-    j.Calidad = a.ajustadas == 5 ? Integer{1} : a.calidad;
-    j.Cartas.Borra();
-    j.PaloJugada = palo;
-    int n = 0;
-    for (int p = 5; p >= 1; --p) {
-        if (a.puesto[p] == 0)
-            continue;
-        j.Cartas(++n) = a.puesto[p];
-        if (EsComodin(a.puesto[p])) {
-            int vale = p > 1 ? a.puesto[p - 1] + 1 : a.puesto[p + 1] - 1;
-            if (vale > 13)
-                vale = 1;
-            j.ValorComodin = static_cast<Integer>(vale);
-        }
-    }
-}
-
-void RegistraSegun(const Lectura& l, const Ajuste& a, Integer cinco, Integer cuatro, Integer tres,
-                   Integer palo) {
-    if (a.ajustadas == 5)
-        Registra(l, a, cinco, palo);
-    else if (a.ajustadas == 4)
-        Registra(l, a, cuatro, palo);
-    else if (a.ajustadas == 3)
-        Registra(l, a, tres, palo);
-}
-
-void MiraTramo(const Lectura& l, const ListaValores& lista, int n) {
-    const Cuenta& c = l.c;
-    RegistraSegun(l, Ajusta(lista, n, nullptr, c), poker.Escalera, poker.ProyEscalera,
-                  poker.ProyEscalera3, 0);
-    Integer palo = 0;
-    int cuantas = 0;
-    std::array<bool, 6> marcas{};
-    for (Integer s = 1; s <= 4; ++s) {
-        std::array<bool, 6> suyas{};
-        int k = 0;
-        for (int i = 1; i <= n; ++i) {
-            suyas[i] = c.hay[s][lista[i] == kAsAlto ? kAs : lista[i]];
-            k += suyas[i] ? 1 : 0;
-        }
-        if (k >= 2) {
-            palo = s;
-            cuantas = k;
-            marcas = suyas;
-        }
-    }
-    if (cuantas >= 3 || (cuantas >= 2 && c.comodines > 0))
-        RegistraSegun(l, Ajusta(lista, n, &marcas, c), poker.EscaleraColor, poker.ProyEscalColor,
-                      poker.ProyEscalColor3, palo);
-}
-
-void BuscaEscaleras(const Lectura& l) {
-    const Cuenta& c = l.c;
-    for (int desde = 1; desde <= 13; desde = desde == 1 ? estado.CartasBaraja + 1 : desde + 1) {
-        ListaValores lista{};
-        int n = 0;
-        int v = desde;
-        for (int paso = 1; paso <= 5 && v <= kAsAlto; ++paso) {
-            if (c.de_valor[v == kAsAlto ? kAs : v] > 0)
-                lista[++n] = static_cast<Integer>(v);
-            if (n >= 3 || (n >= 2 && c.comodines > 0))
-                MiraTramo(l, lista, n);
-            v = v == kAs ? estado.CartasBaraja + 1 : v + 1;
-        }
-    }
-}
-
-void CuentaIguales(const Lectura& l) {
-    const Cuenta& c = l.c;
-    for (Integer v = 1; v <= 13; ++v) {
-        if (c.de_valor[v] == 2)
-            ++l.J(poker.Pareja).Activa;
-        if (c.de_valor[v] == 3)
-            l.Pon(c.comodines == 0 ? poker.Trio : poker.Poker);
-        if (c.de_valor[v] == 4)
-            l.Pon(c.comodines == 0 ? poker.Poker : poker.Repoker);
-    }
-    if (l.J(poker.Pareja).Activa == 1 && c.comodines > 0) {
-        l.Quita(poker.Pareja);
-        l.Pon(poker.Trio);
-    } else if (l.J(poker.Pareja).Activa == 2) {
-        l.Pon(poker.Pareja);
-        l.Pon(c.comodines == 0 ? poker.DoblePareja : poker.Full);
-    }
-}
-
-void MiraFiguras(const Lectura& l) {
-    const Cuenta& c = l.c;
-    int no_figuras = 0;
-    for (int v = 2; v <= 10; ++v)
-        no_figuras += c.de_valor[v];
-    if (no_figuras == 0)
-        l.Pon(c.comodines == 2 ? poker.ProyFiguras : poker.Figuras);
-    else if (no_figuras == 1 && c.comodines != 2)
-        l.Pon(poker.ProyFiguras);
-    if (l.Es(poker.ProyFiguras))
-        ListaCartas(l, poker.ProyFiguras);
-}
-
-void MiraColor(const Lectura& l) {
-    const Cuenta& c = l.c;
-    for (int s = 1; s <= 4; ++s) {
-        if (c.de_palo[s] == 5 || (c.de_palo[s] == 4 && c.comodines == 1))
-            l.Pon(poker.Color);
-    }
-}
-
-void MiraProyColor(const Lectura& l) {
-    const Cuenta& c = l.c;
-    for (Integer s = 1; s <= 4; ++s) {
-        if (c.de_palo[s] == 4 || (c.de_palo[s] == 3 && c.comodines > 0)) {
-            l.Pon(poker.ProyColor);
-            l.J(poker.ProyColor).PaloJugada = s;
-            return;
-        }
-    }
-}
-
-void SinNada(const Lectura& l) {
-    for (Integer n = 7; n <= 17; ++n) {
-        if (l.Es(n))
-            return;
-    }
-    l.Pon(l.c.comodines == 0 ? poker.CartaMayor : poker.Pareja);
-}
-
-void QuitaSobrantes(const Lectura& l, Integer cuatro, Integer tres) {
-    if (l.Es(poker.ProyFiguras)) {
-        OrdenaJugada(l.asiento, cuatro);
-        if (poker.JugadaOrdenada(5, 2) == l.J(poker.ProyFiguras).Cartas(5))
-            l.Quita(poker.ProyFiguras);
-    }
-    if (l.Es(tres) && l.J(tres).Calidad >= l.J(cuatro).Calidad)
-        l.Quita(tres);
-}
-
-void QuitaIgual(const Lectura& l, Integer una, Integer suya) {
-    if (l.Es(una) && l.Es(suya) && l.J(una).Cartas == l.J(suya).Cartas)
-        l.Quita(una);
-}
-
-void Limpia(const Lectura& l) {
-    const auto& p = poker;
-    if (l.Es(p.Repoker) || l.Es(p.EscaleraColor) || l.Es(p.Poker) || l.Es(p.Escalera) ||
-        l.Es(p.Full))
-        l.Quita(p.Figuras);
-    if (l.Es(p.Trio) && p.Trio > p.Figuras)
-        l.Quita(p.Figuras);
-    if (l.Es(p.Escalera)) {
-        for (const Integer n : {p.ProyFiguras, p.ProyEscalera, p.ProyEscalera3})
-            l.Quita(n);
-    }
-    if (l.Es(p.EscaleraColor)) {
-        for (const Integer n : {p.Color, p.Escalera, p.ProyEscalColor, p.ProyEscalColor3,
-                                p.ProyEscalera, p.ProyEscalera3, p.ProyColor})
-            l.Quita(n);
-    }
-    if (l.Es(p.ProyEscalera))
-        QuitaSobrantes(l, p.ProyEscalera, p.ProyEscalera3);
-    if (l.Es(p.ProyEscalColor)) {
-        l.Quita(p.ProyColor);
-        QuitaSobrantes(l, p.ProyEscalColor, p.ProyEscalColor3);
-    }
-    QuitaIgual(l, p.ProyEscalera3, p.ProyEscalColor3);
-    QuitaIgual(l, p.ProyEscalera, p.ProyEscalColor);
-}
-
-Integer ConFigura(const Lectura& l, bool figura) {
-    return static_cast<Integer>((figura ? 2 : 1) + (l.c.comodines > 0 ? 2 : 0));
-}
-
-// Cartas(1) = principal, the others from the strongest.
-void Encabeza(const Lectura& l, Integer categoria, Integer principal, int gastadas) {
-    RegistroJugada& j = l.J(categoria);
-    int p = 1;
-    j.Cartas(p++) = principal;
-    for (int f = 13; f >= 1; --f) {
-        const Integer v = estado.OrdenCarta(f);
-        const int quedan = l.c.de_valor[v] - (v == principal ? gastadas : 0);
-        for (int i = 0; i < quedan && p <= kCartas; ++i)
-            j.Cartas(p++) = v;
-    }
-    j.Calidad = ConFigura(l, EsFigura(principal));
-}
-
-Integer MasFuerteCon(const Cuenta& c, int cuantas) {
-    for (int f = 13; f >= 1; --f) {
-        const Integer v = estado.OrdenCarta(f);
-        if (c.de_valor[v] == cuantas)
-            return v;
+Integer Lectura::ValorConCartas(int cartas) const {
+    for (int i = 0; i < r_.num_grupos; ++i) {
+        const Grupo& grupo = r_.grupos[static_cast<std::size_t>(i)];
+        if (grupo.cartas == cartas)
+            return ValorDeFuerza(grupo.fuerza);
     }
     return 0;
 }
 
-void RellenaPoker(const Lectura& l) {
-    RegistroJugada& j = l.J(poker.Poker);
-    for (Integer v = 1; v <= 13; ++v) {
-        if (l.c.de_valor[v] >= 3)
-            j.Cartas(1) = v;
-        else if (l.c.de_valor[v] == 1)
-            j.Cartas(2) = v;
+// Pairs and more of a rank. A joker goes to the largest group, a second joker nowhere.
+void Lectura::BuscaIguales() {
+    int parejas = 0;
+    for (int i = 0; i < r_.num_grupos; ++i) {
+        const int cartas = r_.grupos[static_cast<std::size_t>(i)].cartas;
+        parejas += cartas == 2 ? 1 : 0;
+        if (cartas == 3)
+            Pon(ConComodin() ? poker.Poker : poker.Trio);
+        else if (cartas == 4)
+            Pon(ConComodin() ? poker.Repoker : poker.Poker);
     }
-    if (l.c.comodines > 0)
-        j.Calidad = 2;
+    if (parejas == 1) {
+        Pon(ConComodin() ? poker.Trio : poker.Pareja);
+    } else if (parejas == 2) {
+        Pon(poker.Pareja);
+        Pon(ConComodin() ? poker.Full : poker.DoblePareja);
+    }
+    if (Es(poker.Trio) && Es(poker.Pareja))
+        Pon(poker.Full);
 }
 
-void RellenaFull(const Lectura& l) {
-    RegistroJugada& j = l.J(poker.Full);
-    for (int f = 13; f >= 1; --f) {
-        const Integer v = estado.OrdenCarta(f);
-        const int n = l.c.de_valor[v];
-        if (n == 3 || (n == 2 && l.c.comodines > 0 && j.Cartas(1) == 0))
-            j.Cartas(1) = v;
-        if (n == 2)
-            j.Cartas(2) = v;
+// Two jokers never make Figuras: three figures with them are a draw.
+void Lectura::BuscaFiguras() {
+    if (r_.no_figuras == 0)
+        Pon(r_.comodines == 2 ? poker.ProyFiguras : poker.Figuras);
+    else if (r_.no_figuras == 1 && r_.comodines != 2)
+        Pon(poker.ProyFiguras);
+    if (Es(poker.ProyFiguras))
+        Lista(poker.ProyFiguras);
+}
+
+// Three of a suit with two jokers are no Color, which is meant.
+void Lectura::BuscaColor() {
+    const int hacen_falta = r_.comodines == 1 ? kCartasMano - 1 : kCartasMano;
+    for (const Rangos palo : r_.palos) {
+        if (std::popcount(palo) >= hacen_falta)
+            Pon(poker.Color);
     }
 }
 
-void RellenaTrio(const Lectura& l) {
-    const int iguales = l.c.comodines > 0 ? 2 : 3;
-    Encabeza(l, poker.Trio, MasFuerteCon(l.c, iguales), iguales);
-}
-
-void RellenaDoblePareja(const Lectura& l) {
-    RegistroJugada& j = l.J(poker.DoblePareja);
-    int p = 1;
-    for (int f = 13; f >= 1; --f) {
-        const Integer v = estado.OrdenCarta(f);
-        if (l.c.de_valor[v] == 2)
-            j.Cartas(p++) = v;
-        else if (l.c.de_valor[v] == 1)
-            j.Cartas(3) = v;
+void Lectura::Pon(Integer n, const Tramo& tramo, Integer palo) {
+    if (tramo.calidad == 0)
+        return;
+    Pon(n);
+    RegistroJugada& registro = Registro(n);
+    registro.Calidad = tramo.calidad;
+    registro.ValorComodin = tramo.valor_comodin;
+    registro.PaloJugada = palo;
+    for (int i = 1; i <= kCartasMano; ++i) {
+        const std::uint8_t valor = tramo.valores[static_cast<std::size_t>(i - 1)];
+        registro.Cartas(i) = valor == kPuestoComodin ? r_.comodin : Integer{valor};
     }
-    j.Calidad = EsFigura(j.Cartas(1)) && EsFigura(j.Cartas(2)) ? 2 : 1;
 }
 
-void RellenaPareja(const Lectura& l) {
-    Integer principal = MasFuerteCon(l.c, 2);
-    int gastadas = 2;
-    if (l.c.comodines > 0) {
-        for (int f = 1; f <= 13; ++f) {
-            if (l.c.de_valor[estado.OrdenCarta(f)] > 0)
-                principal = estado.OrdenCarta(f);
+void Lectura::PonDePalos(const Corrida& corrida, Integer primero, Integer segundo) {
+    const auto palo_de = [&](const Tramo& tramo) {
+        return tramo.segundo_palo != 0 ? segundo : primero;
+    };
+    Pon(poker.EscaleraColor, corrida.cinco, palo_de(corrida.cinco));
+    Pon(poker.ProyEscalColor, corrida.cuatro, palo_de(corrida.cuatro));
+    Pon(poker.ProyEscalColor3, corrida.tres, palo_de(corrida.tres));
+}
+
+void Lectura::BuscaEscaleras() {
+    const Corridas& corridas = CorridasDe(estado.CartasBaraja);
+    if (!corridas.HayAlgo(r_.rangos, ConComodin()))
+        return;
+    const Corrida& corrida = corridas.De(r_.rangos, ConComodin());
+    Pon(poker.Escalera, corrida.cinco, 0);
+    Pon(poker.ProyEscalera, corrida.cuatro, 0);
+    Pon(poker.ProyEscalera3, corrida.tres, 0);
+
+    // At most two suits have two cards.
+    Integer primero = 0, segundo = 0;
+    for (Integer palo = kOros; palo <= kBastos; ++palo) {
+        if (std::popcount(r_.palos[static_cast<std::size_t>(palo)]) >= 2)
+            (primero == 0 ? primero : segundo) = palo;
+    }
+    const Rangos uno = r_.palos[static_cast<std::size_t>(primero)];
+    const Rangos otro = r_.palos[static_cast<std::size_t>(segundo)];
+    const bool hay_otro = corridas.HayAlgo(otro, ConComodin());
+    if (!corridas.HayAlgo(uno, ConComodin()) && !hay_otro)
+        return;
+    if (segundo == 0)
+        PonDePalos(corridas.De(uno, ConComodin()), primero, segundo);
+    else
+        PonDePalos(corridas.DeDosPalos(uno, otro, ConComodin()), primero, segundo);
+}
+
+void Lectura::BuscaProyectoDeColor() {
+    for (Integer palo = kOros; palo <= kBastos; ++palo) {
+        const int cartas = std::popcount(r_.palos[static_cast<std::size_t>(palo)]);
+        if (cartas == 4 || (cartas == 3 && ConComodin())) {
+            Pon(poker.ProyColor);
+            Registro(poker.ProyColor).PaloJugada = palo;
+            return;
         }
-        gastadas = l.c.de_valor[principal];
     }
-    Encabeza(l, poker.Pareja, principal, gastadas);
 }
 
-void RellenaProyEscalera(const Lectura& l, Integer categoria) {
-    RegistroJugada& j = l.J(categoria);
+void Lectura::QuedaLaCartaMayor() {
+    if (activas_ < Bit(poker.CartaMayor))
+        Pon(ConComodin() ? poker.Pareja : poker.CartaMayor);
+}
+
+// Four in a row take the place of the figures when they leave the same card over, and of three in a row unless those
+// are the better draw.
+void Lectura::QuitaFrenteA(Integer cuatro, Integer tres) {
+    if (Es(poker.ProyFiguras)) {
+        OrdenaJugada(asiento_, cuatro);
+        if (poker.JugadaOrdenada(kCartasMano, 2) == Registro(poker.ProyFiguras).Cartas(kCartasMano))
+            Quita(poker.ProyFiguras);
+    }
+    if (Es(tres) && Registro(tres).Calidad >= Registro(cuatro).Calidad)
+        Quita(tres);
+}
+
+void Lectura::QuitaIgual(Integer una, Integer otra) {
+    if (Es(una) && Es(otra) && Registro(una).Cartas == Registro(otra).Cartas)
+        Quita(una);
+}
+
+void Lectura::QuitaLoQueSobra() {
+    const EstadoPoker& p = poker;
+    if (Es(p.Repoker) || Es(p.EscaleraColor) || Es(p.Poker) || Es(p.Escalera) || Es(p.Full) ||
+        (Es(p.Trio) && p.Trio > p.Figuras))
+        Quita(p.Figuras);
+    if (Es(p.Escalera))
+        Quita(p.ProyFiguras, p.ProyEscalera, p.ProyEscalera3);
+    if (Es(p.EscaleraColor))
+        Quita(p.Color, p.Escalera, p.ProyEscalColor, p.ProyEscalColor3, p.ProyEscalera,
+              p.ProyEscalera3, p.ProyColor);
+    if (Es(p.ProyEscalera))
+        QuitaFrenteA(p.ProyEscalera, p.ProyEscalera3);
+    if (Es(p.ProyEscalColor)) {
+        Quita(p.ProyColor);
+        QuitaFrenteA(p.ProyEscalColor, p.ProyEscalColor3);
+    }
+    QuitaIgual(p.ProyEscalera3, p.ProyEscalColor3);
+    QuitaIgual(p.ProyEscalera, p.ProyEscalColor);
+}
+
+// All cards from the strongest; a joker leads the figures as an As, and in a Color it is the highest rank that is not
+// held. A second joker comes last.
+void Lectura::Lista(Integer n) {
+    RegistroJugada& registro = Registro(n);
+    int sitio = 1;
+    const auto mete = [&](Integer valor) { registro.Cartas(sitio++) = valor; };
+    const auto mete_comodin = [&](int fuerza) {
+        mete(r_.comodin);
+        registro.ValorComodin = ValorDeFuerza(fuerza);
+    };
+    int espera = 0; // the highest strength that the joker of a Color may take
+    if (ConComodin() && n == poker.Color)
+        espera = kFuerzaAs;
+    else if (ConComodin())
+        mete_comodin(kFuerzaAs);
+    for (int i = 0; i < r_.num_grupos; ++i) {
+        const Grupo& grupo = r_.grupos[static_cast<std::size_t>(i)];
+        if (espera > grupo.fuerza) {
+            mete_comodin(espera);
+            espera = 0;
+        } else if (espera == grupo.fuerza) {
+            --espera;
+        }
+        for (int carta = 0; carta < grupo.cartas; ++carta)
+            mete(ValorDeFuerza(grupo.fuerza));
+    }
+    if (espera != 0)
+        mete_comodin(espera);
+    if (r_.comodines == 2)
+        mete(r_.comodin == kComodinUno ? kComodinDos : kComodinUno);
+}
+
+// The rank of the group, then the cards that are not spent on it.
+void Lectura::Encabeza(Integer n, Integer valor, int gastadas) {
+    RegistroJugada& registro = Registro(n);
+    int sitio = 1;
+    registro.Cartas(sitio++) = valor;
+    for (int i = 0; i < r_.num_grupos; ++i) {
+        const Grupo& grupo = r_.grupos[static_cast<std::size_t>(i)];
+        const Integer suyo = ValorDeFuerza(grupo.fuerza);
+        const int quedan = grupo.cartas - (suyo == valor ? gastadas : 0);
+        for (int carta = 0; carta < quedan; ++carta)
+            registro.Cartas(sitio++) = suyo;
+    }
+    registro.Calidad = static_cast<Integer>((EsFigura(valor) ? 2 : 1) + (ConComodin() ? 2 : 0));
+}
+
+void Lectura::CartasDePoker() {
+    RegistroJugada& registro = Registro(poker.Poker);
+    registro.Cartas(1) = ValorConCartas(ConComodin() ? 3 : 4);
+    registro.Cartas(2) = ValorConCartas(1);
+    if (ConComodin())
+        registro.Calidad = 2;
+}
+
+void Lectura::CartasDeFull() {
+    RegistroJugada& registro = Registro(poker.Full);
+    registro.Cartas(1) = ValorConCartas(ConComodin() ? 2 : 3);
+    for (int i = 0; i < r_.num_grupos; ++i) {
+        const Grupo& grupo = r_.grupos[static_cast<std::size_t>(i)];
+        if (grupo.cartas == 2)
+            registro.Cartas(2) = ValorDeFuerza(grupo.fuerza);
+    }
+}
+
+void Lectura::CartasDeDoblePareja() {
+    RegistroJugada& registro = Registro(poker.DoblePareja);
+    int sitio = 1;
+    for (int i = 0; i < r_.num_grupos; ++i) {
+        const Grupo& grupo = r_.grupos[static_cast<std::size_t>(i)];
+        registro.Cartas(grupo.cartas == 2 ? sitio++ : 3) = ValorDeFuerza(grupo.fuerza);
+    }
+    registro.Calidad = EsFigura(registro.Cartas(1)) && EsFigura(registro.Cartas(2)) ? 2 : 1;
+}
+
+// A joker joins the strongest card, which is spent whole.
+void Lectura::CartasDePareja() {
+    if (ConComodin())
+        Encabeza(poker.Pareja, ValorDeFuerza(r_.grupos[0].fuerza), r_.grupos[0].cartas);
+    else
+        Encabeza(poker.Pareja, ValorConCartas(2), 2);
+}
+
+void Lectura::CartasDeProyectoDeColor() {
+    RegistroJugada& registro = Registro(poker.ProyColor);
+    int sitio = 1;
+    for (Rangos quedan = r_.palos[static_cast<std::size_t>(registro.PaloJugada)]; quedan != 0;) {
+        const int fuerza = std::bit_width(quedan) - 1;
+        quedan ^= Rangos{1} << fuerza;
+        registro.Cartas(sitio++) = ValorDeFuerza(fuerza);
+    }
+    if (ConComodin())
+        registro.Cartas(4) = r_.comodin;
+}
+
+void Lectura::CalidadDeProyectoDeEscalera(Integer n) {
+    RegistroJugada& registro = Registro(n);
     int figuras = 0;
     for (int i = 1; i <= 4; ++i)
-        figuras += EsFigura(j.Cartas(i)) ? 1 : 0;
-    if (figuras == 4 || (figuras == 3 && l.c.comodines > 0))
-        j.Calidad = 3;
-    if (l.c.comodines > 0)
-        j.Calidad = static_cast<Integer>(j.Calidad + 3);
+        figuras += EsFigura(registro.Cartas(i)) ? 1 : 0;
+    if (figuras == 4 || (figuras == 3 && ConComodin()))
+        registro.Calidad = kCalidadDeFiguras;
+    if (ConComodin())
+        registro.Calidad = static_cast<Integer>(registro.Calidad + kCalidadConComodin);
 }
 
-void RellenaProyColor(const Lectura& l) {
-    RegistroJugada& j = l.J(poker.ProyColor);
-    int p = 1;
-    for (int f = 13; f >= 1; --f) {
-        const Integer v = estado.OrdenCarta(f);
-        if (l.c.hay[j.PaloJugada][v])
-            j.Cartas(p++) = v;
+void Lectura::CalidadDeProyectoDeFiguras() {
+    Integer& calidad = Registro(poker.ProyFiguras).Calidad;
+    if (Es(poker.Trio))
+        calidad = 4;
+    else if (Es(poker.DoblePareja))
+        calidad = 3;
+    else if (Es(poker.Pareja))
+        calidad = 2;
+}
+
+void Lectura::
+    PonCartas() { // NOLINT(readability-function-cognitive-complexity): one line a category
+    const EstadoPoker& p = poker;
+    if (Es(p.Repoker))
+        Registro(p.Repoker).Cartas(1) = ValorConCartas(4);
+    if (Es(p.Poker))
+        CartasDePoker();
+    if (Es(p.Full))
+        CartasDeFull();
+    if (Es(p.Color))
+        Lista(p.Color);
+    if (Es(p.Figuras))
+        Lista(p.Figuras);
+    if (Es(p.CartaMayor)) {
+        Lista(p.CartaMayor);
+        Registro(p.CartaMayor).Calidad = EsFigura(Registro(p.CartaMayor).Cartas(1)) ? 1 : 2;
     }
-    if (l.c.comodines > 0)
-        j.Cartas(4) = l.c.comodin;
+    const int del_trio = ConComodin() ? 2 : 3;
+    if (Es(p.Trio))
+        Encabeza(p.Trio, ValorConCartas(del_trio), del_trio);
+    if (Es(p.DoblePareja))
+        CartasDeDoblePareja();
+    if (Es(p.Pareja))
+        CartasDePareja();
+    if (Es(p.ProyEscalColor))
+        CalidadDeProyectoDeEscalera(p.ProyEscalColor);
+    if (Es(p.ProyEscalera))
+        CalidadDeProyectoDeEscalera(p.ProyEscalera);
+    if (Es(p.ProyColor))
+        CartasDeProyectoDeColor();
+    if (Es(p.ProyFiguras))
+        CalidadDeProyectoDeFiguras();
 }
 
-void RellenaProyFiguras(const Lectura& l) {
-    RegistroJugada& j = l.J(poker.ProyFiguras);
-    if (l.Es(poker.Pareja))
-        j.Calidad = 2;
-    if (l.Es(poker.DoblePareja))
-        j.Calidad = 3;
-    if (l.Es(poker.Trio))
-        j.Calidad = 4;
-}
-
-void Rellena(const Lectura& l) {
-    const auto& p = poker;
-    const auto si = [&](Integer n, auto&& que) {
-        if (l.Es(n))
-            que();
-    };
-    si(p.Repoker, [&] { l.J(p.Repoker).Cartas(1) = MasFuerteCon(l.c, 4); });
-    si(p.Poker, [&] { RellenaPoker(l); });
-    si(p.Full, [&] { RellenaFull(l); });
-    si(p.Color, [&] { ListaCartas(l, p.Color); });
-    si(p.Figuras, [&] { ListaCartas(l, p.Figuras); });
-    si(p.CartaMayor, [&] {
-        ListaCartas(l, p.CartaMayor);
-        l.J(p.CartaMayor).Calidad = EsFigura(l.J(p.CartaMayor).Cartas(1)) ? 1 : 2;
-    });
-    si(p.Trio, [&] { RellenaTrio(l); });
-    si(p.DoblePareja, [&] { RellenaDoblePareja(l); });
-    si(p.Pareja, [&] { RellenaPareja(l); });
-    si(p.ProyEscalColor, [&] { RellenaProyEscalera(l, p.ProyEscalColor); });
-    si(p.ProyEscalera, [&] { RellenaProyEscalera(l, p.ProyEscalera); });
-    si(p.ProyColor, [&] { RellenaProyColor(l); });
-    si(p.ProyFiguras, [&] { RellenaProyFiguras(l); });
+void Lectura::Publica() {
+    for (unsigned quedan = activas_; quedan != 0; quedan &= quedan - 1)
+        registros_[std::countr_zero(quedan)].Activa = 1;
+    poker.MejorJugada(asiento_) = static_cast<Integer>(std::bit_width(activas_) - 1);
 }
 
 } // namespace
 
 bool EsFigura(Integer valor) {
-    return valor == kAs || (valor >= 11 && valor <= kRey);
+    return valor == kValorAs || (valor >= 11 && valor <= kValorRey);
 }
 
 bool TieneComodin(Integer asiento) {
-    for (int lugar = 1; lugar <= kCartas; ++lugar) {
+    for (int lugar = 1; lugar <= kCartasMano; ++lugar) {
         if (estado.Mano(asiento, 1, lugar, kPalo) == kComodin)
             return true;
     }
@@ -493,23 +390,14 @@ bool TieneComodin(Integer asiento) {
 }
 
 void AnalizaJugada(Integer asiento) {
-    for (int n = 1; n <= kCategorias; ++n) {
-        poker.Jugadas(asiento, n) = {};
-        poker.Jugadas(asiento, n).Calidad = 1;
-    }
-    const Lectura l{asiento, CuentaMano(asiento)};
-    CuentaIguales(l);
-    MiraFiguras(l);
-    if (l.Es(poker.Trio) && l.Es(poker.Pareja))
-        l.Pon(poker.Full);
-    MiraColor(l);
-    BuscaEscaleras(l);
-    MiraProyColor(l);
-    SinNada(l);
-    Limpia(l);
-    Rellena(l);
-    for (Integer n = 1; n <= kCategorias; ++n) {
-        if (l.Es(n))
-            poker.MejorJugada(asiento) = n;
-    }
+    Lectura lectura(asiento);
+    lectura.BuscaIguales();
+    lectura.BuscaFiguras();
+    lectura.BuscaColor();
+    lectura.BuscaEscaleras();
+    lectura.BuscaProyectoDeColor();
+    lectura.QuedaLaCartaMayor();
+    lectura.QuitaLoQueSobra();
+    lectura.PonCartas();
+    lectura.Publica();
 }

@@ -3,8 +3,8 @@
 
 #include "core/game_state.h"
 #include "core/numeric.h"
+#include "games/poker/deck_counts.h"
 #include "games/poker/draw_odds.h"
-#include "games/poker/hand_counts.h"
 #include "games/poker/hand_reading.h"
 #include "games/poker/poker_state.h"
 

@@ -6,157 +6,94 @@
 
 #include "core/game_state.h"
 #include "core/numeric.h"
-#include "games/poker/hand_counts.h"
+#include "games/poker/hand_tally.h"
+#include "games/poker/order_sums.h"
 #include "games/poker/poker_state.h"
 
 namespace {
 
-constexpr int kTope = 13; // position of the As
-constexpr int kSota9 = 9; // positions above are figures
+// Hands of Póker for each rank of the loose card, by the jokers of the deck.
+constexpr std::array<double, 3> kPokersPorSuelta{4.0, 20.0, 36.333};
+// What a step between two hands without a pair is worth: their suits but for those of one suit, and those.
+constexpr Long kDeCartaMayor = 1020, kDeColor = 4;
+// Qualities of Pareja from here on are made with a joker.
+constexpr Integer kParejaConComodin = 3;
 
-struct Mesa {
-    const RegistroJugada& j;
+Long Cercano(double valor) {
+    return static_cast<Long>(std::nearbyint(valor));
+}
+
+// A category of a hand, as the order number sees it.
+struct Medida {
+    const RegistroJugada& jugada;
+    const SumasDeOrden& sumas;
     Integer categoria;
-    int vpp, cn, min;
-    bool larga;
+    Posiciones v; // of Cartas(1..5)
     double cuenta;
-    Long base;
-    std::array<int, 6> v{};
-    int J;
+    Long base; // hands of the categories below
+
+    int Minimo() const { return 14 - estado.ValoresPorPalo; }
+    // A joker makes a hand lower than the same one without.
+    int RebajaDeComodin() const {
+        return jugada.ValorComodin == kValorAs ? kValorAsAlto : jugada.ValorComodin;
+    }
+    // A sum over the deck without jokers, stretched to the hands that the deck has.
+    Long Escala(Long suma) const {
+        if (estado.ComodinesBaraja == 0)
+            return suma;
+        return Cercano(static_cast<double>(suma) / sumas.Cuenta(categoria) * cuenta);
+    }
 };
 
-Long Cercano(double x) {
-    return static_cast<Long>(std::nearbyint(x));
-}
-
-Long Escala(const Mesa& m, Long suma) {
-    if (estado.ComodinesBaraja == 0)
-        return suma;
-    const Long n0 = CuentasDe(estado.CartasBaraja, 1).De(m.categoria);
-    return Cercano(static_cast<double>(suma) / n0 * m.cuenta);
-}
-
-Long OrdinalSinEscalera(const Mesa& m) {
-    Long n = 0;
-    const int min = m.min;
-    for (int a = min + 4; a <= kTope; ++a)
-        for (int b = min + 3; b < a; ++b)
-            for (int c = min + 2; c < b; ++c)
-                for (int d = min + 1; d < c; ++d)
-                    for (int e = min; e < d; ++e) {
-                        const bool seguidas = a - e == 4;
-                        const bool rueda = a == kTope && b == min + 3;
-                        if (!seguidas && !rueda)
-                            ++n;
-                        if (a == m.v[1] && b == m.v[2] && c == m.v[3] && d == m.v[4] && e == m.v[5])
-                            return n;
-                    }
-    return n;
-}
-
-Long SumaFull(const Mesa& m) {
-    Long suma = 0;
-    for (int t = m.min; t <= m.v[1]; ++t)
-        for (int p = m.min; p <= kTope; ++p) {
-            if (p != t)
-                suma += 24;
-            if (t == m.v[1] && p == m.v[2])
-                return suma;
-        }
-    return suma;
-}
-
-Long SumaTrio(const Mesa& m) {
-    Long suma = 0;
-    for (int t = m.min; t < m.v[1]; ++t) {
-        Long l = Combinaciones(EnteroDe(m.cn - 4), 2) - (m.vpp - 1) * 6;
-        if (m.larga && t > 9)
-            l -= Combinaciones(12, 2) - 18;
-        suma += 4 * l;
+// A joker stands for its valor, but not in the fifth place, which is meant: there it is beyond every position.
+Posiciones PosicionesDe(const RegistroJugada& jugada) {
+    Posiciones posiciones{};
+    for (int i = 1; i <= kCartasMano; ++i) {
+        const bool vale_por_otra = i < kCartasMano && EsComodin(jugada.Cartas(i));
+        posiciones[static_cast<std::size_t>(i - 1)] =
+            FuerzaDe(vale_por_otra ? jugada.ValorComodin : jugada.Cartas(i));
     }
-    for (int a = m.min; a <= m.v[2]; ++a) {
-        if (a == m.v[1])
-            continue;
-        for (int b = m.min; b <= a; ++b) {
-            if (b != m.v[1] && b != a && !(m.larga && m.v[1] > 9 && a > 9 && b > 9))
-                suma += 64;
-            if (a == m.v[2] && b == m.v[3])
-                return suma;
-        }
-    }
-    return suma;
+    return posiciones;
 }
 
-Long SumaDoblePareja(const Mesa& m) {
-    Long suma = 0;
-    for (int a = m.min + 1; a <= m.v[1]; ++a)
-        for (int b = m.min; b < a; ++b)
-            for (int c = m.min; c <= (a > 9 && b > 9 ? 9 : kTope); ++c) {
-                if (c != a && c != b)
-                    suma += 144;
-                if (a == m.v[1] && b == m.v[2] && c == m.v[3])
-                    return suma;
-            }
-    return suma;
+Long BaseDe(Integer categoria) {
+    Long base = 0;
+    for (int n = 1; n < categoria; ++n)
+        base += poker.CuentaJugada(n);
+    return base;
 }
 
-Long SumaPareja(const Mesa& m) {
-    Long suma = 0;
-    for (int t = m.min; t < m.v[1]; ++t) {
-        Long l =
-            Combinaciones(EnteroDe(m.cn - 4), 3) - (m.vpp - 1) * 4 - (m.vpp - 1) * 6 * (m.cn - 8);
-        if (t > 9)
-            l -= Combinaciones(12, 3) - 156;
-        suma += 6 * l;
-    }
-    const int v1 = m.v[1];
-    for (int a = m.min; a <= m.v[2]; ++a) {
-        if (a == v1)
-            continue;
-        for (int b = m.min; b <= a; ++b) {
-            if (b == v1)
-                continue;
-            for (int c = m.min; c <= b; ++c) {
-                const bool distintas = a != b && a != c && b != c && c != v1;
-                if (distintas && !(v1 > 9 && a > 9 && b > 9 && c > 9))
-                    suma += 384;
-                if (a == m.v[2] && b == m.v[3] && c == m.v[4])
-                    return suma;
-            }
-        }
-    }
-    return suma;
+Long ValorEscalera(const Medida& m) {
+    return Cercano(m.cuenta / (estado.ValoresPorPalo - 3) * (m.v[0] - m.Minimo() - 2) + m.base) -
+           m.RebajaDeComodin();
 }
 
-Long ValorFiguras(const Mesa& m) {
-    int total = 0, orden = 0;
-    for (int a = 10; a <= kTope; ++a)
-        for (int b = 10; b <= a; ++b)
-            for (int c = 10; c <= b; ++c)
-                for (int d = 10; d <= c; ++d)
-                    for (int e = 10; e <= d; ++e) {
-                        std::array<int, 14> n{};
-                        for (const int x : {a, b, c, d, e})
-                            ++n[x];
-                        const int mas = *std::max_element(n.begin(), n.end());
-                        const bool dos = std::count(n.begin(), n.end(), 2) > 0;
-                        if (!(mas > 3 || (mas == 3 && (!m.larga || dos))))
-                            ++total;
-                        if (a == m.v[1] && b == m.v[2] && c == m.v[3] && d == m.v[4] && e == m.v[5])
-                            orden = total;
-                    }
-    return Cercano(m.cuenta / total * orden + m.base) - m.J;
+Long ValorRepoker(const Medida& m) {
+    return m.base + Cercano(m.cuenta / estado.ValoresPorPalo * (m.v[0] - m.Minimo() + 1));
 }
 
-Long ValorPoker(const Mesa& m) {
-    Long s = Cercano(m.cuenta / m.vpp * (m.v[1] - m.min));
-    const double k = estado.ComodinesBaraja == 0   ? 4.0
-                     : estado.ComodinesBaraja == 1 ? 20.0
-                                                   : 36.333;
-    s = Cercano(k * (m.v[2] - m.min + 1) + s);
-    if (m.v[2] > m.v[1])
-        s = Cercano(s - k);
-    return m.base + s;
+Long ValorPoker(const Medida& m) {
+    const double por_suelta = kPokersPorSuelta.at(static_cast<std::size_t>(estado.ComodinesBaraja));
+    Long suma = Cercano(m.cuenta / estado.ValoresPorPalo * (m.v[0] - m.Minimo()));
+    suma = Cercano(por_suelta * (m.v[1] - m.Minimo() + 1) + suma);
+    if (m.v[1] > m.v[0])
+        suma = Cercano(suma - por_suelta);
+    return m.base + suma;
+}
+
+Long ValorFiguras(const Medida& m) {
+    return Cercano(m.cuenta / m.sumas.TotalFiguras() * m.sumas.Figuras(m.v) + m.base) -
+           m.RebajaDeComodin();
+}
+
+Long ValorPareja(const Medida& m) {
+    const Long valor = m.base + m.Escala(m.sumas.Pareja(m.v));
+    return m.jugada.Calidad >= kParejaConComodin ? valor - 1 : valor;
+}
+
+// A group with two jokers lacks a loose card; counted as none, it can fall among the hands of the category below.
+Long SobreLaBase(const Medida& m, Long valor, int suelta) {
+    return m.jugada.Cartas(suelta) == 0 ? std::max(valor, m.base + 1) : valor;
 }
 
 } // namespace
@@ -164,55 +101,41 @@ Long ValorPoker(const Mesa& m) {
 Integer Combinaciones(Integer n, Integer k) {
     if (k < 0 || k > n)
         return 0;
-    long long c = 1;
-    for (int i = 1; i <= k; ++i)
-        c = c * (n - k + i) / i;
-    return EnteroDe(c);
+    const long long menor = std::min<long long>(k, n - k);
+    long long combinaciones = 1;
+    for (long long i = 1; i <= menor; ++i)
+        combinaciones = EnteroDe(combinaciones * (n - menor + i) / i);
+    return EnteroDe(combinaciones);
 }
 
-Long ValorJugada(Integer n, Integer asiento) {
-    const RegistroJugada& j = poker.Jugadas(asiento, n);
-    Mesa m{j,
-           n,
-           estado.ValoresPorPalo,
-           estado.CartasNormales,
-           14 - estado.ValoresPorPalo,
-           estado.CartasBaraja < 4,
-           static_cast<double>(poker.CuentaJugada(n)),
-           0,
-           {},
-           0};
-    for (int i = 1; i < n; ++i)
-        m.base += poker.CuentaJugada(i);
-    for (int i = 1; i <= 5; ++i) {
-        Integer valor = j.Cartas(i);
-        if (i < 5 && valor > 13)
-            valor = j.ValorComodin;
-        m.v[i] = valor == 1 ? 13 : valor - 1;
-    }
-    m.J = j.ValorComodin == 1 ? 14 : j.ValorComodin;
-    const auto& p = poker;
-    Long valor = 0;
-    if (n == p.EscaleraColor || n == p.Escalera)
-        valor = Cercano(m.cuenta / (m.vpp - 3) * (m.v[1] - m.min - 2) + m.base) - m.J;
-    else if (n == p.Repoker)
-        valor = m.base + Cercano(m.cuenta / m.vpp * (m.v[1] - m.min + 1));
-    else if (n == p.Poker)
-        valor = ValorPoker(m);
-    else if (n == p.Color)
-        valor = m.base + Escala(m, 4 * OrdinalSinEscalera(m));
-    else if (n == p.CartaMayor)
-        valor = m.base + 1020 * OrdinalSinEscalera(m);
-    else if (n == p.Full)
-        valor = m.base + Escala(m, SumaFull(m));
-    else if (n == p.Trio)
-        valor = m.base + Escala(m, SumaTrio(m));
-    else if (n == p.Figuras)
-        valor = ValorFiguras(m);
-    else if (n == p.DoblePareja)
-        valor = m.base + SumaDoblePareja(m);
-    else if (n == p.Pareja)
-        valor = m.base + Escala(m, SumaPareja(m)) - (j.Calidad >= 3 ? 1 : 0);
-    const bool falta = (n == p.Poker && j.Cartas(2) == 0) || (n == p.Trio && j.Cartas(3) == 0);
-    return falta ? std::max(valor, m.base + 1) : valor;
+Long ValorJugada(Integer categoria, Integer asiento) {
+    const EstadoPoker& p = poker;
+    const RegistroJugada& jugada = p.Jugadas(asiento, categoria);
+    const Medida m{.jugada = jugada,
+                   .sumas = SumasDe(estado.CartasBaraja),
+                   .categoria = categoria,
+                   .v = PosicionesDe(jugada),
+                   .cuenta = static_cast<double>(p.CuentaJugada(categoria)),
+                   .base = BaseDe(categoria)};
+    if (categoria == p.EscaleraColor || categoria == p.Escalera)
+        return ValorEscalera(m);
+    if (categoria == p.Repoker)
+        return ValorRepoker(m);
+    if (categoria == p.Poker)
+        return SobreLaBase(m, ValorPoker(m), 2);
+    if (categoria == p.Color)
+        return m.base + m.Escala(kDeColor * m.sumas.SinEscalera(m.v));
+    if (categoria == p.CartaMayor)
+        return m.base + kDeCartaMayor * m.sumas.SinEscalera(m.v);
+    if (categoria == p.Full)
+        return m.base + m.Escala(m.sumas.Full(m.v));
+    if (categoria == p.Trio)
+        return SobreLaBase(m, m.base + m.Escala(m.sumas.Trio(m.v)), 3);
+    if (categoria == p.Figuras)
+        return ValorFiguras(m);
+    if (categoria == p.DoblePareja)
+        return m.base + m.sumas.DoblePareja(m.v);
+    if (categoria == p.Pareja)
+        return ValorPareja(m);
+    return 0;
 }

@@ -1,4 +1,4 @@
-#include "games/poker/hand_counts.h"
+#include "games/poker/deck_counts.h"
 
 #include <array>
 
