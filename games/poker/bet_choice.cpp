@@ -26,6 +26,7 @@ int Dado(double lados, const LecturaApuesta& l) {
 
 // --- Nobody has bet yet
 
+// No characters 1 to 3 have 0 for their mean; its factor stays, that is meant.
 int AbreGrande(const LecturaApuesta& l) {
     constexpr double kAnteMesaCauta = 0.6, kAnteMesaSinCaracter = 0.8;
     int propuesta = Redondea(static_cast<double>(l.tope) / (Dado(2, l) + (4 - l.caracter) * 2));

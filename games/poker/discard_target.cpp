@@ -31,11 +31,11 @@ enum class Ademas { Nada, ProyectoBueno, SinAs }; // Calidad 1 of the draw; Cart
 // One step from the best category toward the one that is played for. A step counts when si is in the hand, and y_si as
 // well where it is named; the steps of a category run in their order, each over the one before.
 struct Paso {
-    Categoria mejor;
-    Categoria si;
-    unsigned caracteres;
+    Categoria mejor = nullptr;
+    Categoria si = nullptr;
+    unsigned caracteres = 0;
     Niveles niveles;
-    Categoria objetivo;
+    Categoria objetivo = nullptr;
     Ademas ademas = Ademas::Nada;
     Categoria y_si = nullptr;
 };

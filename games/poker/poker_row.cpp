@@ -10,6 +10,7 @@
 #include "core/numeric.h"
 #include "core/random.h"
 #include "games/game_table.h"
+#include "games/poker/bet_rounds.h"
 #include "games/poker/hand_order.h"
 #include "games/poker/hand_reading.h"
 #include "games/poker/poker_tutor.h"
@@ -105,7 +106,6 @@ bool HayCartaLevantada(Integer asiento) {
 }
 
 void RotuloContinuar(std::string& primera, std::string& segunda) {
-    constexpr Integer kPrimeraRonda = 3, kDescartes = 4, kSegundaRonda = 5;
     const Integer asiento = estado.JugadorActual;
     const bool manual = estado.ControlJugador(asiento) == kManual;
     const Integer fase = estado.FaseApuesta;
