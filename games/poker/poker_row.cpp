@@ -11,6 +11,9 @@
 #include "core/game_state.h"
 #include "core/numeric.h"
 #include "core/random.h"
+#include "games/poker/hand_order.h"
+#include "games/poker/hand_reading.h"
+#include "games/poker/poker_tutor.h"
 #include "table/button_column.h"
 #include "table/deck_setup.h"
 #include "table/game_row.h"
@@ -39,6 +42,7 @@ void PreparaBaraja() {
     for (int valor = 2; valor <= estado.CartasBaraja; ++valor)
         estado.ValorEnBaraja(valor) = false;
     PonFuerzas();
+    CargaTablasPoker();
 }
 
 bool HaApostado(Integer asiento) {
@@ -139,9 +143,9 @@ const FilaJuego& FilaPoker() {
         .id = kPoker,
         .nombre = "Póker",
         .sin_terminar = true,
-        .baraja = {.prepara = PreparaBaraja, .coloca_mazo = ColocaMazo, .rellena = MezclaDescartes},
+        .baraja = {.prepara = PreparaBaraja, .coloca_mazo = ColocaMazo, .rellena = MezclaDescartes, .ordena_mano = OrdenaCartasSeat},
         .reparto = {.recibe = Recibe},
-        .entrada = {.clic = AlternaDescarte},
+        .entrada = {.clic = AlternaDescarte, .tutor = ConsejoTutor},
         .pintura = {.rotulo_continuar = RotuloContinuar},
         .dinero = {.hay = true, .reglas = {.bote = true}},
         .normas = {.encabezado = "Baraja Francesa",
