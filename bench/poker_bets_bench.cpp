@@ -4,9 +4,9 @@
 
 #include "betting/bet_state.h"
 #include "betting/chips.h"
+#include "betting/phases.h"
 #include "core/game_state.h"
 #include "games/poker/bet_choice.h"
-#include "betting/phases.h"
 #include "games/poker/discard_choice.h"
 #include "games/poker/poker_state.h"
 #include "platform/headless/headless_platform.h"
@@ -54,7 +54,7 @@ void SientaACuatro(Integer fase) {
         }
     }
     estado.JugadorActual = 1;
-    estado.FaseApuesta = fase;
+    apuestas.FaseApuesta = fase;
     estado.AzarTurno = 0.5F;
     apuestas.MaximaApuesta = 10;
 }

@@ -4,9 +4,9 @@
 
 #include "betting/bet_state.h"
 #include "betting/chips.h"
+#include "betting/phases.h"
 #include "core/game_state.h"
 #include "core/numeric.h"
-#include "betting/phases.h"
 #include "games/poker/hand_reading.h"
 #include "games/poker/poker_state.h"
 #include "games/poker/rivals.h"
@@ -22,12 +22,13 @@ bool BarajaCorta() {
 }
 
 Integer ApuestaEnFase(Integer asiento, Integer fase) {
-    return estado.Apuesta(asiento, kSeriePoker, fase);
+    return apuestas.Apuesta(asiento, kSeriePoker, fase);
 }
 
 // Only half of the limit can go in the first round, unless somebody has bet more already.
 int TopePrimeraRonda(Integer asiento) {
-    const Long mitad = ParteEntera((estado.ApuestaMaxima - ApuestaEnFase(asiento, kFaseSalida)) / 2.0);
+    const Long mitad =
+        ParteEntera((estado.ApuestaMaxima - ApuestaEnFase(asiento, kFaseSalida)) / 2.0);
     return std::max<int>(mitad - ApuestaEnFase(asiento, kFasePrimeraRonda), apuestas.MaximaApuesta);
 }
 
@@ -145,12 +146,12 @@ void LeeSegundaRonda(LecturaApuesta& lectura) {
 LecturaApuesta LeeApuesta() {
     const Integer asiento = estado.JugadorActual;
     LecturaApuesta lectura{.asiento = asiento,
-                           .fase = estado.FaseApuesta,
+                           .fase = apuestas.FaseApuesta,
                            .caracter = estado.CaracterJugador(asiento),
                            .nivel = NivelQueDecide(asiento),
                            .azar = estado.AzarTurno,
                            .tope = poker.TopeApuesta,
-                           .puesto = ApuestaEnFase(asiento, estado.FaseApuesta),
+                           .puesto = ApuestaEnFase(asiento, apuestas.FaseApuesta),
                            .actitud = ActitudMesa()};
     lectura.llamada = apuestas.MaximaApuesta - lectura.puesto;
     if (lectura.fase == kFasePrimeraRonda)

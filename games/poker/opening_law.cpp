@@ -1,8 +1,8 @@
 #include "games/poker/opening_law.h"
 
 #include "betting/bet_state.h"
-#include "core/game_state.h"
 #include "betting/phases.h"
+#include "core/game_state.h"
 #include "games/poker/hand_reading.h"
 #include "games/poker/poker_state.h"
 
@@ -26,5 +26,5 @@ bool LeyAperturaCumplida() {
     AnalizaJugada(asiento);
     if (poker.MejorJugada(asiento) >= poker.Pareja && !ParejaBaja(asiento))
         return true;
-    return estado.FaseApuesta != kFasePrimeraRonda || apuestas.MaximaApuesta > 0;
+    return apuestas.FaseApuesta != kFasePrimeraRonda || apuestas.MaximaApuesta > 0;
 }

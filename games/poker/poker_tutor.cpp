@@ -4,16 +4,17 @@
 
 #include "betting/bet_state.h"
 #include "betting/chips.h"
+#include "betting/phases.h"
 #include "core/game_state.h"
 #include "core/text.h"
 #include "games/poker/bet_choice.h"
-#include "betting/phases.h"
 #include "games/poker/discard_choice.h"
 #include "games/poker/poker_state.h"
 #include "platform/canvas.h"
+#include "table/button_column.h"
 #include "table/messages.h"
+#include "table/seat_drawing.h"
 #include "table/side_buttons.h"
-#include "table/table_ops.h"
 
 namespace {
 
@@ -106,7 +107,7 @@ std::string TextoConsejo() {
     if (propuesta == RestoDe(asiento))
         return "Ir con el resto de " + Puntos(propuesta);
     const Consejo consejo{propuesta,
-                          propuesta + estado.Apuesta(asiento, kSeriePoker, estado.FaseApuesta),
+                          propuesta + apuestas.Apuesta(asiento, kSeriePoker, apuestas.FaseApuesta),
                           apuestas.MaximaApuesta};
     const FraseConsejo& frase =
         *std::ranges::find_if(kFrases, [&](const FraseConsejo& f) { return f.cuando(consejo); });
@@ -115,7 +116,7 @@ std::string TextoConsejo() {
 
 void ConsejoTutor() {
     const Integer asiento = estado.JugadorActual;
-    switch (estado.FaseApuesta) {
+    switch (apuestas.FaseApuesta) {
     case kFaseSalida:
     case kFasePrimeraRonda:
     case kFaseSegundaRonda:

@@ -1,6 +1,6 @@
 #include "games/poker/rivals.h"
 
-#include "betting/stakes.h"
+#include "betting/limits.h"
 #include "core/game_state.h"
 #include "core/numeric.h"
 
@@ -20,9 +20,5 @@ Integer ActitudMesa() {
 }
 
 bool RivalesSinResto() {
-    for (Integer asiento = 1; asiento <= 4; ++asiento) {
-        if (EsRival(asiento) && TieneResto(asiento))
-            return false;
-    }
-    return true;
+    return RivalesSinResto(estado.JugadorActual);
 }

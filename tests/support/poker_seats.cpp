@@ -6,8 +6,8 @@
 
 #include "betting/bet_state.h"
 #include "betting/chips.h"
-#include "games/poker/bet_choice.h"
 #include "betting/phases.h"
+#include "games/poker/bet_choice.h"
 #include "games/poker/discard_choice.h"
 #include "games/poker/hand_reading.h"
 #include "games/poker/poker_state.h"
@@ -81,11 +81,11 @@ void AsientosDePoker::Rivales(const std::vector<Integer>& asientos, Integer cara
 }
 
 void AsientosDePoker::Apuesta(Integer asiento, Integer fase, Integer puntos) {
-    estado.Apuesta(asiento, kSeriePoker, fase) = puntos;
+    apuestas.Apuesta(asiento, kSeriePoker, fase) = puntos;
 }
 
 void AsientosDePoker::Ronda(Integer fase, Integer maxima, double azar) {
-    estado.FaseApuesta = fase;
+    apuestas.FaseApuesta = fase;
     apuestas.MaximaApuesta = maxima;
     estado.AzarTurno = static_cast<float>(azar);
 }

@@ -25,7 +25,7 @@ protected:
     }
     static Fuerza FuerzaDe(const char* mano, Integer fase, Integer caracter, Integer nivel) {
         Da(1, mano);
-        estado.FaseApuesta = fase;
+        apuestas.FaseApuesta = fase;
         estado.CaracterJugador(1) = caracter;
         estado.NivelJugador(1) = nivel;
         return Lee().fuerza;
@@ -88,7 +88,7 @@ TEST_F(LecturaDeApuesta, EnLaSegundaRondaVaLoQueQuedaDelLimite) {
 TEST_F(LecturaDeApuesta, FueraDeLasDosRondasElTopeSeQueda) {
     Da(1, "7o 7c 7e Kb 2o");
     poker.TopeApuesta = 17;
-    estado.FaseApuesta = 2;
+    apuestas.FaseApuesta = 2;
     EXPECT_EQ(Lee().fuerza, Fuerza::Ninguna);
     EXPECT_EQ(poker.TopeApuesta, 17);
 }
@@ -199,7 +199,7 @@ TEST_F(LecturaDeApuesta, EnLaSegundaRondaCuentaLasManosQueSuperanLaSuya) {
     Da(2, "5o 6c 7e 8b 9o");
     Da(3, "9o 9c Qe 6b 2c"); // also a Pareja: no better
     Da(4, "9o 9c 9e 6b 2c");
-    estado.FaseApuesta = kSegunda;
+    apuestas.FaseApuesta = kSegunda;
     const LecturaApuesta lectura = Lee();
     EXPECT_EQ(lectura.por_encima, 2);
     EXPECT_EQ(lectura.mejor_rival, poker.Escalera);
@@ -208,7 +208,7 @@ TEST_F(LecturaDeApuesta, EnLaSegundaRondaCuentaLasManosQueSuperanLaSuya) {
 TEST_F(LecturaDeApuesta, UnaManoSinCartasNoCuentaEntreLosRivales) {
     Da(1, "7o 7c Ke 9b 2o");
     poker.MejorJugada(2) = poker.Poker; // of an earlier hand
-    estado.FaseApuesta = kSegunda;
+    apuestas.FaseApuesta = kSegunda;
     EXPECT_EQ(Lee().mejor_rival, 0);
     EXPECT_EQ(Lee().por_encima, 0);
 }
@@ -216,7 +216,7 @@ TEST_F(LecturaDeApuesta, UnaManoSinCartasNoCuentaEntreLosRivales) {
 TEST_F(LecturaDeApuesta, MejorRivalSoloEsCeroSinRivalesConCartas) {
     Da(1, "7o 7c Ke 9b 2o");
     Rivales({3}, kMedio);
-    estado.FaseApuesta = kSegunda;
+    apuestas.FaseApuesta = kSegunda;
     EXPECT_EQ(Lee().mejor_rival, poker.CartaMayor);
     Da(3, "");
     EXPECT_EQ(Lee().mejor_rival, 0);
@@ -225,7 +225,7 @@ TEST_F(LecturaDeApuesta, MejorRivalSoloEsCeroSinRivalesConCartas) {
 TEST_F(LecturaDeApuesta, SuPropiaManoEsLaDeLaUltimaVezQueLaMiro) {
     Da(1, "7o 7c Ke 9b 2o");
     Da(2, "9o 9c Qe 6b 2c");
-    estado.FaseApuesta = kSegunda;
+    apuestas.FaseApuesta = kSegunda;
     poker.MejorJugada(1) = poker.CartaMayor; // before the discard
     EXPECT_EQ(LeeApuesta().por_encima, 1);
     EXPECT_EQ(LeeApuesta().por_encima, 0) << "by now it has looked at its hand";
@@ -248,7 +248,7 @@ TEST_F(LecturaDeApuesta, AmenazaQuienCreeMejorPorSuDescarte) {
     poker.JugadaCreidaMin(2) = poker.Trio;
     poker.JugadaCreidaMin(3) = poker.DoblePareja; // as good as its own: no threat
     poker.JugadaCreidaMin(4) = poker.Figuras;
-    estado.FaseApuesta = kSegunda;
+    apuestas.FaseApuesta = kSegunda;
     const LecturaApuesta lectura = Lee();
     EXPECT_EQ(lectura.amenazas, 2);
     EXPECT_EQ(lectura.ultima_amenaza, 4);
@@ -257,7 +257,7 @@ TEST_F(LecturaDeApuesta, AmenazaQuienCreeMejorPorSuDescarte) {
 TEST_F(LecturaDeApuesta, QuienTiroSusCartasNoAmenaza) {
     Da(1, "7o 7c 9e 9b Ko");
     poker.JugadaCreidaMin(2) = poker.Figuras;
-    estado.FaseApuesta = kSegunda;
+    apuestas.FaseApuesta = kSegunda;
     EXPECT_EQ(Lee().amenazas, 0);
 }
 
@@ -274,7 +274,7 @@ TEST_F(LecturaDeApuesta, UnaApuestaFuerteParaSuCaracterHaceCreerLoMas) {
         Integer caracter, corriente, fuerte;
     } const filas[] = {{kConservador, 5, 6}, {kMedio, 14, 15}, {kAgresivo, 29, 30}};
     Da(1, "7o 7c 9e 9b Ko");
-    estado.FaseApuesta = kSegunda;
+    apuestas.FaseApuesta = kSegunda;
     for (const auto& fila : filas) {
         SCOPED_TRACE(fila.caracter);
         Rivales({3}, fila.caracter);
@@ -292,7 +292,7 @@ TEST_F(LecturaDeApuesta, LaApuestaFuerteSeMideConElTopeDeQuienDecide) {
     Da(1, "7o 7c 9e 9b Ko");
     Rivales({3}, kMedio);
     poker.JugadaCreidaMax(3) = poker.Trio;
-    estado.FaseApuesta = kSegunda;
+    apuestas.FaseApuesta = kSegunda;
     Apuesta(3, kSegunda, 9); // of 100 it is little, of the 60 that are left to seat 1 it is not
     EXPECT_EQ(Lee().amenazas, 0);
     Apuesta(1, 3, 40);

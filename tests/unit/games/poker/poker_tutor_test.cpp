@@ -1,6 +1,7 @@
 // What the tutor of Póker says and shows.
 
 #include "games/poker/poker_tutor.h"
+#include "table/button_column.h"
 
 #include <gtest/gtest.h>
 
@@ -10,7 +11,6 @@
 #include "betting/chips.h"
 #include "games/poker/poker_state.h"
 #include "platform/canvas.h"
-#include "table/table_ops.h"
 #include "table/trace.h"
 #include "tests/support/live_table.h"
 #include "tests/support/poker_seats.h"
@@ -46,8 +46,8 @@ protected:
             estado.Mano(4, 1, lugar, kAltura) = kEnLinea;
     }
     static void Ronda(Integer fase, Integer puesto, Integer maxima) {
-        estado.FaseApuesta = fase;
-        estado.Apuesta(4, 1, fase) = puesto;
+        apuestas.FaseApuesta = fase;
+        apuestas.Apuesta(4, 1, fase) = puesto;
         apuestas.MaximaApuesta = maxima;
     }
     // The words for a bet in the first round.
@@ -163,7 +163,7 @@ TEST_F(TutorDePoker, ElConsejoNoApuestaNiTerminaElTurno) {
     Ronda(kPrimera, 3, 12);
     estado.EsperandoJugada = true;
     Consejo();
-    EXPECT_EQ(estado.Apuesta(4, 1, kPrimera), 3);
+    EXPECT_EQ(apuestas.Apuesta(4, 1, kPrimera), 3);
     EXPECT_EQ(RestoDe(4), 200);
     EXPECT_TRUE(estado.EsperandoJugada);
     EXPECT_EQ(ManoDe(4), Cartas("7o 7c 7e Kb 2o"));
@@ -173,7 +173,7 @@ TEST_F(TutorDePoker, ElConsejoNoApuestaNiTerminaElTurno) {
 
 TEST_F(TutorDePoker, LasCartasQueSobranDestellanDosVeces) {
     Tiene("7o Kc 7e 7b 2o");
-    estado.FaseApuesta = kDescartes;
+    apuestas.FaseApuesta = kDescartes;
     Consejo();
     EXPECT_EQ(Destello(), (std::vector<std::string>{
                               "RedibujarAsiento(4)", "Pausa(180)", "Sonido(1, 26)", "Pausa(420)",
@@ -186,7 +186,7 @@ TEST_F(TutorDePoker, LasCartasQueSobranDestellanDosVeces) {
 
 TEST_F(TutorDePoker, MientrasDestellanEstanLevantadas) {
     Tiene("7o Kc 7e 7b 2o");
-    estado.FaseApuesta = kDescartes;
+    apuestas.FaseApuesta = kDescartes;
     std::vector<std::string> vistas;
     EscuchaTraza([&](const std::string& linea) {
         if (linea == "Pausa(180)" || linea == "Pausa(420)")
@@ -198,7 +198,7 @@ TEST_F(TutorDePoker, MientrasDestellanEstanLevantadas) {
 
 TEST_F(TutorDePoker, SiNoSobraNingunaDestellaServido) {
     Tiene("5o 6c 7e 8b 9o");
-    estado.FaseApuesta = kDescartes;
+    apuestas.FaseApuesta = kDescartes;
     Consejo();
     EXPECT_EQ(Destello(), (std::vector<std::string>{
                               "BotonSuperior(4, 2, 2)", "Pausa(180)", "Sonido(1, 12)", "Pausa(420)",
@@ -209,7 +209,7 @@ TEST_F(TutorDePoker, SiNoSobraNingunaDestellaServido) {
 TEST_F(TutorDePoker, LoElegidoAManoSeQuitaAntes) {
     p.UsaLienzosRegistrados();
     Tiene("5o 6c 7e 8b 9o");
-    estado.FaseApuesta = kDescartes;
+    apuestas.FaseApuesta = kDescartes;
     estado.EsperandoJugada = true;
     EligeAMano(1);
     EligeAMano(3);
@@ -224,7 +224,7 @@ TEST_F(TutorDePoker, LoElegidoAManoSeQuitaAntes) {
 
 TEST_F(TutorDePoker, QuitarLaSeleccionNoAbreUnaEspera) {
     Tiene("5o 6c 7e 8b 9o");
-    estado.FaseApuesta = kDescartes;
+    apuestas.FaseApuesta = kDescartes;
     EligeAMano(1);
     Consejo();
     EXPECT_EQ(Alturas(), "_____");
@@ -234,7 +234,7 @@ TEST_F(TutorDePoker, QuitarLaSeleccionNoAbreUnaEspera) {
 // A seat of level 20 would keep its pair.
 TEST_F(TutorDePoker, ElDescarteQueAconsejaEsElDeUnNivel100) {
     Tiene("7o 9o Jo 2o 7c");
-    estado.FaseApuesta = kDescartes;
+    apuestas.FaseApuesta = kDescartes;
     Consejo();
     EXPECT_EQ(poker.JugadaObjetivo, poker.ProyColor);
     EXPECT_EQ(poker.MarcaDescarte(5), 1);
@@ -242,7 +242,7 @@ TEST_F(TutorDePoker, ElDescarteQueAconsejaEsElDeUnNivel100) {
 }
 
 TEST_F(TutorDePoker, FueraDeLasRondasYLosDescartesCalla) {
-    estado.FaseApuesta = 1;
+    apuestas.FaseApuesta = 1;
     EXPECT_EQ(Consejo(), "");
     EXPECT_TRUE(Destello().empty());
 }
