@@ -4,10 +4,10 @@
 
 #include "betting/bet_state.h"
 #include "betting/chips.h"
+#include "betting/phases.h"
 #include "core/game_state.h"
 #include "core/numeric.h"
 #include "games/poker/bet_reading.h"
-#include "betting/phases.h"
 #include "games/poker/opening_law.h"
 #include "games/poker/poker_state.h"
 #include "games/poker/rivals.h"

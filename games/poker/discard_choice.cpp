@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "core/game_state.h"
 #include "betting/phases.h"
+#include "core/game_state.h"
 #include "games/poker/discard_target.h"
 #include "games/poker/hand_reading.h"
 #include "games/poker/poker_state.h"

@@ -2,10 +2,10 @@
 
 #include <utility>
 
-#include "table/seat_drawing.h"
 #include "core/game_state.h"
 #include "games/poker/hand_reading.h"
 #include "games/poker/poker_state.h"
+#include "table/seat_drawing.h"
 
 namespace {
 

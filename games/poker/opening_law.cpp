@@ -5,6 +5,7 @@
 #include "core/game_state.h"
 #include "games/poker/hand_reading.h"
 #include "games/poker/poker_state.h"
+#include "table/messages.h"
 
 namespace {
 
@@ -27,4 +28,15 @@ bool LeyAperturaCumplida() {
     if (poker.MejorJugada(asiento) >= poker.Pareja && !ParejaBaja(asiento))
         return true;
     return apuestas.FaseApuesta != kFasePrimeraRonda || apuestas.MaximaApuesta > 0;
+}
+
+bool LeyPermiteFicha() {
+    if (LeyAperturaCumplida())
+        return true;
+    Mensaje("Ley de apertura",
+            "Para  abrir  la  ronda  de  apuestas es necesario tener una pareja de " +
+                estado.NombreValorPlural(estado.LeyApertura + 1) +
+                " como mínimo (Ley de apertura).",
+            2, 1);
+    return false;
 }

@@ -6,3 +6,6 @@
 // pair. Reads LeyApertura (14: no law), FaseApuesta, MaximaApuesta; reads the seat's hand anew, which rewrites its
 // Jugadas and MejorJugada, unless there is no law.
 bool LeyAperturaCumplida();
+
+// The same, and the player is told when the law stands against a chip.
+bool LeyPermiteFicha();

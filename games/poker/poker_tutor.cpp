@@ -15,10 +15,10 @@
 #include "table/messages.h"
 #include "table/seat_drawing.h"
 #include "table/side_buttons.h"
+#include "table/sounds.h"
 
 namespace {
 
-constexpr int kSonidoParpadeo = 12, kSonidoCarta = 26;
 constexpr Integer kParpadeos = 2;
 constexpr int kServido = 2; // of Pic_BotSuperior
 
@@ -79,11 +79,11 @@ void PonMarcadas(Integer asiento, Integer altura) {
 
 // One flash: on, a sound while it lasts, off.
 template <class Pon>
-void Destella(Pon pon, int sonido) {
+void Destella(Pon pon, int cual) {
     for (int vez = 0; vez < 2; ++vez) {
         pon(true);
         Pausa(180);
-        Sonido(1, sonido);
+        Sonido(1, cual);
         Pausa(420);
         pon(false);
     }
@@ -93,9 +93,10 @@ void AconsejaDescarte(Integer asiento) {
     QuitaSeleccion(asiento);
     DecideDescarte();
     if (std::ranges::any_of(poker.MarcaDescarte, [](Integer marca) { return marca != 0; })) {
-        Destella([=](bool si) { PonMarcadas(asiento, si ? kLevantada : kEnLinea); }, kSonidoCarta);
+        Destella([=](bool si) { PonMarcadas(asiento, si ? kLevantada : kEnLinea); },
+                 sonido::kConsejo);
     } else {
-        Destella([=](bool si) { BotonSuperior(asiento, si ? 2 : 1, kServido); }, kSonidoParpadeo);
+        Destella([=](bool si) { BotonSuperior(asiento, si ? 2 : 1, kServido); }, sonido::kParpadeo);
     }
 }
 

@@ -19,6 +19,7 @@
 #include "games/poker/hand_reading.h"
 #include "games/poker/hand_value.h"
 #include "games/poker/opening_law.h"
+#include "games/poker/poker_driver.h"
 #include "games/poker/rivals.h"
 #include "games/sieteymedia/sieteymedia_decision.h"
 #include "games/trick/card_rules.h"
@@ -229,6 +230,10 @@ const std::unordered_map<std::string, Llamada>& LaTabla() { // NOLINT(readabilit
         {"RivalesSinResto", Llama(&RivalesSinResto)},
         {"DecideDescarte", Llama(&DecideDescarte)},
         {"ConsejoTutor", Llama(&PideConsejo)},
+
+        // Matches of Póker.
+        {"ManoPoker", Llama(&ManoPoker)},
+        {"IniciaMano", LlamaPasos(&IniciarJuego)},
     };
     return kTabla;
 }
