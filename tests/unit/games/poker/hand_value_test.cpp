@@ -63,8 +63,8 @@ TEST_F(NumeroDeOrden, UnaEscaleraNaturalGanaALaMismaConComodin) {
 TEST_F(NumeroDeOrden, LaCartaMayorVaDe1020EnMilVeinte) {
     Baraja(52, 0);
     EXPECT_EQ(Vale({{1, 7}, {2, 5}, {3, 4}, {4, 3}, {1, 2}}), 1020);
-    EXPECT_EQ(Vale({{1, 1}, {2, kReyFrances}, {3, kDama}, {4, 10}, {1, 9}}),
-              poker.CuentaJugada(poker.CartaMayor) - 1020);
+    EXPECT_EQ(Vale({{1, 1}, {2, kReyFrances}, {3, kDama}, {4, kJota}, {1, 9}}),
+              poker.CuentaJugada(poker.CartaMayor));
 }
 
 TEST_F(NumeroDeOrden, LasFigurasSeOrdenanEntreSi) {
