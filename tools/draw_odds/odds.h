@@ -16,8 +16,8 @@
 
 #include "games/poker/draw_odds.h"
 
-inline constexpr long long kDrawsPorClase = 4'000'000;
-inline constexpr int kManosPorClase = 20;
+inline constexpr long long kDrawsPorClase = 2'000'000;
+inline constexpr int kManosPorClase = 12;
 
 // The records of the deck whose tables are loaded, by category and Calidad. Uses the hand of seat 1.
 std::vector<RegistroDescarte> CalculaProbabilidades(long long draws_por_clase = kDrawsPorClase);
