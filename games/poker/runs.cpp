@@ -160,9 +160,16 @@ void Corridas::Registra(Corrida& corrida, Fila lista, bool comodin, bool segundo
 Corrida Corridas::DeDosPalos(Rangos primero, Rangos segundo, bool comodin) const {
     const Fila fila_primero = EnFila(primero), fila_segundo = EnFila(segundo);
     Corrida corrida;
+    Fila anterior = 0;
+    bool mandaba = false;
     for (const Fila tramo : tramos_) {
         const bool manda = std::popcount(fila_segundo & tramo) >= 2;
-        Registra(corrida, (manda ? fila_segundo : fila_primero) & tramo, comodin, manda);
+        const Fila lista = (manda ? fila_segundo : fila_primero) & tramo;
+        // Most steps meet no card more, and what they meet is entered already.
+        if (lista != anterior || manda != mandaba)
+            Registra(corrida, lista, comodin, manda);
+        anterior = lista;
+        mandaba = manda;
     }
     return corrida;
 }

@@ -93,18 +93,29 @@ struct Manos {
     long long cuantas = 0;
 };
 
+// The hands that throw away the same number of cards, in the order in which the deck brings them.
+struct Estrato {
+    std::vector<Manos> manos;
+    long long cuantas = 0;
+};
+
 struct Clase {
     std::unordered_map<Forma, std::size_t, HashForma> sitio;
-    std::vector<Manos> manos; // in the order in which the deck brings them
-    std::array<long long, kCartasMano + 1> por_descarte{};
+    std::array<Estrato, kCartasMano + 1> estratos; // by the number of cards that go
 
     void Apunta(const Indices& mano, const std::vector<bool>& conserva) {
-        const auto [donde, nueva] = sitio.try_emplace(FormaDe(conserva), manos.size());
-        if (nueva)
-            manos.push_back({mano, 0});
-        ++manos[donde->second].cuantas;
-        ++por_descarte[static_cast<std::size_t>(
+        Estrato& estrato = estratos[static_cast<std::size_t>(
             std::count(conserva.begin() + 1, conserva.end(), false))];
+        const auto [donde, nueva] = sitio.try_emplace(FormaDe(conserva), estrato.manos.size());
+        if (nueva)
+            estrato.manos.push_back({mano, 0});
+        ++estrato.manos[donde->second].cuantas;
+        ++estrato.cuantas;
+    }
+    // How many cards go most often.
+    int Descartes() const {
+        return static_cast<int>(std::ranges::max_element(estratos, {}, &Estrato::cuantas) -
+                                estratos.begin());
     }
 };
 
@@ -188,22 +199,35 @@ Partes PartesDe(const Mazo& mazo, const Indices& mano, Integer categoria) {
     return partes;
 }
 
-// The hands that stand for a kind: all of them, or some at even distances.
-std::vector<Manos> Muestra(const Clase& clase, long long tope) {
-    if (static_cast<long long>(clase.manos.size()) <= tope)
-        return clase.manos;
-    long long total = 0;
-    for (const Manos& manos : clase.manos)
-        total += manos.cuantas;
+// The hands that stand for all: each of them, or tope at even distances.
+std::vector<Manos> Muestra(const Estrato& estrato, long long tope) {
+    if (static_cast<long long>(estrato.manos.size()) <= tope)
+        return estrato.manos;
     std::vector<Manos> muestra;
     long long vistas = 0;
-    for (const Manos& manos : clase.manos) {
+    for (const Manos& manos : estrato.manos) {
         vistas += manos.cuantas;
         while (static_cast<long long>(muestra.size()) < tope &&
-               (2 * static_cast<long long>(muestra.size()) + 1) * total < 2 * tope * vistas)
+               (2 * static_cast<long long>(muestra.size()) + 1) * estrato.cuantas <
+                   2 * tope * vistas)
             muestra.push_back({manos.primera, 1});
     }
     return muestra;
+}
+
+Partes Media(const Mazo& mazo, Integer categoria, const std::vector<Manos>& muestra) {
+    Partes media{};
+    double peso = 0;
+    for (const Manos& manos : muestra) {
+        const Partes partes = PartesDe(mazo, manos.primera, categoria);
+        const auto cuantas = static_cast<double>(manos.cuantas);
+        for (std::size_t n = 0; n < media.size(); ++n)
+            media[n] += partes[n] * cuantas;
+        peso += cuantas;
+    }
+    for (double& parte : media)
+        parte /= peso;
+    return media;
 }
 
 // Whole numbers in these shares whose sum is exactly total: the largest rests are rounded up.
@@ -226,25 +250,26 @@ void PonCasos(RegistroDescarte& registro, const Partes& partes, Long total) {
 
 RegistroDescarte ResumeClase(const Mazo& mazo, const std::pair<Integer, Integer>& cual,
                              const Clase& clase, long long draws_por_clase) {
-    const auto descartes =
-        static_cast<int>(std::ranges::max_element(clase.por_descarte) - clase.por_descarte.begin());
-    const Long draws = CuantosDraws(mazo, descartes);
-    const long long tope = std::max<long long>(kManosPorClase, draws_por_clase / draws);
-    Partes medias{};
+    Partes partes{};
     double peso = 0;
-    for (const Manos& manos : Muestra(clase, tope)) {
-        const Partes partes = PartesDe(mazo, manos.primera, cual.first);
-        const auto cuantas = static_cast<double>(manos.cuantas);
-        for (std::size_t n = 0; n < medias.size(); ++n)
-            medias[n] += partes[n] * cuantas;
+    for (int descartes = 0; descartes <= kCartasMano; ++descartes) {
+        const Estrato& estrato = clase.estratos[static_cast<std::size_t>(descartes)];
+        if (estrato.cuantas == 0)
+            continue;
+        const long long tope =
+            std::max<long long>(kManosPorClase, draws_por_clase / CuantosDraws(mazo, descartes));
+        const Partes suyas = Media(mazo, cual.first, Muestra(estrato, tope));
+        const auto cuantas = static_cast<double>(estrato.cuantas);
+        for (std::size_t n = 0; n < partes.size(); ++n)
+            partes[n] += suyas[n] * cuantas;
         peso += cuantas;
     }
-    for (double& media : medias)
-        media /= peso;
+    for (double& parte : partes)
+        parte /= peso;
     RegistroDescarte registro;
     registro.JugadaMantenida = cual.first;
     registro.CalidadMantenida = cual.second;
-    PonCasos(registro, medias, draws);
+    PonCasos(registro, partes, CuantosDraws(mazo, clase.Descartes()));
     return registro;
 }
 

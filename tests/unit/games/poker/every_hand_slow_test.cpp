@@ -18,7 +18,6 @@ namespace {
 constexpr int kTodas = 1;
 
 struct BarajaEntera : testing::TestWithParam<int> {};
-struct BarajaConDosComodines : testing::TestWithParam<int> {};
 
 using Cuentas = std::map<int, Long>;
 
@@ -93,6 +92,47 @@ TEST_P(BarajaEntera, LaLecturaPorTablasEsLaDeLasReglas) {
         const BarajaDePoker baraja(n, comodines);
         EXPECT_EQ(PrimeraDiferencia(baraja, entera ? kTodas : kMuestra), "")
             << "comodines " << comodines - 1;
+    }
+}
+
+// With two the table takes any three figures for Figuras and any three cards of a suit for Color. Three figures are
+// three different ones in 256 ways, of which 16 are of one suit and stand under Color, or in a long deck a pair of them
+// and another in 288, a Trio to a reading. Of three suited ranks 286 in 52 cards are of one suit: 4 x 286 hands.
+TEST_P(BarajaEntera, ConDosComodinesFiguras_Color_ParejaYTrioSeApartanDeLaTabla) {
+    constexpr Long kFigurasSueltas = 256 - 16, kParejaYOtra = 288;
+    const auto n = static_cast<Integer>(GetParam());
+    const BarajaDePoker baraja(n, 3);
+    const bool larga = n < 4;
+    const Long rangos = 14 - n;
+    const Long del_mismo_palo = 4 * rangos * (rangos - 1) * (rangos - 2) / 6;
+    Cuentas esperadas = CuentasDeLaTabla();
+    esperadas[poker.Color] -= del_mismo_palo;
+    if (esperadas[poker.Color] == 0)
+        esperadas.erase(poker.Color);
+    esperadas[poker.Figuras] -= kFigurasSueltas + (larga ? kParejaYOtra : 0);
+    esperadas[poker.Trio] += larga ? kParejaYOtra : 0;
+    esperadas[poker.Pareja] += del_mismo_palo + kFigurasSueltas;
+    EXPECT_EQ(CuentaCategorias(baraja), esperadas);
+}
+
+// The lowest hand of each category is above the highest of the one below, whatever the jokers.
+TEST_P(BarajaEntera, UnaCategoriaMasAltaNuncaPierdeNiEmpataConUnaMasBaja) {
+    for (const Integer comodines : {Integer{1}, Integer{2}, Integer{3}}) {
+        const BarajaDePoker baraja(static_cast<Integer>(GetParam()), comodines);
+        std::map<int, std::pair<Long, Long>> extremos;
+        CadaMano(baraja, kTodas, [&] {
+            AnalizaJugada(1);
+            const Long valor = ValorJugada(poker.MejorJugada(1), 1);
+            auto& [menor, mayor] =
+                extremos.try_emplace(poker.MejorJugada(1), valor, valor).first->second;
+            menor = std::min(menor, valor);
+            mayor = std::max(mayor, valor);
+        });
+        Long anterior = 0;
+        for (const auto& [categoria, extremo] : extremos) {
+            EXPECT_GT(extremo.first, anterior) << "categoria " << categoria;
+            anterior = extremo.second;
+        }
     }
 }
 
