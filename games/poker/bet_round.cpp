@@ -23,10 +23,13 @@ void EmpiezaRonda() {
     CuentaJugadoresEnMano();
 }
 
-bool TodosEnElLimite() {
+// Everybody who holds cards has bet all that the limit of the hand, or the chips, allow.
+bool NadiePuedeApostar() {
     for (Integer asiento = 1; asiento <= 4; ++asiento) {
-        if (TieneCartas(asiento) && ApuestaTotal(asiento, kSeriePoker) < estado.ApuestaMaxima)
+        if (TieneCartas(asiento) && TieneResto(asiento) &&
+            ApuestaTotal(asiento, kSeriePoker) < estado.ApuestaMaxima) {
             return false;
+        }
     }
     return true;
 }
@@ -69,8 +72,9 @@ void AnulaSiNadieApuesta() {
 
 bool RondaDeApuestas() {
     EmpiezaRonda();
-    // A round in which nobody may bet any more is no round that nobody wanted to bet in: the hand goes on.
-    if (TodosEnElLimite())
+    // A round in which nobody may bet any more is no round that nobody wanted to bet in: the hand goes on. Were it void,
+    // with the pot that has brought the seats to their limit, no later hand would end either.
+    if (NadiePuedeApostar())
         return true;
     if (!DaTurnos())
         return false;
