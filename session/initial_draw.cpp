@@ -14,7 +14,6 @@
 
 namespace {
 
-constexpr Integer kAs = 1;
 constexpr int kUltimoValor = 13;
 
 void PonEnLugarLibre(Integer palo, Integer valor) {

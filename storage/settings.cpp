@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <functional>
 
+#include "core/default_settings.h"
 #include "core/game_state.h"
 #include "core/session_state.h"
 #include "core/text.h"

@@ -4,6 +4,7 @@
 
 #include <stdexcept>
 
+#include "core/default_settings.h"
 #include "core/random.h"
 #include "session/main_buttons.h"
 #include "session/match_driver.h"
