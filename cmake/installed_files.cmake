@@ -17,6 +17,7 @@ endfunction()
 
 expect(bin/zovin)
 expect(lib/zovin/zovin)
+expect(lib/zovin/PkFDes.ZOV)
 expect(lib/zovin/plugins/zovin_sound.so)
 expect(share/applications/local.zovin.Zovin.desktop)
 expect(share/metainfo/local.zovin.Zovin.metainfo.xml)

@@ -33,7 +33,10 @@ enum class Control {
     Pic_APBotIgualar,
     Pic_APBotApostar,
     Pic_APBotAnular,
-    Ultimo = Pic_APBotAnular,
+    Pic_APApoJugAct, // the two displays of the board
+    Pic_APApoJugAcu,
+    Pic_NumerosCristal, // a chip on its way
+    Ultimo = Pic_NumerosCristal,
 };
 
 // The main buttons: the indices of Pic_Boton.
@@ -175,6 +178,9 @@ public:
 
     // False where nobody will ever go on with a match: it is then not written between hands.
     virtual bool GuardaPartidas() const { return true; }
+
+    // False where the game goes on without the data files that come with the program.
+    virtual bool ExigeFicheros() const { return true; }
 
     // Folders end without a separator. CarpetaUsuario is the writable folder of the user.
     virtual Archivos& LosArchivos() = 0;

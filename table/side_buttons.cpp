@@ -1,8 +1,5 @@
 #include "table/side_buttons.h"
 
-#include <algorithm>
-
-#include "betting/bet_state.h"
 #include "core/game_state.h"
 #include "core/text.h"
 #include "table/game_row.h"
@@ -16,9 +13,10 @@ constexpr int kSeparacion = 4; // between a button and its neighbours
 constexpr int kBandaRotulo =
     22; // the caption's strip and the raised cards stand nearer to the zone
 constexpr int kLargoZona = 250;
-// The pile lies before the bank: its buttons stand on both sides of it, 38 and more further apart.
+// Before the bank lies the pile: the buttons stand on both sides of it, 38 and more further apart.
 constexpr int kMitadMazo = 56, kMitadMazoAlto = 84;
-constexpr Fuente kLetraBoton{.alto = 12, .negrita = true};
+constexpr int kMitadApuesta = 36; // of the chips that lie in the middle before the seat
+constexpr Fuente kLetraBoton{.alto = 12, .negrita = true, .tope = 84};
 
 // A control of ancho by alto on the inner side of the seat's zone, a lo largo pixels along its edge.
 Rectangulo JuntoAlAsiento(int asiento, int a_lo_largo, int adentro, int ancho, int alto) {
@@ -54,7 +52,9 @@ void Pon(Control control, int indice, const Rectangulo& donde, const lamina::Rec
     p.Repinta();
 }
 
-bool EsBanca(int asiento) {
+bool TieneMazoDelante(int asiento) {
+    if (JuegoEnMesa().pintura.mazos_a_los_lados && AsientoLateral(asiento))
+        return true;
     return estado.JuegoConBanca && asiento == estado.JugadorBanca;
 }
 
@@ -64,7 +64,7 @@ int PrincipioSuperior(int asiento, int index) {
     const lamina::Recorte& recorte = lamina::kBotonSuperiorArriba;
     const int largo = vertical ? recorte.alto : recorte.ancho;
     const int mitad_mazo = vertical ? kMitadMazoAlto : kMitadMazo;
-    const int del_medio = EsBanca(asiento) ? mitad_mazo + kSeparacion : kSeparacion / 2;
+    const int del_medio = TieneMazoDelante(asiento) ? mitad_mazo + kSeparacion : kSeparacion / 2;
     return kLargoZona / 2 + (index == 1 ? -del_medio - largo : del_medio);
 }
 
@@ -87,21 +87,22 @@ void BotonSuperior(int asiento, int state, int index) {
     Traza("BotonSuperior", asiento, state, index);
     const lamina::Recorte& recorte =
         state == 2 ? lamina::kBotonSuperiorPulsado : lamina::kBotonSuperiorArriba;
+    const RotuloBoton& suyo = JuegoEnMesa().pintura.superiores.at(index == 1 ? 0 : 1);
     Pon(Control::Pic_BotSuperior, index,
         JuntoAlAsiento(asiento, PrincipioSuperior(asiento, index), kBandaRotulo, recorte.ancho,
                        recorte.alto),
-        recorte, index == 1 ? "  C a r t a" : "S e r v i d o", index == 1 ? "Carta" : "Servido");
+        recorte, suyo.rotulo, suyo.nombre);
 }
 
 void BotonDobSeg(int asiento, int state, const std::string& texto) {
     Traza("BotonDobSeg", asiento, state, texto);
     const lamina::Recorte& recorte =
         state == 2 ? lamina::kBotonDobSegPulsado : lamina::kBotonDobSegArriba;
-    // Below the other two.
+    // Below the other two, or beyond them and beside what is bet.
     const bool vertical = AsientoLateral(asiento);
     const int bajo_los_otros = lamina::kBotonSuperiorArriba.alto + kSeparacion;
     const int a_lo_largo = vertical ? PrincipioSuperior(asiento, 2) + bajo_los_otros
-                                    : (kLargoZona - recorte.ancho) / 2;
+                                    : kLargoZona / 2 - kMitadApuesta - kSeparacion - recorte.ancho;
     const int adentro = kBandaRotulo + (vertical ? 0 : bajo_los_otros);
     Pon(Control::Pic_BotDobSeg, 0,
         JuntoAlAsiento(asiento, a_lo_largo, adentro, recorte.ancho, recorte.alto), recorte, texto,
@@ -117,9 +118,11 @@ void MostrarPuntos(int asiento) {
         return;
     const double puntos = juego.pintura.puntos(asiento, estado.SerieActual);
     const bool medios = puntos != static_cast<int>(puntos);
+    // Above the zone at the sides, where the bet board leaves it to see.
+    const bool vertical = AsientoLateral(asiento);
+    const int a_lo_largo = vertical ? -kSeparacion - placa.alto : kLargoZona + kSeparacion;
     Pon(Control::Pic_Tantos, asiento,
-        JuntoAlAsiento(asiento, kLargoZona + kSeparacion,
-                       AsientoLateral(asiento) ? -placa.ancho : -placa.alto, placa.ancho,
+        JuntoAlAsiento(asiento, a_lo_largo, vertical ? -placa.ancho : -placa.alto, placa.ancho,
                        placa.alto),
         placa, "", "Puntos de " + estado.NombreJugador(asiento));
     if (plataforma().HayPantalla()) {
@@ -127,19 +130,5 @@ void MostrarPuntos(int asiento) {
             .LienzoDe(Control::Pic_Tantos, asiento)
             .Texto(placa.ancho / 2, kPlaca, Formato(puntos, medios ? "#0.0" : "#0"),
                    {.alto = 16, .negrita = true}, color::kNegro, Alineacion::Centro);
-    }
-}
-
-void PintarFichas(int asiento, int area) {
-    constexpr int kGruesoFicha = 3, kFichasVisibles = 8;
-    if (!plataforma().HayPantalla())
-        return;
-    Lienzo& mesa = plataforma().LienzoDe(Control::Mesa, 0);
-    for (int ficha = 1; ficha <= 6; ++ficha) {
-        const int altura = std::min<int>(apuestas.Fichas(asiento, ficha), kFichasVisibles);
-        for (int i = 0; i < altura; ++i) {
-            mesa.Lamina(estado.PosFichaX(area, ficha),
-                        estado.PosFichaY(area, ficha) - i * kGruesoFicha, lamina::Ficha(ficha));
-        }
     }
 }

@@ -1,6 +1,6 @@
 #pragma once
-// What stands beside a seat in the games of series and chips: the buttons to ask for a card, to stand, to browse
-// the series, to double or insure; the score plate; the stacks of chips. state 1 is up, 2 pressed. Seats 1..4.
+// What stands beside a seat in the games of series: the buttons to ask for a card, to stand, to browse the series, to
+// double or insure; the score plate. state 1 is up, 2 pressed. Seats 1..4.
 
 #include <string>
 
@@ -8,13 +8,11 @@
 
 // Pic_BotLateral(index) on the seat: 1 the serie before, 2 the next one.
 void BotonLateral(int asiento, int state, int index);
-// Pic_BotSuperior(index) on the seat: 1 "  C a r t a", 2 "S e r v i d o"; on the bank with the pile between them.
+// Pic_BotSuperior(index) on the seat, with the words of the game (1 "  C a r t a", 2 "S e r v i d o"); where a pile lies
+// before the seat, with it between them.
 void BotonSuperior(int asiento, int state, int index);
 // Pic_BotDobSeg on the seat, with "D o b l a r" or "S e g u r o".
 void BotonDobSeg(int asiento, int state, const std::string& texto);
 
 // The score plate Pic_Tantos(asiento) with the count of SerieActual.
 void MostrarPuntos(int asiento);
-
-// The seat's stacks of chips (0 the pot), at the chip places of an area.
-void PintarFichas(int asiento, int area);

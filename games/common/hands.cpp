@@ -22,8 +22,9 @@ namespace {
 
 constexpr int kJuegosGuardados = 999; // what the file can count; older records are let go
 
+// In the games with money a hand is won alone.
 bool PorParejas() {
-    return estado.ModalidadJuego == kDosParejas;
+    return estado.ModalidadJuego == kDosParejas && !JuegoEnMesa().dinero.hay;
 }
 
 bool EnEquipo(int asiento, Integer ganador) {
@@ -211,6 +212,10 @@ std::string TextoGana(Integer ganador, const std::string& que) {
 bool CuentaFinalMano(const std::string& texto) {
     Pausa(750);
     Mensaje("Final de la mano", texto, LineasDe(texto), 1);
+    return EsperaOtraMano();
+}
+
+bool EsperaOtraMano() {
     if (estado.PausaEntreJugadas || AlguienManual())
         return EsperaContinuar();
     PaseDeEventos(Pase::DePaso);

@@ -23,9 +23,11 @@ void ParpadeaGanador();
 // "Ha ganado la mano Ana", or in the second person for seat 4: que is "la mano" or "la partida".
 std::string TextoGana(Integer ganador, const std::string& que);
 
-// The end of a hand, told: a pause, the dialog "Final de la mano" and the wait on "Continuar" (a pause of 500
-// instead when no seat is manual and no pause between moves is wanted). False when the match was left.
+// The end of a hand, told: a pause, the dialog "Final de la mano" and the wait. False when the match was left.
 [[nodiscard]] bool CuentaFinalMano(const std::string& texto);
+// The wait on "Continuar" before the next hand, or a pause of 500 when no seat is manual and no pause between moves is
+// wanted. False when the match was left.
+[[nodiscard]] bool EsperaOtraMano();
 
 // The hand counts: its record is in Juegos, the files are written. GanaMano adds one to JuegosGanados(GanadorMano).
 void ApuntaMano();
