@@ -84,9 +84,9 @@ void ReparaJugadores(const FilaJuego& juego) {
 
 // The seat that holds the bank in the match; 0 in a game with a pot.
 Integer BancaDe(const FilaJuego& juego) {
-    if (juego.asiento_banca != 0)
-        return juego.asiento_banca;
-    return juego.sorteo_da_banca ? estado.JugadorBanca : Integer{0};
+    if (juego.asientos.banca != 0)
+        return juego.asientos.banca;
+    return juego.sorteo.da_banca ? estado.JugadorBanca : Integer{0};
 }
 
 // A bank that does not play hands it on.
@@ -97,9 +97,9 @@ void ReparaBanca() {
 
 void ReparaDinero(const FilaJuego& juego) {
     ReparaFichas();
-    if (!juego.con_dinero || !estado.PartidaEnCurso)
+    if (!juego.dinero.hay || !estado.PartidaEnCurso)
         return;
-    if (juego.sorteo_da_banca)
+    if (juego.sorteo.da_banca)
         ReparaBanca();
     ReparaPartidaConDinero({.banca = BancaDe(juego), .resto_maximo = kLimitesRestoInicial.maximo});
 }

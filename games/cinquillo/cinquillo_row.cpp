@@ -30,10 +30,6 @@ std::string ClaveOrden(Integer palo, Integer valor) {
     return Formato(palo, "0") + Formato(valor, "00");
 }
 
-void RecogeTendido() {
-    bazas.CartaJugada.Borra();
-}
-
 } // namespace
 
 const FilaJuego& FilaCinquillo() {
@@ -50,7 +46,7 @@ const FilaJuego& FilaCinquillo() {
                     .tutor = [] { AconsejaCarta(EligeCartaCinquillo); }},
         .pintura = {.centro = PintaTendido, .rotulo_continuar = RotuloDeJuega},
         .mano = {.limpia = BorraBazas},
-        .partida = {.nueva = RecogeTendido},
+        .partida = {.nueva = OlvidaBazas},
         .normas = {.reglas = {Regla::Reparto, Regla::Limite}},
     };
     return kFila;

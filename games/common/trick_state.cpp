@@ -17,3 +17,9 @@ void BorraBazas() {
     bazas.CartasJugables.Borra();
     bazas.NumJugables = 0;
 }
+
+void OlvidaBazas() {
+    bazas.CartaJugada.Borra();
+    bazas.CartaEnMesa.Borra();
+    bazas.TuteCantado = false;
+}

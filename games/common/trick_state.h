@@ -44,5 +44,7 @@ struct EstadoBazas {
 
 extern EstadoBazas bazas;
 
-// What a hand leaves behind is cleared before the next one.
+// What a hand leaves behind is cleared before the next one; at the beginning of a match and of a session, what still
+// lies on the table from another one.
 void BorraBazas();
+void OlvidaBazas();

@@ -63,12 +63,6 @@ bool ClicEnMazo(Puntero puntero, int /*lugar*/) {
     return true;
 }
 
-void OlvidaBazas() {
-    bazas.CartaJugada.Borra();
-    bazas.CartaEnMesa.Borra();
-    bazas.TuteCantado = false;
-}
-
 // What both games have on the table.
 FilaJuego FilaDeBazas(Integer id, const char* nombre, void (*prepara)(), void (*driver)()) {
     return {

@@ -1,10 +1,11 @@
 #include "tests/support/bank_table.h"
-#include "betting/phases.h"
 
 #include <algorithm>
 
 #include "betting/bet_state.h"
 #include "betting/chips.h"
+#include "betting/phases.h"
+#include "games/common/trick_state.h"
 
 namespace prueba {
 

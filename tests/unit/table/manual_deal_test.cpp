@@ -349,7 +349,7 @@ TEST_F(RepartoAMano, SiLasNormasVuelvenAlAutomaticoSeReparteDeNuevo) {
     EXPECT_FALSE(estado.RepartoEnCurso);
     for (int asiento = 1; asiento <= 4; ++asiento)
         EXPECT_EQ(estado.NumCartas(asiento, 1), 3);
-    EXPECT_EQ(estado.CartasEnMazo, 28);
+    EXPECT_EQ(estado.CartasEnMazo, 27);
 }
 
 TEST_F(RepartoAMano, OtraBarajaEnLasNormasExtiendeLaNueva) {

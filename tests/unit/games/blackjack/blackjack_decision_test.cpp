@@ -24,6 +24,7 @@ struct DecisionBlackJack : testing::Test {
     }
     static void Mano(const std::vector<Integer>& valores) {
         std::vector<Carta> cartas;
+        cartas.reserve(valores.size());
         for (Integer valor : valores)
             cartas.emplace_back(kCopas, valor);
         PonSerie(4, 1, cartas);

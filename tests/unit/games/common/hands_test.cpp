@@ -255,7 +255,7 @@ TEST_F(Manos, LaManoGanadaCuentaYSeGuarda) {
     estado.JuegosJugados = 1;
     estado.GanadorMano = 3;
     sesion.mano_apuntada = false;
-    ApuntaMano();
+    GanaMano();
     EXPECT_EQ(estado.JuegosGanados(3), 1);
     EXPECT_TRUE(sesion.mano_apuntada);
     EXPECT_TRUE(p.EnMemoria().contenidos.contains("./ZOV7031.INI"));
@@ -266,7 +266,7 @@ namespace {
 // A hand that goes to GanadorMano at once.
 bool ManoCorta() {
     ++estado.JuegosJugados;
-    ApuntaMano();
+    GanaMano();
     return true;
 }
 
