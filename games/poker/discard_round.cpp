@@ -164,7 +164,7 @@ void PulsaBotonDeDescarte(Control control, int indice) {
     if (control != Control::Pic_BotSuperior || !EligeDescarte(asiento) || !estado.EsperandoJugada)
         return;
     BotonSuperior(asiento, kPulsado, indice);
-    Sonido(0, sonido::kBotonLateral);
+    Sonido(0, sonido::kBotonDeApuesta);
     Pausa(kPausaPulsado);
     BotonSuperior(asiento, kArriba, indice);
     if (indice == kServido)
