@@ -93,6 +93,8 @@ void ClicEnControl(const Evento& evento) {
         CierraSugerencia();
         break;
     default:
+        if (JuegoEnMesa().entrada.clic_control != nullptr)
+            JuegoEnMesa().entrada.clic_control(evento.control, evento.indice);
         break;
     }
 }

@@ -158,7 +158,7 @@ void LimpiaZona(int asiento) {
 }
 
 void PintaCartas(int asiento) {
-    const Integer serie = estado.SerieActual;
+    const Integer serie = SerieALaVista(asiento);
     const Integer cartas = estado.NumCartas(asiento, serie);
     for (int lugar = 1; lugar <= cartas; ++lugar) {
         const bool en_el_aire = estado.ArrastraCarta && vista.asiento_arrastrado == asiento &&
@@ -181,7 +181,7 @@ void PintaDinero(int asiento) {
     if (!JuegoEnMesa().dinero.hay)
         return;
     PintarFichas(asiento, asiento - 1);
-    if (estado.JuegoConBanca && estado.SerieTerminada(asiento, estado.SerieActual)) {
+    if (estado.JuegoConBanca && estado.SerieTerminada(asiento, SerieALaVista(asiento))) {
         const Rectangulo zona = ZonaDe(asiento);
         const lamina::Recorte& marca = lamina::kMarcaSerieTerminada;
         Mesa().Lamina(zona.x + zona.ancho - marca.ancho - kAltoRenglon,
@@ -190,6 +190,12 @@ void PintaDinero(int asiento) {
 }
 
 } // namespace
+
+Integer SerieALaVista(int asiento) {
+    const Integer ultima = estado.SeriesJugador(asiento);
+    const bool es_de_otro = estado.JuegoConBanca && asiento != estado.JugadorActual;
+    return es_de_otro && ultima > 0 ? ultima : estado.SerieActual;
+}
 
 void RedibujarAsiento(int asiento) {
     Traza("RedibujarAsiento", asiento);
@@ -208,6 +214,8 @@ void RedibujarAsiento(int asiento) {
     if (plataforma().HayPantalla())
         PintaDinero(asiento);
     const FilaJuego& juego = JuegoEnMesa();
+    if (juego.pintura.puntos != nullptr)
+        MostrarPuntos(asiento);
     if (juego.pintura.botones_asiento != nullptr)
         juego.pintura.botones_asiento(asiento);
     if (plataforma().HayPantalla())

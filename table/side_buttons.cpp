@@ -7,6 +7,7 @@
 #include "core/text.h"
 #include "table/game_row.h"
 #include "table/layout.h"
+#include "table/seat_drawing.h"
 #include "table/sheet_layout.h"
 #include "table/trace.h"
 
@@ -115,7 +116,11 @@ void MostrarPuntos(int asiento) {
     const FilaJuego& juego = JuegoEnMesa();
     if (juego.pintura.puntos == nullptr)
         return;
-    const double puntos = juego.pintura.puntos(asiento, estado.SerieActual);
+    const double puntos = juego.pintura.puntos(asiento, SerieALaVista(asiento));
+    if (puntos == 0 || (EsBanca(asiento) && asiento != estado.JugadorActual)) {
+        plataforma().Muestra(Control::Pic_Tantos, asiento, false);
+        return;
+    }
     const bool medios = puntos != static_cast<int>(puntos);
     Pon(Control::Pic_Tantos, asiento,
         JuntoAlAsiento(asiento, kLargoZona + kSeparacion,

@@ -13,7 +13,8 @@ void BotonSuperior(int asiento, int state, int index);
 // Pic_BotDobSeg on the seat, with "D o b l a r" or "S e g u r o".
 void BotonDobSeg(int asiento, int state, const std::string& texto);
 
-// The score plate Pic_Tantos(asiento) with the count of SerieActual.
+// The score plate Pic_Tantos(asiento) with the count of the serie on show. There is none for a count of 0, nor for the
+// bank out of its turn.
 void MostrarPuntos(int asiento);
 
 // The seat's stacks of chips (0 the pot), at the chip places of an area.

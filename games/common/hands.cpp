@@ -211,6 +211,10 @@ std::string TextoGana(Integer ganador, const std::string& que) {
 bool CuentaFinalMano(const std::string& texto) {
     Pausa(750);
     Mensaje("Final de la mano", texto, LineasDe(texto), 1);
+    return EsperaOtraMano();
+}
+
+bool EsperaOtraMano() {
     if (estado.PausaEntreJugadas || AlguienManual())
         return EsperaContinuar();
     PaseDeEventos(Pase::DePaso);

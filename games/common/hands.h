@@ -27,6 +27,10 @@ std::string TextoGana(Integer ganador, const std::string& que);
 // instead when no seat is manual and no pause between moves is wanted). False when the match was left.
 [[nodiscard]] bool CuentaFinalMano(const std::string& texto);
 
+// The wait on "Continuar" between two hands; a pause of 500 instead when no seat is manual and no pause between moves is
+// wanted. False when the match was left.
+[[nodiscard]] bool EsperaOtraMano();
+
 // The hand counts: its record is in Juegos, the files are written. GanaMano adds one to JuegosGanados(GanadorMano).
 void ApuntaMano();
 void GanaMano();

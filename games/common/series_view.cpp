@@ -25,7 +25,7 @@ void PonBotonesDeSerie(int asiento) {
             BotonSuperior(asiento, 1, indice);
         else
             Oculta(Control::Pic_BotSuperior, indice);
-        if (estado.SeriesJugador(asiento) > 1)
+        if (estado.SeriesJugador(asiento) > 1 && estado.ControlJugador(asiento) == kManual)
             BotonLateral(asiento, 1, indice);
         else
             Oculta(Control::Pic_BotLateral, indice);
