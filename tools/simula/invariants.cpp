@@ -4,6 +4,7 @@
 
 #include "session/state_blocks.h"
 #include "tools/simula/cinquillo_invariants.h"
+#include "tools/simula/sieteymedia_invariants.h"
 #include "tools/simula/trick_invariants.h"
 
 namespace {
@@ -17,6 +18,7 @@ struct Revision {
 constexpr Revision kRevisiones[] = {
     {kTute, RevisaManoBazas, RevisaPartidaBazas},
     {kBrisca, RevisaManoBazas, RevisaPartidaBazas},
+    {kSieteYMedia, RevisaManoSiete, RevisaPartidaSiete},
     {kCinquillo, RevisaManoCinquillo, RevisaPartidaCinquillo},
 };
 

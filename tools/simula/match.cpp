@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <stdexcept>
 
 #include "core/random.h"
@@ -17,6 +18,8 @@
 #include "tools/simula/invariants.h"
 
 namespace {
+
+constexpr int kRegistros = 999; // that a match keeps at least
 
 // Neighbouring numbers give seeds that have nothing in common.
 std::uint64_t SemillaDe(std::uint64_t semilla, std::int64_t n) {
@@ -77,11 +80,18 @@ MesaSimulada::MesaSimulada(void (*al_acabar_mano)()) : al_acabar_mano_(al_acabar
 }
 
 Boton MesaSimulada::Pregunta(const CajaMensaje& caja) {
-    if (!estado.ManoEnCurso && estado.PartidaEnCurso && caja.titulo == "Final de la mano") {
+    // Some games have more to say at the end of a hand, under the same title.
+    if (mano_en_curso_ && !estado.ManoEnCurso && caja.titulo == "Final de la mano") {
+        mano_en_curso_ = false;
         ++manos;
         al_acabar_mano_();
     }
     return caja.modo == 2 ? Boton::No : Boton::Salir;
+}
+
+std::optional<Evento> MesaSimulada::SiguienteEvento(Pase pase) {
+    mano_en_curso_ = mano_en_curso_ || estado.ManoEnCurso;
+    return PlataformaSinPantalla::SiguienteEvento(pase);
 }
 
 Simulacion::Simulacion(const OpcionesSimula& opciones)
@@ -163,13 +173,14 @@ Totales Simulacion::Juega(std::int64_t n) {
     mesa_.manos = 0;
     NuevaPartida();
     Exige(!sesion.sin_eventos, "una espera se quedó sin eventos");
-    Exige(mesa_.manos == estado.JuegosJugados, "acabaron {} manos y se apuntaron {}", mesa_.manos,
-          estado.JuegosJugados);
+    // Of a very long match the oldest records are let go.
+    Exige(std::min(mesa_.manos, kRegistros) == std::min<int>(estado.JuegosJugados, kRegistros),
+          "acabaron {} manos y se apuntaron {}", mesa_.manos, estado.JuegosJugados);
     if (opciones_.revisa)
         RevisaFinalDePartida();
     Totales totales;
     totales.partidas = 1;
-    totales.manos = estado.JuegosJugados;
+    totales.manos = mesa_.manos;
     totales.ganadas[static_cast<std::size_t>(estado.GanadorPartida)] = 1;
     if (opciones_.firma) {
         FirmaRegistros();

@@ -17,10 +17,12 @@ public:
     int manos = 0;
 
     Boton Pregunta(const CajaMensaje& caja) override;
+    std::optional<Evento> SiguienteEvento(Pase pase) override;
     bool GuardaPartidas() const override { return false; }
 
 private:
     void (*al_acabar_mano_)();
+    bool mano_en_curso_ = false; // a hand has been seen under way that has not ended yet
 };
 
 class Simulacion {
