@@ -191,12 +191,6 @@ void PintaDinero(int asiento) {
 
 } // namespace
 
-Integer SerieALaVista(int asiento) {
-    const Integer ultima = estado.SeriesJugador(asiento);
-    const bool es_de_otro = estado.JuegoConBanca && asiento != estado.JugadorActual;
-    return es_de_otro && ultima > 0 ? ultima : estado.SerieActual;
-}
-
 void RedibujarAsiento(int asiento) {
     Traza("RedibujarAsiento", asiento);
     const Integer serie = estado.SerieActual;

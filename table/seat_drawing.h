@@ -2,11 +2,6 @@
 // A seat on the felt: its cards, its name, its caption, the winner's mark. Seats 1..4. All is drawn from the state;
 // nothing of it is written but a caption that has blinked, which is cleared.
 
-#include "core/tabla.h"
-
-// The serie that the seat shows: SerieActual on its turn; in the games with a bank everybody else shows the last.
-Integer SerieALaVista(int asiento);
-
 // Everything of the seat painted anew; a caption that blinks does so first.
 void RedibujarAsiento(int asiento);
 // JugadorActual blinks twice.

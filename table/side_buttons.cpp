@@ -7,7 +7,6 @@
 #include "core/text.h"
 #include "table/game_row.h"
 #include "table/layout.h"
-#include "table/seat_drawing.h"
 #include "table/sheet_layout.h"
 #include "table/trace.h"
 
@@ -107,6 +106,12 @@ void BotonDobSeg(int asiento, int state, const std::string& texto) {
     Pon(Control::Pic_BotDobSeg, 0,
         JuntoAlAsiento(asiento, a_lo_largo, adentro, recorte.ancho, recorte.alto), recorte, texto,
         texto == "D o b l a r" ? "Doblar" : "Seguro");
+}
+
+Integer SerieALaVista(int asiento) {
+    const Integer ultima = estado.SeriesJugador(asiento);
+    const bool es_de_otro = estado.JuegoConBanca && asiento != estado.JugadorActual;
+    return es_de_otro && ultima > 0 ? ultima : estado.SerieActual;
 }
 
 void MostrarPuntos(int asiento) {

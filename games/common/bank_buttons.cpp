@@ -5,6 +5,7 @@
 #include "core/game_state.h"
 #include "games/common/series_state.h"
 #include "table/bet_board.h"
+#include "table/controls.h"
 #include "table/game_row.h"
 #include "table/messages.h"
 #include "table/seat_drawing.h"
@@ -48,6 +49,28 @@ void DibujaBotonDeSerie(BotonDeSerie boton, bool pulsado) {
     case BotonDeSerie::Seguro:
         return BotonDobSeg(asiento, aspecto, "S e g u r o");
     }
+}
+
+void PonBotones(int asiento, const BotonesDeSerie& ofrecidos) {
+    if (asiento != estado.JugadorActual)
+        return;
+    const bool manual = estado.ControlJugador(asiento) == kManual;
+    for (int indice = 1; indice <= 2; ++indice) {
+        if (manual && (indice == kCarta ? ofrecidos.carta : ofrecidos.servido))
+            BotonSuperior(asiento, kArriba, indice);
+        else
+            Oculta(Control::Pic_BotSuperior, indice);
+        if (manual && estado.SeriesJugador(asiento) > 1)
+            BotonLateral(asiento, kArriba, indice);
+        else
+            Oculta(Control::Pic_BotLateral, indice);
+    }
+    if (manual && ofrecidos.seguro)
+        DibujaBotonDeSerie(BotonDeSerie::Seguro, false);
+    else if (manual && ofrecidos.doblar)
+        DibujaBotonDeSerie(BotonDeSerie::Doblar, false);
+    else
+        Oculta(Control::Pic_BotDobSeg);
 }
 
 void PulsaSolo(BotonDeSerie boton) {

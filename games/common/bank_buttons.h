@@ -8,6 +8,15 @@ enum class BotonDeSerie { Carta, Servido, Doblar, Seguro };
 // The button beside JugadorActual, up or pressed.
 void DibujaBotonDeSerie(BotonDeSerie boton, bool pulsado);
 
+// Which of them a manual seat is offered.
+struct BotonesDeSerie {
+    bool carta = false, servido = false, doblar = false, seguro = false;
+};
+
+// Shows what JugadorActual is offered and hides the rest; the arrows for a manual seat with several series. All of them
+// hidden for an automatic seat; does nothing for a seat that is not on turn.
+void PonBotones(int asiento, const BotonesDeSerie& ofrecidos);
+
 // The seat on turn plays by itself: its button pressed for 420 and away, and a pause of 360.
 void PulsaSolo(BotonDeSerie boton);
 

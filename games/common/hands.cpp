@@ -85,6 +85,7 @@ void PonMesaDeMano() {
     if (JuegoEnMesa().mano.limpia != nullptr)
         JuegoEnMesa().mano.limpia();
     LimpiarMesa();
+    OcultaTantos();
     MostrarNombres();
     for (Integer asiento = 1; asiento <= 4; ++asiento) {
         if (SeVeAlEmpezar(asiento))

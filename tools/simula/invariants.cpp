@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "session/state_blocks.h"
+#include "tools/simula/blackjack_invariants.h"
 #include "tools/simula/cinquillo_invariants.h"
 #include "tools/simula/sieteymedia_invariants.h"
 #include "tools/simula/trick_invariants.h"
@@ -13,9 +14,11 @@ struct Revision {
     Integer juego;
     void (*mano)();
     void (*partida)();
+    void (*paso)() = nullptr; // nothing to look at meanwhile
 };
 
 constexpr Revision kRevisiones[] = {
+    {kBlackJack, RevisaManoBlackJack, RevisaPartidaBlackJack, RevisaPasoBlackJack},
     {kTute, RevisaManoBazas, RevisaPartidaBazas},
     {kBrisca, RevisaManoBazas, RevisaPartidaBazas},
     {kSieteYMedia, RevisaManoSiete, RevisaPartidaSiete},
@@ -32,6 +35,11 @@ const Revision& RevisionDelJuego() {
 }
 
 } // namespace
+
+void RevisaPaso() {
+    if (const auto paso = RevisionDelJuego().paso; paso != nullptr)
+        paso();
+}
 
 void RevisaFinalDeMano() {
     RevisionDelJuego().mano();

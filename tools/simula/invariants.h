@@ -17,6 +17,9 @@ void Exige(bool cumple, fmt::format_string<const A&...> regla, const A&... datos
         throw InvarianteRoto(fmt::format(regla, datos...));
 }
 
+// What must hold at any moment of a match. Reads the state only.
+void RevisaPaso();
+
 // The cards and the points of the hand that has just ended. Reads the state only.
 void RevisaFinalDeMano();
 
