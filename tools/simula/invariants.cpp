@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "session/state_blocks.h"
+#include "tools/simula/bank_invariants.h"
 #include "tools/simula/blackjack_invariants.h"
 #include "tools/simula/cinquillo_invariants.h"
 #include "tools/simula/sieteymedia_invariants.h"
@@ -21,7 +22,7 @@ constexpr Revision kRevisiones[] = {
     {kBlackJack, RevisaManoBlackJack, RevisaPartidaBlackJack, RevisaPasoBlackJack},
     {kTute, RevisaManoBazas, RevisaPartidaBazas},
     {kBrisca, RevisaManoBazas, RevisaPartidaBazas},
-    {kSieteYMedia, RevisaManoSiete, RevisaPartidaSiete},
+    {kSieteYMedia, RevisaManoSiete, RevisaPartidaSiete, RevisaDineroDeBanca},
     {kCinquillo, RevisaManoCinquillo, RevisaPartidaCinquillo},
 };
 
