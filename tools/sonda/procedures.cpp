@@ -13,6 +13,8 @@
 #include "games/common/hand_queries.h"
 #include "games/common/hands.h"
 #include "games/common/series.h"
+#include "games/sieteymedia/sieteymedia.h"
+#include "games/sieteymedia/sieteymedia_cards.h"
 #include "games/sieteymedia/sieteymedia_decision.h"
 #include "games/trick/card_rules.h"
 #include "games/trick/choice_brisca.h"
@@ -195,6 +197,11 @@ const std::unordered_map<std::string, Llamada>& LaTabla() { // NOLINT(readabilit
         {"RobaCartas", Llama(&RobaCartas)},
         {"CambiaTriunfo", Llama(&CambiaTriunfo)},
         {"FinalMano", LlamaPasos(&FinalMano)},
+
+        // Siete y media.
+        {"ManoSieteYMedia", Llama(&ManoSieteYMedia)},
+        {"DestapaSerie", Llama(&DestapaSerie)},
+        {"CambiaCuatro", Llama(&CambiaCuatro)},
     };
     return kTabla;
 }
