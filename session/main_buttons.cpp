@@ -111,8 +111,6 @@ void ClicEnControl(const Evento& evento) {
         PulsaBotonDeAsiento(evento.control, evento.indice);
         break;
     default:
-        if (JuegoEnMesa().entrada.clic_control != nullptr)
-            JuegoEnMesa().entrada.clic_control(evento.control, evento.indice);
         break;
     }
 }

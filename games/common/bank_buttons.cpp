@@ -4,7 +4,6 @@
 #include "betting/phases.h"
 #include "core/game_state.h"
 #include "games/common/series_state.h"
-#include "table/bet_board.h"
 #include "table/controls.h"
 #include "table/game_row.h"
 #include "table/messages.h"
@@ -31,7 +30,6 @@ void MuestraOtraSerie(int indice) {
         return;
     estado.SerieActual = static_cast<Integer>(otra);
     RedibujarAsiento(asiento);
-    RedibujaApuesta(asiento);
 }
 
 } // namespace

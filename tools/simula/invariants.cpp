@@ -3,8 +3,10 @@
 #include <algorithm>
 
 #include "session/state_blocks.h"
+#include "tools/simula/bank_invariants.h"
 #include "tools/simula/blackjack_invariants.h"
 #include "tools/simula/cinquillo_invariants.h"
+#include "tools/simula/sieteymedia_invariants.h"
 #include "tools/simula/trick_invariants.h"
 
 namespace {
@@ -20,6 +22,7 @@ constexpr Revision kRevisiones[] = {
     {kBlackJack, RevisaManoBlackJack, RevisaPartidaBlackJack, RevisaPasoBlackJack},
     {kTute, RevisaManoBazas, RevisaPartidaBazas},
     {kBrisca, RevisaManoBazas, RevisaPartidaBazas},
+    {kSieteYMedia, RevisaManoSiete, RevisaPartidaSiete, RevisaDineroDeBanca},
     {kCinquillo, RevisaManoCinquillo, RevisaPartidaCinquillo},
 };
 
