@@ -20,8 +20,6 @@
 
 namespace {
 
-constexpr int kJuegosGuardados = 999; // what the file can count; older records are let go
-
 bool PorParejas() {
     return estado.ModalidadJuego == kDosParejas;
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "games/common/hands.h"
 #include "session/state_blocks.h"
 #include "tools/simula/cinquillo_invariants.h"
 #include "tools/simula/trick_invariants.h"
@@ -11,7 +12,7 @@ namespace {
 struct Revision {
     Integer juego;
     void (*mano)();
-    void (*partida)();
+    void (*partida)(int manos);
 };
 
 constexpr Revision kRevisiones[] = {
@@ -35,8 +36,10 @@ void RevisaFinalDeMano() {
     RevisionDelJuego().mano();
 }
 
-void RevisaFinalDePartida() {
+void RevisaFinalDePartida(int manos) {
     Exige(!estado.PartidaEnCurso, "la partida acaba");
+    Exige(estado.JuegosJugados == std::min(manos, kJuegosGuardados + 1),
+          "acabaron {} manos y se apuntaron {}", manos, estado.JuegosJugados);
     Exige(estado.GanadorPartida >= 1 && estado.GanadorPartida <= 4, "la partida tiene ganador");
-    RevisionDelJuego().partida();
+    RevisionDelJuego().partida(manos);
 }
