@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
+
 #include "core/random.h"
 #include "core/session_state.h"
 #include "tests/support/live_table.h"
@@ -104,6 +106,14 @@ TEST_F(Sorteo, SiNingunAsCaeEnQuienJuegaSeMezclaOtraVez) {
     EXPECT_EQ(estado.JugadorMano, 4);
     EXPECT_EQ(UltimoTexto(), "Se  ha  sorteado  el  jugador  que  comienza  la  partida.\r\n"
                              "Sale Jugador4.");
+}
+
+TEST_F(Sorteo, SinNadieQueJuegueNoSeMezclaSinFin) {
+    Desactiva({1, 2, 3, 4});
+    estado.JugadorMano = 2;
+    EXPECT_THROW(static_cast<void>(SorteoInicial()), std::logic_error);
+    EXPECT_EQ(estado.JugadorMano, 2);
+    EXPECT_TRUE(p.mensajes.empty());
 }
 
 TEST_F(Sorteo, SeDiceQuienSale) {
