@@ -15,7 +15,7 @@ constexpr int kBandaRotulo =
 constexpr int kLargoZona = 250;
 // The pile lies before the bank: its buttons stand on both sides of it, 38 and more further apart.
 constexpr int kMitadMazo = 56, kMitadMazoAlto = 84;
-constexpr int kMitadApuesta = 36; // of the chips that lie in the middle before the seat
+constexpr int kMitadApuesta = 49; // of the chips that lie in the middle before the seat
 constexpr Fuente kLetraBoton{.alto = 12, .negrita = true};
 
 // A control of ancho by alto on the inner side of the seat's zone, a lo largo pixels along its edge.
@@ -108,7 +108,7 @@ void BotonDobSeg(int asiento, int state, const std::string& texto) {
 
 void MostrarPuntos(int asiento) {
     Traza("MostrarPuntos", asiento);
-    constexpr int kPlaca = 4;
+    constexpr int kPlaca = 4, kDeLaEsquina = 8;
     const lamina::Recorte& placa = lamina::kPlacaTantos;
     const FilaJuego& juego = JuegoEnMesa();
     if (juego.pintura.puntos == nullptr)
@@ -119,8 +119,8 @@ void MostrarPuntos(int asiento) {
     const bool vertical = AsientoLateral(asiento);
     const int a_lo_largo = vertical ? -kSeparacion - placa.alto : kLargoZona + kSeparacion;
     Pon(Control::Pic_Tantos, asiento,
-        JuntoAlAsiento(asiento, a_lo_largo, vertical ? -placa.ancho : -placa.alto, placa.ancho,
-                       placa.alto),
+        JuntoAlAsiento(asiento, a_lo_largo, vertical ? -placa.ancho - kDeLaEsquina : -placa.alto,
+                       placa.ancho, placa.alto),
         placa, "", "Puntos de " + estado.NombreJugador(asiento));
     if (plataforma().HayPantalla()) {
         plataforma()
