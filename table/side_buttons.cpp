@@ -109,6 +109,12 @@ void BotonDobSeg(int asiento, int state, const std::string& texto) {
         texto == "D o b l a r" ? "Doblar" : "Seguro");
 }
 
+Integer SerieALaVista(int asiento) {
+    const Integer ultima = estado.SeriesJugador(asiento);
+    const bool es_de_otro = estado.JuegoConBanca && asiento != estado.JugadorActual;
+    return es_de_otro && ultima > 0 ? ultima : estado.SerieActual;
+}
+
 void MostrarPuntos(int asiento) {
     Traza("MostrarPuntos", asiento);
     constexpr int kPlaca = 4;
@@ -116,7 +122,11 @@ void MostrarPuntos(int asiento) {
     const FilaJuego& juego = JuegoEnMesa();
     if (juego.pintura.puntos == nullptr)
         return;
-    const double puntos = juego.pintura.puntos(asiento, estado.SerieActual);
+    const double puntos = juego.pintura.puntos(asiento, SerieALaVista(asiento));
+    if (puntos == 0 || (EsBanca(asiento) && asiento != estado.JugadorActual)) {
+        plataforma().Muestra(Control::Pic_Tantos, asiento, false);
+        return;
+    }
     const bool medios = puntos != static_cast<int>(puntos);
     // Above the zone at the sides, where the bet board leaves it to see.
     const bool vertical = AsientoLateral(asiento);

@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "core/tabla.h"
 #include "platform/platform.h"
 
 // Pic_BotLateral(index) on the seat: 1 the serie before, 2 the next one.
@@ -14,5 +15,9 @@ void BotonSuperior(int asiento, int state, int index);
 // Pic_BotDobSeg on the seat, with "D o b l a r" or "S e g u r o".
 void BotonDobSeg(int asiento, int state, const std::string& texto);
 
-// The score plate Pic_Tantos(asiento) with the count of SerieActual.
+// The serie that the seat shows: SerieActual on its turn; in the games with a bank everybody else shows the last.
+Integer SerieALaVista(int asiento);
+
+// The score plate Pic_Tantos(asiento) with the count of the serie on show. There is none for a count of 0, nor for the
+// bank out of its turn.
 void MostrarPuntos(int asiento);

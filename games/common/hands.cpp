@@ -20,8 +20,6 @@
 
 namespace {
 
-constexpr int kJuegosGuardados = 999; // what the file can count; older records are let go
-
 // In the games with money a hand is won alone.
 bool PorParejas() {
     return estado.ModalidadJuego == kDosParejas && !JuegoEnMesa().dinero.hay;
@@ -86,6 +84,7 @@ void PonMesaDeMano() {
     if (JuegoEnMesa().mano.limpia != nullptr)
         JuegoEnMesa().mano.limpia();
     LimpiarMesa();
+    OcultaTantos();
     MostrarNombres();
     for (Integer asiento = 1; asiento <= 4; ++asiento) {
         if (SeVeAlEmpezar(asiento))

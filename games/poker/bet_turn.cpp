@@ -9,6 +9,7 @@
 #include "core/game_state.h"
 #include "core/random.h"
 #include "core/text.h"
+#include "games/common/card_turn.h"
 #include "games/poker/bet_choice.h"
 #include "games/poker/discard_choice.h"
 #include "games/poker/discard_pile.h"

@@ -4,14 +4,16 @@
 
 #include "betting/phases.h"
 #include "core/game_state.h"
+#include "games/common/trick_values.h"
 #include "games/poker/discard_target.h"
+#include "games/poker/hand_layout.h"
 #include "games/poker/hand_reading.h"
 #include "games/poker/poker_state.h"
 
 namespace {
 
 constexpr int kCartasMano = 5;
-constexpr Integer kAs = 1, kRey = 13;
+constexpr Integer kRey = 13;
 
 struct CartaEnMano {
     Integer palo, valor;

@@ -6,6 +6,7 @@
 #include "betting/phases.h"
 #include "core/game_state.h"
 #include "core/text.h"
+#include "games/common/card_turn.h"
 #include "games/common/hands.h"
 #include "games/poker/credited_hand.h"
 #include "games/poker/discard_choice.h"
@@ -67,9 +68,8 @@ void CierraDescarte(Integer asiento) {
 }
 
 void PonAlturas(Integer asiento, bool (*levanta)(int lugar)) {
-    for (int lugar = 1; lugar <= estado.NumCartas(asiento, kSeriePoker); ++lugar) {
+    for (int lugar = 1; lugar <= estado.NumCartas(asiento, kSeriePoker); ++lugar)
         estado.Mano(asiento, kSeriePoker, lugar, kAltura) = levanta(lugar) ? kLevantada : kEnLinea;
-    }
     RedibujarAsiento(asiento);
 }
 
@@ -164,7 +164,7 @@ void PulsaBotonDeDescarte(Control control, int indice) {
     if (control != Control::Pic_BotSuperior || !EligeDescarte(asiento) || !estado.EsperandoJugada)
         return;
     BotonSuperior(asiento, kPulsado, indice);
-    Sonido(0, sonido::kBotonLateral);
+    Sonido(0, sonido::kBotonDeApuesta);
     Pausa(kPausaPulsado);
     BotonSuperior(asiento, kArriba, indice);
     if (indice == kServido)

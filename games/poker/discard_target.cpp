@@ -9,7 +9,6 @@ namespace {
 
 using Categoria = Integer EstadoPoker::*;
 
-constexpr Integer kAs = 1;
 constexpr Integer kNivelQueSueltaPareja =
     60; // from here on a joker is worth more than its low pair
 

@@ -1,14 +1,15 @@
+#include "games/poker/hand_layout.h"
+
 #include <algorithm>
 #include <array>
 
 #include "core/game_state.h"
-#include "games/poker/hand_reading.h"
 #include "games/poker/poker_state.h"
 
 namespace {
 
 constexpr int kCartas = 5;
-constexpr Integer kAs = 1, kAsAlto = 14;
+constexpr Integer kAsAlto = 14;
 
 struct CartaSuelta {
     Integer palo = 0, valor = 0;

@@ -4,6 +4,7 @@
 #include <bit>
 
 #include "core/game_state.h"
+#include "games/poker/hand_layout.h"
 #include "games/poker/hand_tally.h"
 #include "games/poker/poker_state.h"
 #include "games/poker/runs.h"

@@ -7,16 +7,9 @@
 
 #include "core/tabla.h"
 
-// The numbers and names of the categories, CuentaJugada, PorcJugada, TotalCombinaciones and TablaDescartes for
-// CartasBaraja 1..6 and ComodinesJuego 1..3; CartasNormales and ComodinesBaraja stand already. Once per change of deck.
-void CargaTablasPoker();
-
 // Rewrites Jugadas(asiento, 1..17) and MejorJugada(asiento) from places 1..5 of the seat's first serie; empty places
 // are passed over. JugadaOrdenada and CartasClave change when a draw is compared with the figures.
 void AnalizaJugada(Integer asiento);
-
-// JugadaOrdenada and CartasClave: the hand with the cards of that category, which must be active, in front.
-void OrdenaJugada(Integer asiento, Integer categoria);
 
 // As, Jota, Dama or Rey, by valor.
 bool EsFigura(Integer valor);

@@ -1,3 +1,5 @@
+#include "games/poker/hand_tables.h"
+
 #include <array>
 #include <string_view>
 
@@ -5,7 +7,6 @@
 #include "core/numeric.h"
 #include "games/poker/deck_counts.h"
 #include "games/poker/draw_odds.h"
-#include "games/poker/hand_reading.h"
 #include "games/poker/poker_state.h"
 
 namespace {

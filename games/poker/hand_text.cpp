@@ -1,6 +1,8 @@
+#include "games/poker/hand_text.h"
+
 #include "core/game_state.h"
 #include "core/text.h"
-#include "games/poker/hand_value.h"
+#include "games/common/trick_values.h"
 #include "games/poker/poker_state.h"
 
 namespace {

@@ -10,7 +10,6 @@
 namespace {
 
 constexpr Integer kSinLey = 14;
-constexpr Integer kAs = 1;
 
 bool ParejaBaja(Integer asiento) {
     const Integer valor = poker.Jugadas(asiento, poker.Pareja).Cartas(1);

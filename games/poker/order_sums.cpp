@@ -1,10 +1,10 @@
 #include "games/poker/order_sums.h"
 
+#include "games/poker/combinations.h"
+
 #include <algorithm>
 #include <memory>
 #include <optional>
-
-#include "games/poker/hand_value.h"
 
 namespace {
 

@@ -13,7 +13,7 @@
 #include "games/poker/discard_pile.h"
 #include "games/poker/discard_round.h"
 #include "games/poker/hand_order.h"
-#include "games/poker/hand_reading.h"
+#include "games/poker/hand_tables.h"
 #include "games/poker/opening_law.h"
 #include "games/poker/poker_driver.h"
 #include "games/poker/poker_tutor.h"

@@ -2,6 +2,7 @@
 
 #include "core/game_state.h"
 #include "core/session_state.h"
+#include "games/common/card_turn.h"
 #include "games/poker/poker_state.h"
 #include "platform/canvas.h"
 #include "table/controls.h"

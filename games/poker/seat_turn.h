@@ -5,6 +5,7 @@
 #include <string>
 
 #include "core/tabla.h"
+#include "games/common/card_turn.h"
 
 bool TieneCartas(Integer asiento);
 bool EsManual(Integer asiento);

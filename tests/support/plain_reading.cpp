@@ -1,5 +1,7 @@
 // The reading of a hand by its rules as they are told: every start of a straight, every step.
 
+#include "games/common/trick_values.h"
+#include "games/poker/hand_layout.h"
 #include "tests/support/plain_poker.h"
 
 #include <algorithm>
@@ -14,7 +16,7 @@
 namespace {
 
 constexpr int kCartas = 5;
-constexpr Integer kAs = 1, kAsAlto = 14, kRey = 13;
+constexpr Integer kAsAlto = 14, kRey = 13;
 
 bool EsComodin(Integer valor) {
     return valor > kRey;

@@ -1,5 +1,6 @@
 // The order number by its sums as they are told: every hand below is walked.
 
+#include "games/poker/combinations.h"
 #include "tests/support/plain_poker.h"
 
 #include <algorithm>
@@ -9,7 +10,6 @@
 #include "core/game_state.h"
 #include "core/numeric.h"
 #include "games/poker/deck_counts.h"
-#include "games/poker/hand_value.h"
 #include "games/poker/poker_state.h"
 
 namespace {

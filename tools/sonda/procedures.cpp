@@ -21,6 +21,8 @@
 #include "games/poker/opening_law.h"
 #include "games/poker/poker_driver.h"
 #include "games/poker/rivals.h"
+#include "games/sieteymedia/sieteymedia.h"
+#include "games/sieteymedia/sieteymedia_cards.h"
 #include "games/sieteymedia/sieteymedia_decision.h"
 #include "games/trick/card_rules.h"
 #include "games/trick/choice_brisca.h"
@@ -263,6 +265,11 @@ const std::unordered_map<std::string, Llamada>& LaTabla() { // NOLINT(readabilit
         // Matches of Póker.
         {"ManoPoker", Llama(&ManoPoker)},
         {"IniciaMano", LlamaPasos(&IniciarJuego)},
+
+        // Siete y media.
+        {"ManoSieteYMedia", Llama(&ManoSieteYMedia)},
+        {"DestapaSerie", Llama(&DestapaSerie)},
+        {"CambiaCuatro", Llama(&CambiaCuatro)},
     };
     return kTabla;
 }
