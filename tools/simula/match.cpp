@@ -12,7 +12,6 @@
 #include "session/main_buttons.h"
 #include "session/match_driver.h"
 #include "session/state_blocks.h"
-#include "storage/settings_limits.h"
 #include "table/button_column.h"
 #include "table/chips.h"
 #include "table/deck.h"
