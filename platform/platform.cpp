@@ -25,6 +25,9 @@ constexpr std::array kNombres{
     "Pic_APBotIgualar",
     "Pic_APBotApostar",
     "Pic_APBotAnular",
+    "Pic_APApoJugAct",
+    "Pic_APApoJugAcu",
+    "Pic_NumerosCristal",
 };
 static_assert(kNombres.size() == static_cast<std::size_t>(Control::Ultimo) + 1);
 
@@ -76,6 +79,8 @@ Control PadreDe(Control control) {
     case Control::Pic_APBotIgualar:
     case Control::Pic_APBotApostar:
     case Control::Pic_APBotAnular:
+    case Control::Pic_APApoJugAct:
+    case Control::Pic_APApoJugAcu:
         return Control::Pic_Apostadora;
     default:
         return Control::Mesa;

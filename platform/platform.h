@@ -33,7 +33,10 @@ enum class Control {
     Pic_APBotIgualar,
     Pic_APBotApostar,
     Pic_APBotAnular,
-    Ultimo = Pic_APBotAnular,
+    Pic_APApoJugAct, // the two displays of the board
+    Pic_APApoJugAcu,
+    Pic_NumerosCristal, // a chip on its way
+    Ultimo = Pic_NumerosCristal,
 };
 
 // The main buttons: the indices of Pic_Boton.

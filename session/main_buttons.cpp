@@ -3,6 +3,7 @@
 #include "core/game_state.h"
 #include "core/session_state.h"
 #include "storage/saving.h"
+#include "table/bet_board.h"
 #include "table/button_column.h"
 #include "table/controls.h"
 #include "table/deck.h"
@@ -76,6 +77,12 @@ void SueltaLoColgado() {
     AbandonaArrastre();
 }
 
+void PulsaBotonDeAsiento(Control control, int indice) {
+    const auto clic_control = JuegoEnMesa().entrada.clic_control;
+    if (clic_control != nullptr)
+        clic_control(control, indice);
+}
+
 void ClicEnControl(const Evento& evento) {
     if (!plataforma().EstaVisible(evento.control, evento.indice))
         return;
@@ -92,9 +99,18 @@ void ClicEnControl(const Evento& evento) {
     case Control::Bot_CerrarSuge:
         CierraSugerencia();
         break;
+    case Control::Pic_APBotPasar:
+    case Control::Pic_APBotIgualar:
+    case Control::Pic_APBotApostar:
+    case Control::Pic_APBotAnular:
+        PulsaApostadora(evento.control);
+        break;
+    case Control::Pic_BotSuperior:
+    case Control::Pic_BotLateral:
+    case Control::Pic_BotDobSeg:
+        PulsaBotonDeAsiento(evento.control, evento.indice);
+        break;
     default:
-        if (JuegoEnMesa().entrada.clic_control != nullptr)
-            JuegoEnMesa().entrada.clic_control(evento.control, evento.indice);
         break;
     }
 }

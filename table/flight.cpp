@@ -41,23 +41,27 @@ int PasoDelEje(int camino, int otro) {
     return paso == 0 ? camino : paso;
 }
 
-void Vuela(Eje x, Eje y, const ImagenCarta& carta) {
+} // namespace
+
+void RecorreVuelo(const Punto& desde, const Punto& hasta,
+                  const std::function<void(const Punto&)>& al_pasar) {
     const bool pantalla = plataforma().HayPantalla();
     if (!pantalla && !HayTraza() && FactorPausa(estado.VelocidadJuego) == 0)
         return; // nobody looks and no time passes
+    const int caminoX = hasta.x - desde.x, caminoY = hasta.y - desde.y;
+    Eje x{desde.x, hasta.x, PasoDelEje(caminoX, caminoY)};
+    Eje y{desde.y, hasta.y, PasoDelEje(caminoY, caminoX)};
     while (x.donde != x.fin || y.donde != y.fin) {
         MarcaPausaAhora();
         x.Avanza();
         y.Avanza();
         if (pantalla) {
-            plataforma().Vuela(x.donde, y.donde, carta);
+            al_pasar({x.donde, y.donde});
             plataforma().Repinta();
         }
         Pausa(kPausaCuadro);
     }
 }
-
-} // namespace
 
 void MueveCarta(Carta carta, const Sitio& desde, const Sitio& hasta, bool tapada) {
     Traza("MoverCarta", carta.palo, carta.valor, desde.x, desde.y, desde.orientacion, desde.cara,
@@ -67,12 +71,12 @@ void MueveCarta(Carta carta, const Sitio& desde, const Sitio& hasta, bool tapada
                              .cara = hasta.cara,
                              .orientacion = hasta.orientacion,
                              .tapada = tapada};
-    const int caminoX = hasta.x - desde.x;
-    const int caminoY = hasta.y - desde.y;
-    if (caminoX != 0 || caminoY != 0) {
+    const Punto salida{desde.x, desde.y}, llegada{hasta.x, hasta.y};
+    if (salida != llegada) {
         Sonido(1, sonido::kDespega);
-        Vuela({desde.x, hasta.x, PasoDelEje(caminoX, caminoY)},
-              {desde.y, hasta.y, PasoDelEje(caminoY, caminoX)}, imagen);
+        RecorreVuelo(salida, llegada, [&imagen](const Punto& donde) {
+            plataforma().Vuela(donde.x, donde.y, imagen);
+        });
     }
     if (plataforma().HayPantalla()) {
         plataforma().Posa();

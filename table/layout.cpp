@@ -40,9 +40,9 @@ void CalculaZonas() {
     pon(4, frente, alto - kFondoZona - 2, frente + kLargoZona, alto - 1);
 }
 
-// The box of an area: two columns of three stacks. A stack of eight chips grows upwards out of it.
-constexpr int kFicha = 33, kCreceFicha = 21, kAire = 4;
-constexpr int kAnchoFichas = kPasoFicha + kFicha, kAltoFichas = 2 * kPasoFicha + kFicha;
+// The box of an area: two columns of three stacks. A high stack grows upwards out of it.
+constexpr int kAire = 4;
+constexpr int kAnchoFichas = kPasoFicha + kLadoFicha, kAltoFichas = 2 * kPasoFicha + kLadoFicha;
 
 // Beside the seat's zone, the first area or the second.
 Punto FichasJunto(int asiento, bool segunda) {
@@ -62,19 +62,21 @@ Punto FichasJunto(int asiento, bool segunda) {
     }
 }
 
-// On the table before the seat's zone, at its upper or left end.
+// On the table before the seat's zone: beyond its caption and its buttons, or above them at the sides; a row of
+// chips, with room for a plate towards the zone or above.
 Punto FichasDelante(int asiento) {
-    constexpr int kDesdeLaZona = kBanda + kAire;
+    constexpr int kDesdeLaZona = 23, kMasAllaDeLosBotones = 49, kAltoDelRotulo = 17;
+    const int enMedio = estado.CentroX - kAnchoFichas / 2;
+    const int alLado = estado.MesaArriba(1) + 34 + kAltoDelRotulo + kCreceFicha;
     switch (asiento) {
     case 1:
-        return {estado.MesaDerecha(1) + kDesdeLaZona, estado.MesaArriba(1) + kCreceFicha};
+        return {estado.MesaDerecha(1) + kDesdeLaZona, alLado};
     case 2:
-        return {estado.MesaIzquierda(2), estado.MesaAbajo(2) + kDesdeLaZona + kCreceFicha};
+        return {enMedio, estado.MesaAbajo(2) + kMasAllaDeLosBotones + kAltoDelRotulo + kCreceFicha};
     case 3:
-        return {estado.MesaIzquierda(3) - kDesdeLaZona - kAnchoFichas,
-                estado.MesaArriba(3) + kCreceFicha};
+        return {estado.MesaIzquierda(3) - kDesdeLaZona - kAnchoFichas, alLado};
     default:
-        return {estado.MesaIzquierda(4), estado.MesaArriba(4) - kDesdeLaZona - kAltoFichas};
+        return {enMedio, estado.MesaArriba(4) - kMasAllaDeLosBotones - kAltoDelRotulo - kLadoFicha};
     }
 }
 
@@ -82,11 +84,11 @@ Punto FichasDelante(int asiento) {
 // them, 12 to 14 in the middle.
 Punto EsquinaFichas(int area) {
     if (area >= 12) {
-        return {estado.CentroX - kPasoFicha + (area - 13) * 3 * kPasoFicha,
-                estado.CentroY - kPasoFicha};
+        return {estado.CentroX - kAnchoFichas / 2 + (area - kAreaBote) * 3 * kPasoFicha,
+                estado.CentroY - (kAltoFichas - kCreceFicha) / 2};
     }
     const int asiento = area % 4 + 1;
-    return area >= 8 ? FichasDelante(asiento) : FichasJunto(asiento, area >= 4);
+    return area >= kAreaApuestas ? FichasDelante(asiento) : FichasJunto(asiento, area >= 4);
 }
 
 void CalculaFichas() {

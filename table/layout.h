@@ -21,6 +21,12 @@ Rectangulo FranjaMano(int asiento, int cartas);
 Rectangulo ZonaDe(int asiento);
 Rectangulo ZonaConRealce(int asiento);
 
+// The chips: their side, how much of a chip the next one on it leaves to see, and the highest stack that is drawn.
+inline constexpr int kLadoFicha = 33, kGruesoFicha = 2, kFichasALaVista = 6;
+inline constexpr int kCreceFicha = kGruesoFicha * (kFichasALaVista - 1);
+// The areas of PosFicha: 0 the stack of seat 1, 8 the chips that it has bet, and so on for the others; 13 the pot.
+inline constexpr int kAreaRestos = 0, kAreaApuestas = 8, kAreaBote = 13;
+
 // Where the seat's played card lands in the centre.
 struct Punto {
     int x = 0, y = 0;

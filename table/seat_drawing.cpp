@@ -5,6 +5,7 @@
 #include "core/game_state.h"
 #include "core/numeric.h"
 #include "core/text.h"
+#include "table/chips.h"
 #include "table/game_row.h"
 #include "table/layout.h"
 #include "table/messages.h"
@@ -176,11 +177,12 @@ void PintaCartas(int asiento) {
     }
 }
 
-// In the games with money: the seat's chips, and the mark of a serie that has played.
+// In the games with money: the seat's chips, what it has bet, and the mark of a serie that has played.
 void PintaDinero(int asiento) {
     if (!JuegoEnMesa().dinero.hay)
         return;
-    PintarFichas(asiento, asiento - 1);
+    PintarFichas(asiento, kAreaRestos + asiento - 1);
+    RedibujaApuesta(EnteroDe(asiento));
     if (estado.JuegoConBanca && estado.SerieTerminada(asiento, SerieALaVista(asiento))) {
         const Rectangulo zona = ZonaDe(asiento);
         const lamina::Recorte& marca = lamina::kMarcaSerieTerminada;

@@ -27,7 +27,7 @@ enum class Aspecto { Arriba, Pulsado, Apagado };
 inline constexpr int kRadioEsquinaCarta = 6; // beyond it the corner of a card belongs to the felt
 inline constexpr int kEscala = 3;            // sheet and card images are kept three times as large
 inline constexpr int kAncho = 512;
-inline constexpr int kAlto = 520;
+inline constexpr int kAlto = 540;
 
 // Round main button 1..8, 51 apart in the top row; the other two looks have a row each.
 constexpr Recorte BotonPrincipal(int numero, Aspecto aspecto = Aspecto::Arriba) {
@@ -109,6 +109,7 @@ inline constexpr Recorte kMensajePulsado{279, 274, 84, 28};
 inline constexpr Recorte kSentidoDirecto{0, 364, 96, 96};
 inline constexpr Recorte kSentidoInverso{97, 364, 96, 96};
 inline constexpr Recorte kEmblemaPortada{194, 364, 150, 150};
+inline constexpr Recorte kApostadora{346, 364, 146, 172}; // the bet board
 
 // A drawing of assets/sheet and its place.
 struct Pieza {
@@ -215,6 +216,7 @@ inline constexpr std::array kPiezas{
     Pieza{"sentido_directo", kSentidoDirecto},
     Pieza{"sentido_inverso", kSentidoInverso},
     Pieza{"emblema_portada", kEmblemaPortada},
+    Pieza{"apostadora", kApostadora},
 };
 
 // A pointer of the table: the drawing of assets/cursors and the pixel that points.

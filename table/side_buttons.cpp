@@ -1,8 +1,5 @@
 #include "table/side_buttons.h"
 
-#include <algorithm>
-
-#include "betting/bet_state.h"
 #include "core/game_state.h"
 #include "core/text.h"
 #include "table/game_row.h"
@@ -18,6 +15,7 @@ constexpr int kBandaRotulo =
 constexpr int kLargoZona = 250;
 // The pile lies before the bank: its buttons stand on both sides of it, 38 and more further apart.
 constexpr int kMitadMazo = 56, kMitadMazoAlto = 84;
+constexpr int kMitadApuesta = 36; // of the chips that lie in the middle before the seat
 constexpr Fuente kLetraBoton{.alto = 12, .negrita = true};
 
 // A control of ancho by alto on the inner side of the seat's zone, a lo largo pixels along its edge.
@@ -97,11 +95,11 @@ void BotonDobSeg(int asiento, int state, const std::string& texto) {
     Traza("BotonDobSeg", asiento, state, texto);
     const lamina::Recorte& recorte =
         state == 2 ? lamina::kBotonDobSegPulsado : lamina::kBotonDobSegArriba;
-    // Below the other two.
+    // Below the other two, or beyond them and beside what is bet.
     const bool vertical = AsientoLateral(asiento);
     const int bajo_los_otros = lamina::kBotonSuperiorArriba.alto + kSeparacion;
     const int a_lo_largo = vertical ? PrincipioSuperior(asiento, 2) + bajo_los_otros
-                                    : (kLargoZona - recorte.ancho) / 2;
+                                    : kLargoZona / 2 - kMitadApuesta - kSeparacion - recorte.ancho;
     const int adentro = kBandaRotulo + (vertical ? 0 : bajo_los_otros);
     Pon(Control::Pic_BotDobSeg, 0,
         JuntoAlAsiento(asiento, a_lo_largo, adentro, recorte.ancho, recorte.alto), recorte, texto,
@@ -127,9 +125,11 @@ void MostrarPuntos(int asiento) {
         return;
     }
     const bool medios = puntos != static_cast<int>(puntos);
+    // Above the zone at the sides, where the bet board leaves it to see.
+    const bool vertical = AsientoLateral(asiento);
+    const int a_lo_largo = vertical ? -kSeparacion - placa.alto : kLargoZona + kSeparacion;
     Pon(Control::Pic_Tantos, asiento,
-        JuntoAlAsiento(asiento, kLargoZona + kSeparacion,
-                       AsientoLateral(asiento) ? -placa.ancho : -placa.alto, placa.ancho,
+        JuntoAlAsiento(asiento, a_lo_largo, vertical ? -placa.ancho : -placa.alto, placa.ancho,
                        placa.alto),
         placa, "", "Puntos de " + estado.NombreJugador(asiento));
     if (plataforma().HayPantalla()) {
@@ -137,19 +137,5 @@ void MostrarPuntos(int asiento) {
             .LienzoDe(Control::Pic_Tantos, asiento)
             .Texto(placa.ancho / 2, kPlaca, Formato(puntos, medios ? "#0.0" : "#0"),
                    {.alto = 16, .negrita = true}, color::kNegro, Alineacion::Centro);
-    }
-}
-
-void PintarFichas(int asiento, int area) {
-    constexpr int kGruesoFicha = 3, kFichasVisibles = 8;
-    if (!plataforma().HayPantalla())
-        return;
-    Lienzo& mesa = plataforma().LienzoDe(Control::Mesa, 0);
-    for (int ficha = 1; ficha <= 6; ++ficha) {
-        const int altura = std::min<int>(apuestas.Fichas(asiento, ficha), kFichasVisibles);
-        for (int i = 0; i < altura; ++i) {
-            mesa.Lamina(estado.PosFichaX(area, ficha),
-                        estado.PosFichaY(area, ficha) - i * kGruesoFicha, lamina::Ficha(ficha));
-        }
     }
 }

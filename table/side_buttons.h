@@ -1,6 +1,6 @@
 #pragma once
-// What stands beside a seat in the games of series and chips: the buttons to ask for a card, to stand, to browse
-// the series, to double or insure; the score plate; the stacks of chips. state 1 is up, 2 pressed. Seats 1..4.
+// What stands beside a seat in the games of series: the buttons to ask for a card, to stand, to browse the series, to
+// double or insure; the score plate. state 1 is up, 2 pressed. Seats 1..4.
 
 #include <string>
 
@@ -20,6 +20,3 @@ Integer SerieALaVista(int asiento);
 // The score plate Pic_Tantos(asiento) with the count of the serie on show. There is none for a count of 0, nor for the
 // bank out of its turn.
 void MostrarPuntos(int asiento);
-
-// The seat's stacks of chips (0 the pot), at the chip places of an area.
-void PintarFichas(int asiento, int area);

@@ -5,6 +5,7 @@
 #include "betting/bet_state.h"
 #include "core/game_state.h"
 #include "core/numeric.h"
+#include "table/bet_board.h"
 #include "table/controls.h"
 #include "table/game_row.h"
 #include "table/hand_order.h"
@@ -96,6 +97,9 @@ void CalculaPuntero(int x, int y) {
     estado.CursorNuevo = 0;
     if (ManoJugable())
         estado.CursorNuevo = PunteroDeMano(x, y);
+    DetectaFicha(x, y);
+    if (estado.FichaBajoCursor != 0)
+        estado.CursorNuevo = Codigo(Puntero::ManoIndice);
     if (estado.ModoOrdenar)
         estado.CursorNuevo = PunteroDeOrdenar(x, y);
     if (estado.RepartoEnCurso)
@@ -149,6 +153,9 @@ void PulsaReparto(int x, int y) {
 void PulsaSegunPuntero() {
     const auto puntero = static_cast<Puntero>(estado.CursorTabla);
     switch (puntero) {
+    case Puntero::ManoIndice:
+        PulsaFicha();
+        break;
     case Puntero::ManoVerde:
     case Puntero::ManoRoja: // sounds like a card, and plays none
         if (estado.EligeCarta && !apuestas.ModoApuesta)

@@ -15,7 +15,10 @@ struct VistaMesa {
     Tabla<int, 4> abanico;              // places for which a hand that is being dealt is laid out
     Tabla<bool, 4> franja_ocupada;      // a seat's raised cards or caption stand before its zone
     Tabla<std::string, 4> rotulo_dicho; // the caption that a screen reader has told of a seat
-    Tabla<ImagenCarta, 4> sorteada;     // the draw's last card of each seat, palo 0 for none
+    // Chips by seat and denomination that lie at its bet place on show beyond those that it has there, or (below 0) are
+    // still on their way to it.
+    Tabla<Integer, 4, 6> fichas_de_mas;
+    Tabla<ImagenCarta, 4> sorteada; // the draw's last card of each seat, palo 0 for none
 };
 
 extern VistaMesa vista;

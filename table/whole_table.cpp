@@ -5,6 +5,7 @@
 
 #include "core/game_state.h"
 #include "core/numeric.h"
+#include "table/bet_board.h"
 #include "table/button_column.h"
 #include "table/controls.h"
 #include "table/game_row.h"
@@ -112,6 +113,8 @@ void RedibujarMesa() {
     const FilaJuego* juego = FilaDe(estado.JuegoActivo);
     if (juego != nullptr && juego->pintura.centro != nullptr)
         juego->pintura.centro();
+    if (juego != nullptr && juego->dinero.reglas.bote)
+        RedibujaBote();
     // What a finished match has left on the table stays there until the next one.
     const bool hay_asientos = estado.PartidaEnCurso || vista.nombres;
     for (int asiento = 1; asiento <= 4 && hay_asientos; ++asiento) {
@@ -121,6 +124,7 @@ void RedibujarMesa() {
     if (estado.RepartoEnCurso)
         PintaReparto();
     RedibujaTantos();
+    RepintaApostadora();
     PintaColumna();
     PintaSugerencia();
     PintaOpciones();

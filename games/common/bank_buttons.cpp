@@ -4,7 +4,6 @@
 #include "betting/phases.h"
 #include "core/game_state.h"
 #include "games/common/series_state.h"
-#include "table/bet_board.h"
 #include "table/controls.h"
 #include "table/game_row.h"
 #include "table/messages.h"
@@ -24,14 +23,13 @@ void MuestraOtraSerie(int indice) {
     const Integer asiento = estado.JugadorActual;
     const int otra = estado.SerieActual + (indice == kSerieAnterior ? -1 : 1);
     BotonLateral(asiento, kPulsado, indice);
-    Sonido(0, sonido::kBotonDeApuesta);
+    Sonido(0, sonido::kBotonLateral);
     Pausa(kPausaDelClic);
     BotonLateral(asiento, kArriba, indice);
     if (otra < 1 || otra > estado.SeriesJugador(asiento))
         return;
     estado.SerieActual = static_cast<Integer>(otra);
     RedibujarAsiento(asiento);
-    RedibujaApuesta(asiento);
 }
 
 } // namespace
@@ -93,7 +91,7 @@ bool EsperaUnaOrden() {
 
 void ClicDeOrden(BotonDeSerie boton, bool& orden) {
     DibujaBotonDeSerie(boton, true);
-    Sonido(0, sonido::kBotonDeApuesta);
+    Sonido(0, sonido::kBotonLateral);
     Pausa(kPausaDelClic);
     DibujaBotonDeSerie(boton, false);
     orden = true;

@@ -3,6 +3,7 @@
 #include "core/game_state.h"
 #include "platform/platform.h"
 #include "table/bet_board.h"
+#include "table/layout.h"
 #include "table/messages.h"
 #include "table/sheet_layout.h"
 #include "table/sounds.h"
@@ -10,13 +11,12 @@
 namespace {
 
 constexpr int kVeces = 2;
-constexpr int kPrimeraAreaDeApuestas = 8; // of the places of chips: before the zone of seat 1
 
 // A mark on the first stack of the seat's bet place.
 void PonMarca(int asiento, const lamina::Recorte& marca) {
     if (!plataforma().HayPantalla())
         return;
-    const int area = kPrimeraAreaDeApuestas + asiento - 1;
+    const int area = kAreaApuestas + asiento - 1;
     plataforma()
         .LienzoDe(Control::Mesa, 0)
         .Lamina(estado.PosFichaX(area, 1), estado.PosFichaY(area, 1), marca);

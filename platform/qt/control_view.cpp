@@ -24,8 +24,11 @@ Trato TratoDe(Control control) {
     case Control::Pic_Apostadora:
         return Trato::Panel;
     case Control::Pic_Tantos:
+    case Control::Pic_APApoJugAct:
+    case Control::Pic_APApoJugAcu:
         return Trato::Placa;
     case Control::Pic_Mover:
+    case Control::Pic_NumerosCristal:
         return Trato::Movil;
     default:
         return Trato::Boton;

@@ -155,7 +155,7 @@ const VistaControl* PlataformaQt::VistaSiHay(Control control, int indice) const 
     return vista == vistas_.end() ? nullptr : vista->second;
 }
 
-// The pop-up lies over the controls, the flight over everything on the felt, the held card over both.
+// The pop-up lies over the controls, what flies over everything on the felt, the held card over all.
 void PlataformaQt::OrdenaCapas() {
     const auto alza = [this](Control control) {
         const auto vista = vistas_.find({control, 0});
@@ -164,6 +164,7 @@ void PlataformaQt::OrdenaCapas() {
     };
     alza(Control::Pic_SelOpciones);
     mesa_->ElVuelo().raise();
+    alza(Control::Pic_NumerosCristal);
     alza(Control::Pic_Mover);
 }
 

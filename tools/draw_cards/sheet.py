@@ -304,6 +304,34 @@ def panel(rim, face, shine, depth):
     return g
 
 
+def bet_board():
+    """The bet board: stitched leather in a wooden frame, a dark head for name and displays, brass at the corners."""
+    g = canvas(146, 172)
+    w, h = 3 * 146, 3 * 172
+    wood = g.linear("wood", [(0, WOOD_LIGHT), (0.5, WOOD), (1, WOOD_DARK)])
+    leather = g.radial("leather", [(0, "#7c3a22"), (0.7, "#5f2816"), (1, "#43190d")], 0.5, 0.4, 0.75)
+    brass = g.linear("brass", [(0, "#fff1b8"), (0.5, GOLD), (1, "#8a560c")])
+    g.rect(0.8, 0.8, w - 1.6, h - 1.6, INK, None, r=18)
+    g.rect(3, 3, w - 6, h - 6, wood, None, r=16)
+    g.path(f"M 8,{h - 20} L 8,20 Q 8,8 20,8 L {w - 20},8", None, WOOD_LIGHT, 2.4, 0.9)
+    for k, y in enumerate((90, 215, 330, 452)):
+        g.path(spline([(5, y), (9, y + 26 + 6 * k), (6, y + 60)]), None, WOOD_DARK, 1.6, 0.55)
+        g.path(spline([(w - 6, y - 20), (w - 10, y + 12), (w - 6, y + 50)]), None, WOOD_DARK, 1.6, 0.55)
+    g.rect(13, 13, w - 26, h - 26, INK, None, r=11)
+    g.rect(15, 15, w - 30, h - 30, leather, None, r=10)
+    seam = "#d9a46a"
+    for x in range(26, w - 34, 13):
+        g.path(f"M {x},{h - 21} L {x + 7},{h - 21}", None, seam, 2, 0.7)
+    for y in range(160, h - 34, 13):
+        g.path(f"M 21,{y} L 21,{y + 7}", None, seam, 2, 0.7)
+        g.path(f"M {w - 21},{y} L {w - 21},{y + 7}", None, seam, 2, 0.7)
+    g.rect(16, 16, w - 32, 130, "#2a120a", None, r=8)
+    g.path(f"M 16,147 L {w - 16},147", None, brass, 3.4)
+    for x, y in ((10, 10), (w - 10, 10), (10, h - 10), (w - 10, h - 10)):
+        g.circle(x, y, 5.6, brass, INK, 1.6)
+    return g
+
+
 def direction(inverse):
     """The table from above with the way round; the direct game goes with the clock: left, top, right, bottom."""
     g = canvas(96, 96)
@@ -392,4 +420,5 @@ def pieces():
                 ("panel_pergamino", panel(GOLD, PAPER, "#fff1b8", False)),
                 ("panel_hundido", panel("#6d7f4a", "#0b5a1e", "#b8c98a", True)))
     yield from (("placa_tantos", score_plate(66, 27)), ("visor", well(66, 27)), ("sentido_directo", direction(False)),
-                ("sentido_inverso", direction(True)), ("emblema_portada", emblem()))
+                ("sentido_inverso", direction(True)), ("emblema_portada", emblem()),
+                ("apostadora", bet_board()))

@@ -26,6 +26,7 @@
 #include "session/main_buttons.h"
 #include "session/match_driver.h"
 #include "storage/settings.h"
+#include "table/bet_board.h"
 #include "table/button_column.h"
 #include "table/controls.h"
 #include "table/deal.h"
@@ -85,6 +86,23 @@ void MoverCarta(Integer palo, Integer valor, int desdeX, int desdeY, Integer des
                 Integer hastaCara, int tapada) {
     MueveCarta({palo, valor}, {desdeX, desdeY, desdeOrientacion, desdeCara},
                {hastaX, hastaY, hastaOrientacion, hastaCara}, tapada == 1);
+}
+
+// Of the moves of chips those that are seen, without a listener of the caller's.
+void AnulaLasApuestas(Integer asiento) {
+    AnulaApuestas(asiento);
+}
+
+void PagaElBote() {
+    PagaBote();
+}
+
+void PagaLaBanca(Integer asiento, Integer cantidad) {
+    PagaDeBanca(asiento, cantidad);
+}
+
+void DevuelveLaApuesta(Integer asiento, Integer destino, Integer modo) {
+    DevuelveApuesta(asiento, destino, modo);
 }
 
 // One line a procedure that the console knows.
@@ -173,6 +191,17 @@ const std::unordered_map<std::string, Llamada>& LaTabla() { // NOLINT(readabilit
         {"AbreSerie", Llama(&AbreSerie)},
         {"DecideBlackJack", Llama(&DecideBlackJack)},
         {"DecideSiete", Llama(&DecideSiete)},
+
+        // Chips on the table and the bet board.
+        {"PonFicha", LlamaPasos(&PonFicha)},
+        {"ColocaApuesta", Llama(&ColocaApuesta)},
+        {"AnulaApuestas", Llama(&AnulaLasApuestas)},
+        {"MuestraApostadora", Llama(&MuestraApostadora)},
+        {"ActualizaApostadora", Llama(&ActualizaApostadora)},
+        {"EstadoBoton", Llama(&EstadoBoton)},
+        {"PagaBote", Llama(&PagaElBote)},
+        {"PagaDeBanca", Llama(&PagaLaBanca)},
+        {"DevuelveApuesta", Llama(&DevuelveLaApuesta)},
 
         // Hands of the games of laying cards.
         {"ExaminaMano", Llama(&ExaminaMano)},

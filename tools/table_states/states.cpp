@@ -10,6 +10,7 @@
 #include "platform/platform.h"
 #include "session/state_blocks.h"
 #include "table/button_column.h"
+#include "table/chips.h"
 #include "table/deck.h"
 #include "table/drawing.h"
 #include "table/game_row.h"
