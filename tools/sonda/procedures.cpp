@@ -7,9 +7,11 @@
 #include "betting/stakes.h"
 #include "core/game_state.h"
 #include "forms/spin.h"
+#include "games/blackjack/blackjack.h"
 #include "games/blackjack/blackjack_decision.h"
 #include "games/cinquillo/cinquillo.h"
 #include "games/cinquillo/cinquillo_choice.h"
+#include "games/common/bank_hands.h"
 #include "games/common/hand_queries.h"
 #include "games/common/hands.h"
 #include "games/common/series.h"
@@ -213,6 +215,10 @@ const std::unordered_map<std::string, Llamada>& LaTabla() { // NOLINT(readabilit
         {"AbreSerie", Llama(&AbreSerie)},
         {"DecideBlackJack", Llama(&DecideBlackJack)},
         {"DecideSiete", Llama(&DecideSiete)},
+
+        // Matches of Black Jack.
+        {"ManoBlackJack", Llama(&ManoBlackJack)},
+        {"DestellaBust", Llama(&DestellaBust)},
 
         // Chips on the table and the bet board.
         {"PonFicha", LlamaPasos(&PonFicha)},
