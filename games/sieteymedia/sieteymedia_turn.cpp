@@ -7,6 +7,7 @@
 #include "core/random.h"
 #include "games/common/bank_buttons.h"
 #include "games/common/bank_hands.h"
+#include "games/common/card_turn.h"
 #include "games/common/series.h"
 #include "games/sieteymedia/sieteymedia_cards.h"
 #include "games/sieteymedia/sieteymedia_decision.h"

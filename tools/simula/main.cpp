@@ -6,7 +6,7 @@
 #include <chrono>
 #include <cstdio>
 
-#include "table/game_row.h"
+#include "games/game_rows.h"
 #include "tools/simula/runner.h"
 
 namespace {
@@ -60,6 +60,7 @@ void Cuenta(const OpcionesSimula& opciones, const Totales& totales, double segun
 
 // What nobody catches ends the tool with its words, as it should.
 int main(int argc, char** argv) { // NOLINT(bugprone-exception-escape)
+    UsaJuegos(LosJuegos());
     OpcionesSimula opciones;
     CLI::App app{"Partidas automáticas sin pantalla"};
     PonOpciones(app, opciones);

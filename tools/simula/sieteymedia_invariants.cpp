@@ -235,7 +235,7 @@ void RevisaManoSiete() {
     HazSaldo();
 }
 
-void RevisaPartidaSiete() {
+void RevisaPartidaSiete(int /*manos*/) {
     RevisaRegistrosDeBanca();
     for (int asiento = 1; asiento <= 4; ++asiento) {
         Exige(RestoDe(asiento) == saldo.resto(asiento), "al asiento {} le quedaban {} puntos",

@@ -6,4 +6,4 @@
 // was paid.
 void RevisaManoSiete();
 // The money, the winner and the records of the match that has just ended.
-void RevisaPartidaSiete();
+void RevisaPartidaSiete(int manos);
