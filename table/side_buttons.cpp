@@ -56,10 +56,13 @@ void Pon(Control control, int indice, const Rectangulo& donde, const lamina::Rec
     p.Repinta();
 }
 
-bool TieneMazoDelante(int asiento) {
-    if (JuegoEnMesa().pintura.mazos_a_los_lados && AsientoLateral(asiento))
-        return true;
+bool EsBanca(int asiento) {
     return estado.JuegoConBanca && asiento == estado.JugadorBanca;
+}
+
+bool TieneMazoDelante(int asiento) {
+    return EsBanca(asiento) ||
+           (JuegoEnMesa().pintura.mazos_a_los_lados && AsientoLateral(asiento));
 }
 
 // Along the zone's edge to Pic_BotSuperior(index): the two stand on both sides of the zone's middle.
