@@ -21,11 +21,12 @@ Rectangulo FranjaMano(int asiento, int cartas);
 Rectangulo ZonaDe(int asiento);
 Rectangulo ZonaConRealce(int asiento);
 
-// Where the seat's played card lands in the centre.
+// A place on the table, in pixels from its upper left corner.
 struct Punto {
     int x = 0, y = 0;
     friend bool operator==(const Punto&, const Punto&) = default;
 };
+// Where the seat's played card lands in the centre: its upper left corner.
 Punto LugarCentro(int asiento);
 
 // Seats 1 and 3 sit at the sides: their cards lie, their words stand in columns.
