@@ -18,7 +18,7 @@ namespace color {
 inline constexpr Color kNegro = 0x000000, kBlanco = 0xFFFFFF, kFieltro = 0x008000,
                        kAmarillo = 0x00FFFF;
 inline constexpr Color kAzul = 0xFF0000, kAzulOscuro = 0x800000, kRojo = 0x0000FF;
-inline constexpr Color kVerde = 0x00FF00, kVerdeOscuro = 0x006400;
+inline constexpr Color kVerde = 0x00FF00, kVerdeOscuro = 0x006400, kCian = 0xFFFF00;
 inline constexpr Color kBordePanel = 0x2040E0, kBordePanelClaro = 0x6080E0, kMarfil = 0xE1F5FD;
 inline constexpr Color kPlaca = 0x203A10; // the dark plate behind captions on the felt
 } // namespace color

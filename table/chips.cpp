@@ -15,6 +15,7 @@
 #include "table/layout.h"
 #include "table/messages.h"
 #include "table/sheet_layout.h"
+#include "table/side_buttons.h"
 #include "table/sounds.h"
 #include "table/table_view.h"
 #include "table/trace.h"
@@ -65,7 +66,7 @@ void PintaPila(const Punto& pie, int d, int cuantas) {
 // What lies at the bet place on show.
 Pilas FichasEnApuesta(Integer asiento) {
     Pilas pilas{};
-    const Integer serie = estado.SerieActual;
+    const Integer serie = SerieALaVista(asiento);
     for (int i = 1; i <= apuestas.NumFichasPuestas(asiento, serie); ++i)
         ++pilas.at(static_cast<std::size_t>(apuestas.FichasPuestas(asiento, serie, i)));
     for (int d = 1; d <= kDenominaciones; ++d)
@@ -74,7 +75,7 @@ Pilas FichasEnApuesta(Integer asiento) {
 }
 
 int PuntosEnApuesta(Integer asiento) {
-    int puntos = ApuestaTotal(asiento, estado.SerieActual);
+    int puntos = ApuestaTotal(asiento, SerieALaVista(asiento));
     for (int d = 1; d <= kDenominaciones; ++d)
         puntos += vista.fichas_de_mas(asiento, d) * ValorDe(d);
     return puntos;

@@ -133,7 +133,7 @@ void RobarCartas(Integer asiento, Integer n, Integer tapada) {
     for (int i = 0; i < n; ++i) {
         const int lugar = primero + i;
         const Carta carta = SacaDelMazo();
-        const bool a_la_vista = juego.reparto.tapa && tapada == 0;
+        const bool a_la_vista = (juego.reparto.tapa && tapada == 0) || juego.asientos.banca != 0;
         PonCarta(asiento, serie, lugar, carta,
                  a_la_vista ? kDescubierta : estado.CartasJugador(asiento));
         estado.Mano(asiento, serie, lugar, kTapada) = tapada;

@@ -159,7 +159,7 @@ void LimpiaZona(int asiento) {
 }
 
 void PintaCartas(int asiento) {
-    const Integer serie = estado.SerieActual;
+    const Integer serie = SerieALaVista(asiento);
     const Integer cartas = estado.NumCartas(asiento, serie);
     for (int lugar = 1; lugar <= cartas; ++lugar) {
         const bool en_el_aire = estado.ArrastraCarta && vista.asiento_arrastrado == asiento &&
@@ -183,7 +183,7 @@ void PintaDinero(int asiento) {
         return;
     PintarFichas(asiento, kAreaRestos + asiento - 1);
     RedibujaApuesta(EnteroDe(asiento));
-    if (estado.JuegoConBanca && estado.SerieTerminada(asiento, estado.SerieActual)) {
+    if (estado.JuegoConBanca && estado.SerieTerminada(asiento, SerieALaVista(asiento))) {
         const Rectangulo zona = ZonaDe(asiento);
         const lamina::Recorte& marca = lamina::kMarcaSerieTerminada;
         Mesa().Lamina(zona.x + zona.ancho - marca.ancho - kAltoRenglon,
@@ -210,6 +210,8 @@ void RedibujarAsiento(int asiento) {
     if (plataforma().HayPantalla())
         PintaDinero(asiento);
     const FilaJuego& juego = JuegoEnMesa();
+    if (juego.pintura.puntos != nullptr)
+        MostrarPuntos(asiento);
     if (juego.pintura.botones_asiento != nullptr)
         juego.pintura.botones_asiento(asiento);
     if (plataforma().HayPantalla())

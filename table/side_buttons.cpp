@@ -13,10 +13,14 @@ constexpr int kSeparacion = 4; // between a button and its neighbours
 constexpr int kBandaRotulo =
     22; // the caption's strip and the raised cards stand nearer to the zone
 constexpr int kLargoZona = 250;
-// The pile lies before the bank: its buttons stand on both sides of it, 38 and more further apart.
+// Before the bank lies the pile: the buttons stand on both sides of it, 38 and more further apart.
 constexpr int kMitadMazo = 56, kMitadMazoAlto = 84;
 constexpr int kMitadApuesta = 49; // of the chips that lie in the middle before the seat
-constexpr Fuente kLetraBoton{.alto = 12, .negrita = true};
+constexpr Fuente kLetraBoton{.alto = 12, .negrita = true, .tope = 84};
+
+bool EsBanca(int asiento) {
+    return estado.JuegoConBanca && asiento == estado.JugadorBanca;
+}
 
 // A control of ancho by alto on the inner side of the seat's zone, a lo largo pixels along its edge.
 Rectangulo JuntoAlAsiento(int asiento, int a_lo_largo, int adentro, int ancho, int alto) {
@@ -56,13 +60,18 @@ bool EsBanca(int asiento) {
     return estado.JuegoConBanca && asiento == estado.JugadorBanca;
 }
 
+bool TieneMazoDelante(int asiento) {
+    return EsBanca(asiento) ||
+           (JuegoEnMesa().pintura.mazos_a_los_lados && AsientoLateral(asiento));
+}
+
 // Along the zone's edge to Pic_BotSuperior(index): the two stand on both sides of the zone's middle.
 int PrincipioSuperior(int asiento, int index) {
     const bool vertical = AsientoLateral(asiento);
     const lamina::Recorte& recorte = lamina::kBotonSuperiorArriba;
     const int largo = vertical ? recorte.alto : recorte.ancho;
     const int mitad_mazo = vertical ? kMitadMazoAlto : kMitadMazo;
-    const int del_medio = EsBanca(asiento) ? mitad_mazo + kSeparacion : kSeparacion / 2;
+    const int del_medio = TieneMazoDelante(asiento) ? mitad_mazo + kSeparacion : kSeparacion / 2;
     return kLargoZona / 2 + (index == 1 ? -del_medio - largo : del_medio);
 }
 
@@ -85,10 +94,11 @@ void BotonSuperior(int asiento, int state, int index) {
     Traza("BotonSuperior", asiento, state, index);
     const lamina::Recorte& recorte =
         state == 2 ? lamina::kBotonSuperiorPulsado : lamina::kBotonSuperiorArriba;
+    const RotuloBoton& suyo = JuegoEnMesa().pintura.superiores.at(index == 1 ? 0 : 1);
     Pon(Control::Pic_BotSuperior, index,
         JuntoAlAsiento(asiento, PrincipioSuperior(asiento, index), kBandaRotulo, recorte.ancho,
                        recorte.alto),
-        recorte, index == 1 ? "  C a r t a" : "S e r v i d o", index == 1 ? "Carta" : "Servido");
+        recorte, suyo.rotulo, suyo.nombre);
 }
 
 void BotonDobSeg(int asiento, int state, const std::string& texto) {
@@ -106,6 +116,12 @@ void BotonDobSeg(int asiento, int state, const std::string& texto) {
         texto == "D o b l a r" ? "Doblar" : "Seguro");
 }
 
+Integer SerieALaVista(int asiento) {
+    const Integer ultima = estado.SeriesJugador(asiento);
+    const bool es_de_otro = estado.JuegoConBanca && asiento != estado.JugadorActual;
+    return es_de_otro && ultima > 0 ? ultima : estado.SerieActual;
+}
+
 void MostrarPuntos(int asiento) {
     Traza("MostrarPuntos", asiento);
     constexpr int kPlaca = 4, kDeLaEsquina = 8;
@@ -113,7 +129,11 @@ void MostrarPuntos(int asiento) {
     const FilaJuego& juego = JuegoEnMesa();
     if (juego.pintura.puntos == nullptr)
         return;
-    const double puntos = juego.pintura.puntos(asiento, estado.SerieActual);
+    const double puntos = juego.pintura.puntos(asiento, SerieALaVista(asiento));
+    if (puntos == 0 || (EsBanca(asiento) && asiento != estado.JugadorActual)) {
+        plataforma().Muestra(Control::Pic_Tantos, asiento, false);
+        return;
+    }
     const bool medios = puntos != static_cast<int>(puntos);
     // Above the zone at the sides, where the bet board leaves it to see.
     const bool vertical = AsientoLateral(asiento);

@@ -5,7 +5,10 @@
 #include "betting/chips.h"
 #include "betting/stakes.h"
 #include "core/game_state.h"
+#include "games/blackjack/blackjack.h"
+#include "games/blackjack/blackjack_input.h"
 #include "games/blackjack/blackjack_tutor.h"
+#include "games/common/money_hands.h"
 #include "games/common/series.h"
 #include "games/common/series_view.h"
 #include "table/deck.h"
@@ -66,7 +69,7 @@ const FilaJuego& FilaBlackJack() {
     static const FilaJuego kFila{
         .id = kBlackJack,
         .nombre = "Black Jack",
-        .sin_terminar = true,
+        .driver = ManoBlackJack,
         .asientos = {.banca = kBanca,
                      .candados = {{Candado::Ajuste::Estado, kBanca, kBancaFija},
                                   {Candado::Ajuste::Cartas, 0, kCartasFijas}}},
@@ -77,11 +80,19 @@ const FilaJuego& FilaBlackJack() {
                    .clave_orden = ClaveDeSerie},
         .reparto = {.recibe = Recibe, .cartas_de = CartasDe},
         .sorteo = {.se_hace = false},
-        .entrada = {.menu_ordenar = false, .puntero = PunteroDeSerie, .tutor = AconsejaBlackJack},
-        .pintura = {.botones_asiento = PonBotonesDeSerie,
+        .entrada = {.menu_ordenar = false,
+                    .puntero = PunteroBlackJack,
+                    .clic = ClicEnCartasBlackJack,
+                    .clic_control = ClicEnBotonBlackJack,
+                    .tutor = AconsejaBlackJack},
+        .pintura = {.botones_asiento = PonBotonesBlackJack,
                     .puntos = PuntosSerie,
                     .rotulo_continuar = RotuloDeSerie},
         .dinero = {.hay = true, .reglas = {.maxima_solo_al_apostar = true, .maximas_de_techo = 12}},
+        .mano = {.pasa_la_mano = PasaLaBanca, .limpia = LimpiaManoConDinero, .reparte = false},
+        .partida = {.nueva = NuevaBlackJack,
+                    .acabada = AcabadaBlackJack,
+                    .texto_final = TextoFinalBlackJack},
         .normas = {.reglas = {Regla::RestoInicial, Regla::ApuestaMaxima}},
     };
     return kFila;

@@ -4,27 +4,7 @@
 #include "platform/canvas.h"
 #include "table/messages.h"
 #include "table/seat_drawing.h"
-#include "table/side_buttons.h"
-
-namespace {
-
-constexpr int kArriba = 1, kPulsado = 2;
-
-void PonBoton(BotonDeSerie boton, int aspecto) {
-    const Integer asiento = estado.JugadorActual;
-    switch (boton) {
-    case BotonDeSerie::Carta:
-        return BotonSuperior(asiento, aspecto, 1);
-    case BotonDeSerie::Servido:
-        return BotonSuperior(asiento, aspecto, 2);
-    case BotonDeSerie::Doblar:
-        return BotonDobSeg(asiento, aspecto, "D o b l a r");
-    case BotonDeSerie::Seguro:
-        return BotonDobSeg(asiento, aspecto, "S e g u r o");
-    }
-}
-
-} // namespace
+#include "table/sounds.h"
 
 void EmpiezaConsejo() {
     if (estado.SerieActual == estado.SerieEnJuego)
@@ -43,13 +23,12 @@ void AconsejaConRotulo(const std::string& texto) {
 }
 
 void DestellaBoton(BotonDeSerie boton) {
-    constexpr int kSonidoDestello = 12;
     for (int vez = 0; vez < 2; ++vez) {
         Pausa(180);
-        PonBoton(boton, kPulsado);
-        Sonido(1, kSonidoDestello);
+        DibujaBotonDeSerie(boton, true);
+        Sonido(1, sonido::kParpadeo);
         Pausa(420);
-        PonBoton(boton, kArriba);
+        DibujaBotonDeSerie(boton, false);
     }
 }
 

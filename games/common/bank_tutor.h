@@ -4,7 +4,7 @@
 
 #include <string>
 
-enum class BotonDeSerie { Carta, Servido, Doblar, Seguro };
+#include "games/common/bank_buttons.h"
 
 // Back to the serie in play, if another one was being looked at. Writes SerieActual.
 void EmpiezaConsejo();

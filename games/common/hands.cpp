@@ -20,10 +20,9 @@
 
 namespace {
 
-constexpr int kJuegosGuardados = 999; // what the file can count; older records are let go
-
+// In the games with money a hand is won alone.
 bool PorParejas() {
-    return estado.ModalidadJuego == kDosParejas;
+    return estado.ModalidadJuego == kDosParejas && !JuegoEnMesa().dinero.hay;
 }
 
 bool EnEquipo(int asiento, Integer ganador) {
@@ -85,6 +84,7 @@ void PonMesaDeMano() {
     if (JuegoEnMesa().mano.limpia != nullptr)
         JuegoEnMesa().mano.limpia();
     LimpiarMesa();
+    OcultaTantos();
     MostrarNombres();
     for (Integer asiento = 1; asiento <= 4; ++asiento) {
         if (SeVeAlEmpezar(asiento))
@@ -211,6 +211,10 @@ std::string TextoGana(Integer ganador, const std::string& que) {
 bool CuentaFinalMano(const std::string& texto) {
     Pausa(750);
     Mensaje("Final de la mano", texto, LineasDe(texto), 1);
+    return EsperaOtraMano();
+}
+
+bool EsperaOtraMano() {
     if (estado.PausaEntreJugadas || AlguienManual())
         return EsperaContinuar();
     PaseDeEventos(Pase::DePaso);

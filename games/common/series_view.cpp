@@ -4,32 +4,20 @@
 #include "betting/phases.h"
 #include "core/game_state.h"
 #include "core/text.h"
+#include "games/common/bank_buttons.h"
 #include "games/common/series.h"
-#include "table/controls.h"
-#include "table/side_buttons.h"
 
 namespace {
 
-bool PuedePedir(int asiento) {
-    return estado.ControlJugador(asiento) == kManual && apuestas.FaseApuesta == kFaseJuego &&
-           estado.SerieActual == estado.SerieEnJuego;
+bool PuedePedir() {
+    return apuestas.FaseApuesta == kFaseJuego && estado.SerieActual == estado.SerieEnJuego;
 }
 
 } // namespace
 
 void PonBotonesDeSerie(int asiento) {
-    if (asiento != estado.JugadorActual)
-        return;
-    for (int indice = 1; indice <= 2; ++indice) {
-        if (PuedePedir(asiento))
-            BotonSuperior(asiento, 1, indice);
-        else
-            Oculta(Control::Pic_BotSuperior, indice);
-        if (estado.SeriesJugador(asiento) > 1)
-            BotonLateral(asiento, 1, indice);
-        else
-            Oculta(Control::Pic_BotLateral, indice);
-    }
+    const bool pide = PuedePedir();
+    PonBotones(asiento, {.carta = pide, .servido = pide});
 }
 
 Puntero PunteroDeSerie(int lugar) {

@@ -6,7 +6,7 @@
 #include "platform/platform.h"
 
 // Shows what the seat on turn may press, hides the rest: to ask for a card and to stand for a manual seat that
-// plays the serie on show, to browse when it holds several series. Does nothing for any other seat.
+// plays the serie on show, to browse when it holds several. Does nothing for any other seat.
 void PonBotonesDeSerie(int asiento);
 
 // The caption of an automatic seat's turn: "Apuesta" or "Juega" by FaseApuesta, and its name, with the number of

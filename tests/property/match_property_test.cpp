@@ -31,8 +31,8 @@ OpcionesSimula UnaMesa() {
     const FilaJuego& juego = UnJuego();
     OpcionesSimula opciones;
     opciones.juego = juego.id;
-    opciones.asientos = Entre(juego.minimo_asientos, 4);
-    opciones.parejas = opciones.asientos == 4 && !juego.sin_parejas && Entre(0, 1) == 1;
+    opciones.asientos = Entre(juego.asientos.minimo, 4);
+    opciones.parejas = opciones.asientos == 4 && !juego.asientos.sin_parejas && Entre(0, 1) == 1;
     opciones.limite = Entre(1, 5);
     opciones.semilla = *rc::gen::arbitrary<std::uint32_t>();
     opciones.azar = opciones.personas = true;

@@ -2,8 +2,13 @@
 
 #include <algorithm>
 
+#include "games/common/hands.h"
 #include "session/state_blocks.h"
+#include "tools/simula/bank_invariants.h"
+#include "tools/simula/blackjack_invariants.h"
 #include "tools/simula/cinquillo_invariants.h"
+#include "tools/simula/poker_invariants.h"
+#include "tools/simula/sieteymedia_invariants.h"
 #include "tools/simula/trick_invariants.h"
 
 namespace {
@@ -11,12 +16,16 @@ namespace {
 struct Revision {
     Integer juego;
     void (*mano)();
-    void (*partida)();
+    void (*partida)(int manos);
+    void (*paso)() = nullptr; // nothing to look at meanwhile
 };
 
 constexpr Revision kRevisiones[] = {
+    {kPoker, RevisaManoPoker, RevisaPartidaPoker, RevisaPasoPoker},
+    {kBlackJack, RevisaManoBlackJack, RevisaPartidaBlackJack, RevisaPasoBlackJack},
     {kTute, RevisaManoBazas, RevisaPartidaBazas},
     {kBrisca, RevisaManoBazas, RevisaPartidaBazas},
+    {kSieteYMedia, RevisaManoSiete, RevisaPartidaSiete, RevisaDineroDeBanca},
     {kCinquillo, RevisaManoCinquillo, RevisaPartidaCinquillo},
 };
 
@@ -31,12 +40,19 @@ const Revision& RevisionDelJuego() {
 
 } // namespace
 
+void RevisaPaso() {
+    if (const auto paso = RevisionDelJuego().paso; paso != nullptr)
+        paso();
+}
+
 void RevisaFinalDeMano() {
     RevisionDelJuego().mano();
 }
 
-void RevisaFinalDePartida() {
+void RevisaFinalDePartida(int manos) {
     Exige(!estado.PartidaEnCurso, "la partida acaba");
+    Exige(estado.JuegosJugados == std::min(manos, kJuegosGuardados + 1),
+          "acabaron {} manos y se apuntaron {}", manos, estado.JuegosJugados);
     Exige(estado.GanadorPartida >= 1 && estado.GanadorPartida <= 4, "la partida tiene ganador");
-    RevisionDelJuego().partida();
+    RevisionDelJuego().partida(manos);
 }

@@ -2,14 +2,21 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <stdexcept>
 
+#include "betting/chips.h"
+#include "core/default_settings.h"
 #include "core/random.h"
+#include "games/game_rows.h"
 #include "session/main_buttons.h"
 #include "session/match_driver.h"
 #include "session/state_blocks.h"
+#include "table/button_column.h"
+#include "table/chips.h"
 #include "table/deck.h"
 #include "table/game_row.h"
+#include "table/layout.h"
 #include "table/trace.h"
 #include "table/waiting.h"
 #include "tools/common/fresh_table.h"
@@ -68,28 +75,116 @@ void Pide(bool cumple, const char* que) {
         throw std::invalid_argument(que);
 }
 
+// Rules in points, so that a match does not take for ever. Drawn for the games that have them only.
+void PonDinero(const OpcionesSimula& opciones) {
+    const FilaJuego& juego = *FilaDe(static_cast<Integer>(opciones.juego));
+    if (juego.dinero.hay && opciones.azar) {
+        estado.RestoInicial = static_cast<Integer>(5 * (1 + AzarEntre(60)));
+        estado.ApuestaMaxima = static_cast<Integer>(
+            std::max<int>(estado.RestoInicial / AzarEntre(20), kLimitesApuestaMaxima.minimo));
+    }
+    if (opciones.resto > 0)
+        estado.RestoInicial = static_cast<Integer>(opciones.resto);
+    if (opciones.maxima > 0)
+        estado.ApuestaMaxima = static_cast<Integer>(opciones.maxima);
+}
+
+void PonRegla(Integer& regla, int pedida, int hasta, bool al_azar) {
+    if (pedida > 0)
+        regla = static_cast<Integer>(pedida);
+    else if (al_azar)
+        regla = static_cast<Integer>(AzarEntre(hasta));
+}
+
+// Rules of the deck and of the opening, for the games whose form has them.
+void PonReglas(const OpcionesSimula& opciones) {
+    const auto& reglas = FilaDe(static_cast<Integer>(opciones.juego))->normas.reglas;
+    if (std::ranges::find(reglas, Regla::Baraja) == reglas.end())
+        return;
+    PonRegla(estado.CartasBaraja, opciones.baraja, 6, opciones.azar);
+    PonRegla(estado.ComodinesJuego, opciones.comodines, 3, opciones.azar);
+    PonRegla(estado.LeyApertura, opciones.ley, 14, opciones.azar);
+    PonRegla(estado.ApuestaSalida, opciones.salida, 0, false);
+}
+
+bool TurnoManual() {
+    return estado.EsperandoJugada && estado.ManoEnCurso &&
+           estado.ControlJugador(estado.JugadorActual) == kManual;
+}
+
+constexpr ControlMesa kBotonesDeAsiento[] = {
+    {Control::Pic_BotSuperior, 1},    {Control::Pic_BotSuperior, 2},  {Control::Pic_BotLateral, 1},
+    {Control::Pic_BotLateral, 2},     {Control::Pic_BotDobSeg, 0},    {Control::Pic_APBotPasar, 0},
+    {Control::Pic_APBotIgualar, 0},   {Control::Pic_APBotApostar, 0}, {Control::Pic_APBotAnular, 0},
+    {Control::Pic_Boton, kBotonTutor}};
+
+Evento ClicEn(const Punto& punto) {
+    return {.tipo = TipoEvento::RatonPulsa, .x = punto.x, .y = punto.y};
+}
+
+// A button that may be there or not, one of the seat's stacks of chips, one of its cards.
+Evento UnCapricho() {
+    constexpr int kDentro = 3;
+    const Integer asiento = estado.JugadorActual;
+    const int cual = AzarEntre(static_cast<int>(std::size(kBotonesDeAsiento)) + 6);
+    if (cual <= static_cast<int>(std::size(kBotonesDeAsiento))) {
+        const ControlMesa& boton = kBotonesDeAsiento[cual - 1];
+        return {.tipo = TipoEvento::Clic, .control = boton.control, .indice = boton.indice};
+    }
+    if (AzarEntre(2) == 1) {
+        const Rectangulo pila = PilaDe(asiento, AzarEntre(kDenominaciones));
+        return ClicEn({pila.x + kDentro, pila.y + kDentro});
+    }
+    const Integer cartas = estado.NumCartas(asiento, estado.SerieActual);
+    ColocarCarta(asiento, AzarEntre(std::max<int>(cartas, 1)), cartas);
+    return ClicEn({estado.CartaX + kDentro, estado.CartaY + kDentro});
+}
+
 } // namespace
 
-MesaSimulada::MesaSimulada(void (*al_acabar_mano)()) : al_acabar_mano_(al_acabar_mano) {
+MesaSimulada::MesaSimulada(void (*al_acabar_mano)(), void (*al_pasar)())
+    : al_acabar_mano_(al_acabar_mano), al_pasar_(al_pasar) {
     siempre_continua = true;
     registra = false;
     InstalaFicherosDelPrograma(*this, CarpetaDelEjecutable());
 }
 
 Boton MesaSimulada::Pregunta(const CajaMensaje& caja) {
-    if (!estado.ManoEnCurso && estado.PartidaEnCurso && caja.titulo == "Final de la mano") {
+    // Some games have more to say at the end of a hand, under the same title. A hand of Póker that is void is over
+    // without a showdown.
+    if (caja.titulo == "Fin de la mano") {
+        mano_en_curso_ = false;
+        ++manos;
+    } else if (mano_en_curso_ && !estado.ManoEnCurso && caja.titulo == "Final de la mano") {
+        mano_en_curso_ = false;
         ++manos;
         al_acabar_mano_();
     }
     return caja.modo == 2 ? Boton::No : Boton::Salir;
 }
 
+std::optional<Evento> MesaSimulada::SiguienteEvento(Pase pase) {
+    mano_en_curso_ = mano_en_curso_ || estado.ManoEnCurso;
+    al_pasar_();
+    constexpr int kAntesDeSeguir = 3;
+    if (caprichos && pase == Pase::DeEspera && TurnoManual() && AzarEntre(kAntesDeSeguir) > 1)
+        return UnCapricho();
+    return PlataformaSinPantalla::SiguienteEvento(pase);
+}
+
 Simulacion::Simulacion(const OpcionesSimula& opciones)
-    : opciones_(opciones), mesa_(opciones.revisa ? RevisaFinalDeMano : [] {}) {
+    : opciones_(opciones),
+      mesa_(
+          opciones.revisa ? RevisaFinalDeMano : [] {}, opciones.revisa ? RevisaPaso : [] {}) {
+    UsaJuegos(LosJuegos());
     Pide(SonDeAsientos(opciones.niveles, 0, 100), "los niveles son cuatro, de 0 a 100");
     Pide(SonDeAsientos(opciones.caracteres, 1, 3), "los caracteres son cuatro, de 1 a 3");
     Pide(opciones.sentido == 1 || opciones.sentido == 2, "el sentido es 1 o 2");
     Pide(opciones.asientos >= 2 && opciones.asientos <= 4, "los asientos son de 2 a 4");
+    Pide(opciones.baraja >= 0 && opciones.baraja <= 6, "las barajas son de 1 a 6");
+    Pide(opciones.comodines >= 0 && opciones.comodines <= 3, "los comodines son de 1 a 3");
+    Pide(opciones.ley >= 0 && opciones.ley <= 14, "la ley de apertura va de 1 a 14");
+    Pide(opciones.salida >= 0 && opciones.salida <= 999, "la apuesta de salida va de 1 a 999");
     Pide(opciones.limite >= 1 && opciones.limite <= 999, "el límite va de 1 a 999");
     Pide(!opciones.parejas || opciones.asientos == 4, "las parejas son de cuatro asientos");
     const FilaJuego* juego = FilaDe(static_cast<Integer>(opciones.juego));
@@ -126,7 +221,10 @@ void Simulacion::PreparaPartida(std::int64_t n) {
     estado.SentidoJuego = static_cast<Integer>(opciones_.sentido);
     if (opciones_.azar)
         SientaAlAzar();
-    RepartePersonas(opciones_.personas);
+    RepartePersonas(opciones_.personas || opciones_.caprichos);
+    PonDinero(opciones_);
+    PonReglas(opciones_);
+    mesa_.caprichos = opciones_.caprichos;
     for (int asiento = 1; asiento <= 4; ++asiento) {
         const auto i = static_cast<std::size_t>(asiento - 1);
         estado.EstadoJugador(asiento) = asiento <= opciones_.asientos ? kActivado : kDesactivado;
@@ -163,13 +261,11 @@ Totales Simulacion::Juega(std::int64_t n) {
     mesa_.manos = 0;
     NuevaPartida();
     Exige(!sesion.sin_eventos, "una espera se quedó sin eventos");
-    Exige(mesa_.manos == estado.JuegosJugados, "acabaron {} manos y se apuntaron {}", mesa_.manos,
-          estado.JuegosJugados);
     if (opciones_.revisa)
-        RevisaFinalDePartida();
+        RevisaFinalDePartida(mesa_.manos);
     Totales totales;
     totales.partidas = 1;
-    totales.manos = estado.JuegosJugados;
+    totales.manos = mesa_.manos;
     totales.ganadas[static_cast<std::size_t>(estado.GanadorPartida)] = 1;
     if (opciones_.firma) {
         FirmaRegistros();

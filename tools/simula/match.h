@@ -10,17 +10,22 @@
 // wait goes on, and nothing is written anywhere.
 class MesaSimulada : public PlataformaSinPantalla {
 public:
-    // What is looked at when a hand has ended.
-    explicit MesaSimulada(void (*al_acabar_mano)());
+    // What is looked at when a hand has ended, and at every pass of the events.
+    MesaSimulada(void (*al_acabar_mano)(), void (*al_pasar)());
 
     // How many hands have ended in this match.
     int manos = 0;
+    // Whoever plays by hand presses anything, by chance, before the wait goes on.
+    bool caprichos = false;
 
     Boton Pregunta(const CajaMensaje& caja) override;
+    std::optional<Evento> SiguienteEvento(Pase pase) override;
     bool GuardaPartidas() const override { return false; }
 
 private:
     void (*al_acabar_mano_)();
+    void (*al_pasar_)();
+    bool mano_en_curso_ = false; // a hand has been seen under way that has not ended yet
 };
 
 class Simulacion {

@@ -19,7 +19,14 @@ struct OpcionesSimula {
     int sentido = 1;
     bool azar = false;     // levels, characters, names and direction of each match from its seed
     bool personas = false; // who plays by hand, from the seed of each match; nobody otherwise
-    int procesos = 0;      // 0: as many as the machine has cores
+    // They press whatever there is, by chance, before they take what the wait proposes.
+    bool caprichos = false;
+    // In the games with money: RestoInicial and ApuestaMaxima; 0 for the default ones, or by chance with azar.
+    int resto = 0, maxima = 0;
+    // In the games that have them: CartasBaraja, ComodinesJuego, LeyApertura and ApuestaSalida; 0 for the default ones, or
+    // by chance with azar (of the ante, by which every match ends: the default one).
+    int baraja = 0, comodines = 0, ley = 0, salida = 0;
+    int procesos = 0; // 0: as many as the machine has cores
     bool firma = false;
     bool revisa = true; // what must hold, at the end of each hand and of each match
 };

@@ -2,6 +2,7 @@
 
 #include "betting/bet_state.h"
 #include "betting/money_repair.h"
+#include "core/default_settings.h"
 
 #include <gmock/gmock.h>
 

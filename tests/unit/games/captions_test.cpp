@@ -5,6 +5,7 @@
 #include <string>
 
 #include "betting/bet_state.h"
+#include "core/default_settings.h"
 #include "core/game_state.h"
 #include "table/game_row.h"
 
