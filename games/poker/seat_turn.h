@@ -5,10 +5,8 @@
 #include <string>
 
 #include "core/tabla.h"
-#include "games/common/card_turn.h"
 
 bool TieneCartas(Integer asiento);
-bool EsManual(Integer asiento);
 
 // JugadoresEnMano: the seats that hold cards.
 void CuentaJugadoresEnMano();
