@@ -123,7 +123,7 @@ void MostrarPuntos(int asiento) {
     if (juego.pintura.puntos == nullptr)
         return;
     const double puntos = juego.pintura.puntos(asiento, SerieALaVista(asiento));
-    if (puntos == 0 || (EsBanca(asiento) && asiento != estado.JugadorActual)) {
+    if (puntos == 0 || (TieneMazoDelante(asiento) && asiento != estado.JugadorActual)) {
         plataforma().Muestra(Control::Pic_Tantos, asiento, false);
         return;
     }
