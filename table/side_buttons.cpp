@@ -52,10 +52,13 @@ void Pon(Control control, int indice, const Rectangulo& donde, const lamina::Rec
     p.Repinta();
 }
 
-bool TieneMazoDelante(int asiento) {
-    if (JuegoEnMesa().pintura.mazos_a_los_lados && AsientoLateral(asiento))
-        return true;
+bool EsBanca(int asiento) {
     return estado.JuegoConBanca && asiento == estado.JugadorBanca;
+}
+
+bool TieneMazoDelante(int asiento) {
+    return EsBanca(asiento) ||
+           (JuegoEnMesa().pintura.mazos_a_los_lados && AsientoLateral(asiento));
 }
 
 // Along the zone's edge to Pic_BotSuperior(index): the two stand on both sides of the zone's middle.
@@ -123,7 +126,7 @@ void MostrarPuntos(int asiento) {
     if (juego.pintura.puntos == nullptr)
         return;
     const double puntos = juego.pintura.puntos(asiento, SerieALaVista(asiento));
-    if (puntos == 0 || (TieneMazoDelante(asiento) && asiento != estado.JugadorActual)) {
+    if (puntos == 0 || (EsBanca(asiento) && asiento != estado.JugadorActual)) {
         plataforma().Muestra(Control::Pic_Tantos, asiento, false);
         return;
     }
