@@ -91,7 +91,6 @@ void VuelveALaSerieEnJuego() {
         return;
     estado.SerieActual = estado.SerieEnJuego;
     RedibujarAsiento(estado.JugadorActual);
-    RedibujaApuesta(estado.JugadorActual);
 }
 
 [[nodiscard]] bool EsperaJugada(bool primer_paso) {

@@ -7,16 +7,22 @@
 #include "betting/stakes.h"
 #include "core/game_state.h"
 #include "forms/spin.h"
+#include "games/blackjack/blackjack.h"
 #include "games/blackjack/blackjack_decision.h"
 #include "games/cinquillo/cinquillo.h"
 #include "games/cinquillo/cinquillo_choice.h"
+#include "games/common/bank_hands.h"
 #include "games/common/hand_queries.h"
 #include "games/common/hands.h"
 #include "games/common/series.h"
 #include "games/poker/bet_choice.h"
+#include "games/poker/combinations.h"
 #include "games/poker/discard_choice.h"
+#include "games/poker/hand_layout.h"
 #include "games/poker/hand_order.h"
 #include "games/poker/hand_reading.h"
+#include "games/poker/hand_tables.h"
+#include "games/poker/hand_text.h"
 #include "games/poker/hand_value.h"
 #include "games/poker/opening_law.h"
 #include "games/poker/poker_driver.h"
@@ -209,6 +215,10 @@ const std::unordered_map<std::string, Llamada>& LaTabla() { // NOLINT(readabilit
         {"AbreSerie", Llama(&AbreSerie)},
         {"DecideBlackJack", Llama(&DecideBlackJack)},
         {"DecideSiete", Llama(&DecideSiete)},
+
+        // Matches of Black Jack.
+        {"ManoBlackJack", Llama(&ManoBlackJack)},
+        {"DestellaBust", Llama(&DestellaBust)},
 
         // Chips on the table and the bet board.
         {"PonFicha", LlamaPasos(&PonFicha)},
