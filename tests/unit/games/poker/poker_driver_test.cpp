@@ -237,7 +237,7 @@ TEST_F(ManosDePoker, LasCartasDelRegistroVanConSusLetrasYElComodinConSuSigno) {
     Puso(1, kSalida, 5);
     ASSERT_TRUE(FinalDeMano());
     EXPECT_EQ(Registro().Texto1(1), "Trio");
-    EXPECT_EQ(Registro().Texto2(1), "# 10 10 K J");
+    EXPECT_EQ(Registro().Texto2(1), "10 10 # K J");
 }
 
 TEST_F(ManosDePoker, SinFichasElManoLoEsElSiguienteQueTiene) {
