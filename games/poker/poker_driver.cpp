@@ -5,6 +5,7 @@
 #include "betting/bet_state.h"
 #include "betting/chips.h"
 #include "betting/phases.h"
+#include "betting/placing.h"
 #include "betting/stakes.h"
 #include "core/game_state.h"
 #include "games/common/hands.h"
@@ -122,6 +123,7 @@ void PonApuestaDeSalida() {
     RedibujaBote(); // the last hand may have left it
     Integer asiento = estado.JugadorMano;
     for (int turno = 1; turno <= 4; ++turno) {
+        EmpiezaTurnoDeApuesta(asiento);
         if (const Integer cantidad = LoQuePoneDeSalida(asiento); cantidad > 0)
             ColocaApuesta(asiento, cantidad);
         SiguienteAsiento(asiento);
