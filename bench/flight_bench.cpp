@@ -11,6 +11,7 @@
 #include <memory>
 #include <vector>
 
+#include "core/default_settings.h"
 #include "core/game_state.h"
 #include "core/random.h"
 #include "platform/qt/platform_qt.h"

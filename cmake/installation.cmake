@@ -13,6 +13,7 @@ if(TARGET zovin_sound)
 endif()
 install(PROGRAMS packaging/zovin.sh DESTINATION bin RENAME zovin)
 install(DIRECTORY assets/help/ DESTINATION ${program_folder}/ayuda)
+install(FILES assets/tables/PkFDes.ZOV DESTINATION ${program_folder})
 
 install(FILES packaging/local.zovin.Zovin.desktop DESTINATION share/applications)
 install(FILES packaging/local.zovin.Zovin.metainfo.xml DESTINATION share/metainfo)

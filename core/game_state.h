@@ -10,10 +10,13 @@
 
 #include "core/currency.h"
 #include "core/tabla.h"
+#include "games/common/trick_values.h"
 
 // Suits; no card is 0. The French deck uses the same rows.
 inline constexpr Integer kSinCarta = 0, kOros = 1, kCopas = 2, kEspadas = 3, kBastos = 4,
                          kComodin = 5;
+// The As, in every deck.
+inline constexpr Integer kAs = 1;
 // Fields of a place of Mano.
 inline constexpr int kPalo = 1, kValor = 2, kCara = 3, kAltura = 4, kTapada = 5;
 // CaraCarta, AlturaCarta, and the settings with two values.
@@ -249,6 +252,3 @@ void CuentaJugadores();
 
 // Every place of the seat's hand empty, in all its series. Writes Mano and NumCartas.
 void VaciaMano(Integer asiento);
-
-// The settings before any file is read, seats and match included: what a first run starts with.
-void PonValoresPorDefecto();

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <array>
 
+#include "core/default_settings.h"
 #include "core/game_state.h"
 #include "core/text.h"
-#include "storage/settings_limits.h"
 
 SpinDeTrabajo spin;
 

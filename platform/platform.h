@@ -179,6 +179,9 @@ public:
     // False where nobody will ever go on with a match: it is then not written between hands.
     virtual bool GuardaPartidas() const { return true; }
 
+    // False where the game goes on without the data files that come with the program.
+    virtual bool ExigeFicheros() const { return true; }
+
     // Folders end without a separator. CarpetaUsuario is the writable folder of the user.
     virtual Archivos& LosArchivos() = 0;
     virtual std::string CarpetaDelPrograma() const = 0;

@@ -1,5 +1,7 @@
 #include "session/initial_draw.h"
 
+#include <stdexcept>
+
 #include "core/game_state.h"
 #include "core/random.h"
 #include "core/session_state.h"
@@ -14,7 +16,6 @@
 
 namespace {
 
-constexpr Integer kAs = 1;
 constexpr int kUltimoValor = 13;
 
 void PonEnLugarLibre(Integer palo, Integer valor) {
@@ -56,7 +57,8 @@ void Anuncia(Integer asiento) {
 }
 
 // Cards from a fresh mix until an As falls. With seats out of play all four may lie at places that are passed
-// over: salio then stays false. The answer is false when the match was left.
+// over: salio then stays false. The answer is false when the match was left. When nobody takes a card no mix
+// will ever end the draw.
 [[nodiscard]] bool SacaCartas(bool& salio) {
     const Punto mazo = CentroDelMazo();
     int cartas_en_mazo = estado.CartasNormales;
@@ -75,6 +77,8 @@ void Anuncia(Integer asiento) {
         if (!salio)
             Pausa(120);
     }
+    if (cartas_en_mazo == estado.CartasNormales)
+        throw std::logic_error("no hay ningún jugador activo que entre en el sorteo");
     return true;
 }
 

@@ -23,7 +23,7 @@ void CuentaFallo(const std::string& fichero) {
 bool GuardaGeneral() {
     const bool hecho = GrabarIniGeneral() == ErrorArchivo::Ninguno;
     if (!hecho)
-        CuentaFallo("ZOV31.INI");
+        CuentaFallo(kIniGeneral);
     return hecho;
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <functional>
 
+#include "core/default_settings.h"
 #include "core/game_state.h"
 #include "core/session_state.h"
 #include "core/text.h"
@@ -14,7 +15,6 @@
 
 namespace {
 
-constexpr const char* kGeneral = "ZOV31.INI";
 constexpr const char* kFinDeLinea = "\r\n";
 constexpr Integer kMaximoJuegos = 999; // what the three columns of the number hold
 
@@ -137,10 +137,10 @@ std::string NombreIniJuego(int juego) {
 void LeerIniGeneral() {
     estado.FicheroNuevo = false;
     const int error =
-        Lee(kGeneral, [](Lineas& lineas) { LeeCampos(lineas.Siguiente(), ini::General()); });
+        Lee(kIniGeneral, [](Lineas& lineas) { LeeCampos(lineas.Siguiente(), ini::General()); });
     ReparaGeneral();
     if (error != kSinError)
-        Rehaz(kGeneral, "IDC ERROR ", error, GrabarIniGeneral);
+        Rehaz(kIniGeneral, "IDC ERROR ", error, GrabarIniGeneral);
 }
 
 void LeerIniJuego() {
@@ -158,7 +158,7 @@ void LeerIniJuego() {
 }
 
 ErrorArchivo GrabarIniGeneral() {
-    return Graba(kGeneral, EscribeCampos(ini::General(), ini::kAnchoGeneral) + kFinDeLinea);
+    return Graba(kIniGeneral, EscribeCampos(ini::General(), ini::kAnchoGeneral) + kFinDeLinea);
 }
 
 ErrorArchivo GrabarIniJuego() {

@@ -8,6 +8,9 @@
 #include "core/files.h"
 #include "core/tabla.h"
 
+// The file that all games share.
+inline constexpr const char* kIniGeneral = "ZOV31.INI";
+
 // Reads ZOV31.INI into JuegoActivo, SonidoActivo and VelocidadJuego and repairs them. A missing or unreadable
 // file gives one message and is written anew with GrabarIniGeneral; what of it is no number stays as it stood, the
 // other values are taken. An unreadable one is kept beside it with the ending .MAL. Writes FicheroNuevo: the file was made anew. When

@@ -4,9 +4,9 @@
 #include <array>
 
 #include "betting/money_repair.h"
+#include "core/default_settings.h"
 #include "core/game_state.h"
 #include "core/text.h"
-#include "storage/settings_limits.h"
 #include "table/game_row.h"
 
 namespace {
@@ -17,24 +17,9 @@ void Encaja(Integer& valor, const LimitesRegla& limites) {
         valor = limites.defecto;
 }
 
-struct ReglaConLimites {
-    Integer EstadoJuego::*campo;
-    LimitesRegla limites;
-};
-
-constexpr ReglaConLimites kReglas[]{
-    {&EstadoJuego::SentidoJuego, {1, 2, 1}},
-    {&EstadoJuego::VentanaInfo, {1, 2, 1}},
-    {&EstadoJuego::SistemaReparto, {1, 2, 1}},
-    {&EstadoJuego::ModalidadJuego, {1, 2, 1}},
-    {&EstadoJuego::LeyApertura, {1, 14, 1}},
-    {&EstadoJuego::CartasBaraja, {1, 6, 1}},
-    {&EstadoJuego::ComodinesJuego, {1, 3, 1}},
-    {&EstadoJuego::RestoInicial, kLimitesRestoInicial},
-    {&EstadoJuego::ApuestaSalida, kLimitesApuestaSalida},
-    {&EstadoJuego::ApuestaMaxima, kLimitesApuestaMaxima},
-    {&EstadoJuego::LimitePartida, kLimitesLimitePartida},
-    // The seats need not be active: a hand starts at the next one that is, and a bank is looked at below.
+// Who leads and who holds the bank. The seats need not be active: a hand starts at the next one that is, and a bank is
+// looked at below.
+constexpr ReglaConLimites kTurnos[]{
     {&EstadoJuego::JugadorMano, {1, 4, 4}},
     {&EstadoJuego::JugadorBanca, {1, 4, 4}},
 };
@@ -67,7 +52,7 @@ void ImponBanca(Integer banca) {
     estado.ControlJugador(banca) = kAutomatico;
     for (int asiento = 1; asiento <= 4; ++asiento)
         estado.CartasJugador(asiento) = kVisibles;
-    estado.SistemaReparto = kAutomatico;
+    estado.SistemaReparto = kRepartoAutomatico;
 }
 
 // Too few seats for the game: all of them play.
@@ -116,6 +101,8 @@ void ReparaJuego() {
     ReparaAsientos();
     for (const ReglaConLimites& regla : kReglas)
         Encaja(estado.*regla.campo, regla.limites);
+    for (const ReglaConLimites& turno : kTurnos)
+        Encaja(estado.*turno.campo, turno.limites);
     estado.LeyApertura = std::max(estado.LeyApertura, estado.CartasBaraja);
     estado.PasoSentido = estado.SentidoJuego == kInverso ? -1 : 1;
     const FilaJuego& juego = JuegoEnMesa();

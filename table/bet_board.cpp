@@ -229,7 +229,7 @@ void PulsaApostadora(Control control) {
     if (boton == 0 || estado.JugadaHecha)
         return;
     EstadoBoton(control, boton, 2);
-    Sonido(1, sonido::kBotonLateral);
+    Sonido(1, sonido::kBotonDeApuesta);
     Pausa(kPausaBoton);
     EstadoBoton(control, boton, 1);
     kAcciones.at(static_cast<std::size_t>(boton - 1))();

@@ -10,7 +10,6 @@
 #include "core/game_state.h"
 #include "core/text.h"
 #include "platform/platform.h"
-#include "table/flight.h"
 #include "table/game_row.h"
 #include "table/layout.h"
 #include "table/messages.h"

@@ -64,15 +64,6 @@ void PonMedidas(const MedidasBaraja& medidas) {
     estado.JuegoConBanca = false;
 }
 
-void PonValoresDeBazas() {
-    constexpr std::array<int, 13> kTantos{0, 11, 0, 10, 0, 0, 0, 0, 0, 0, 2, 3, 4};
-    constexpr std::array<Integer, 13> kOrden{0, 10, 1, 9, 2, 3, 4, 5, 0, 0, 6, 7, 8};
-    for (int valor = 1; valor <= kColumnasEspanola; ++valor) {
-        estado.ValorCarta(valor) = kTantos[static_cast<std::size_t>(valor)];
-        estado.OrdenCarta(valor) = kOrden[static_cast<std::size_t>(valor)];
-    }
-}
-
 void PonReglasDeBanca() {
     estado.JuegoConBanca = true;
     estado.CartasBaraja = 1;

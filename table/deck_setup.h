@@ -20,9 +20,5 @@ struct MedidasBaraja {
 // OrdenCarta and JuegoConBanca.
 void PonMedidas(const MedidasBaraja& medidas);
 
-// ValorCarta and OrdenCarta of the games of laying cards: As 11, 3 gives 10, Rey 4, Caballo 3, Sota 2; order
-// As, 3, Rey, Caballo, Sota, 7, 6, 5, 4, 2.
-void PonValoresDeBazas();
-
 // JuegoConBanca, CartasBaraja 1, LeyApertura 14.
 void PonReglasDeBanca();

@@ -3,6 +3,7 @@
 // A hook that is empty means the common behaviour that its comment tells. The games stand above the table: whoever
 // starts the program hands their rows down with UsaJuegos.
 
+#include <array>
 #include <string>
 #include <vector>
 
@@ -87,12 +88,22 @@ struct EntradaDeJuego {
     void (*tutor)() = nullptr;
 };
 
+// A button with its caption, and what a screen reader calls it.
+struct RotuloBoton {
+    const char* rotulo = "";
+    const char* nombre = "";
+};
+
 struct PinturaDeJuego {
     // Drawn under the pile, and in the centre of the felt when everything is painted anew. Empty: nothing.
     void (*bajo_mazo)(int x, int y) = nullptr;
     void (*centro)() = nullptr;
     // Side buttons of a seat, after its cards. Empty: none.
     void (*botones_asiento)(int asiento) = nullptr;
+    // Pic_BotSuperior(1, 2).
+    std::array<RotuloBoton, 2> superiores{{{"  C a r t a", "Carta"}, {"S e r v i d o", "Servido"}}};
+    // Piles lie before the seats at the sides: their Pic_BotSuperior stand above and below.
+    bool mazos_a_los_lados = false;
     // The points of a serie, shown on the score plate. Empty: the game has no plates.
     float (*puntos)(int asiento, int serie) = nullptr;
     // Both lines of the green button in a hand. Empty: the name, and "automático".

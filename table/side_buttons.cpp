@@ -13,10 +13,10 @@ constexpr int kSeparacion = 4; // between a button and its neighbours
 constexpr int kBandaRotulo =
     22; // the caption's strip and the raised cards stand nearer to the zone
 constexpr int kLargoZona = 250;
-// The pile lies before the bank: its buttons stand on both sides of it, 38 and more further apart.
+// Before the bank lies the pile: the buttons stand on both sides of it, 38 and more further apart.
 constexpr int kMitadMazo = 56, kMitadMazoAlto = 84;
 constexpr int kMitadApuesta = 36; // of the chips that lie in the middle before the seat
-constexpr Fuente kLetraBoton{.alto = 12, .negrita = true};
+constexpr Fuente kLetraBoton{.alto = 12, .negrita = true, .tope = 84};
 
 // A control of ancho by alto on the inner side of the seat's zone, a lo largo pixels along its edge.
 Rectangulo JuntoAlAsiento(int asiento, int a_lo_largo, int adentro, int ancho, int alto) {
@@ -52,7 +52,9 @@ void Pon(Control control, int indice, const Rectangulo& donde, const lamina::Rec
     p.Repinta();
 }
 
-bool EsBanca(int asiento) {
+bool TieneMazoDelante(int asiento) {
+    if (JuegoEnMesa().pintura.mazos_a_los_lados && AsientoLateral(asiento))
+        return true;
     return estado.JuegoConBanca && asiento == estado.JugadorBanca;
 }
 
@@ -62,7 +64,7 @@ int PrincipioSuperior(int asiento, int index) {
     const lamina::Recorte& recorte = lamina::kBotonSuperiorArriba;
     const int largo = vertical ? recorte.alto : recorte.ancho;
     const int mitad_mazo = vertical ? kMitadMazoAlto : kMitadMazo;
-    const int del_medio = EsBanca(asiento) ? mitad_mazo + kSeparacion : kSeparacion / 2;
+    const int del_medio = TieneMazoDelante(asiento) ? mitad_mazo + kSeparacion : kSeparacion / 2;
     return kLargoZona / 2 + (index == 1 ? -del_medio - largo : del_medio);
 }
 
@@ -85,10 +87,11 @@ void BotonSuperior(int asiento, int state, int index) {
     Traza("BotonSuperior", asiento, state, index);
     const lamina::Recorte& recorte =
         state == 2 ? lamina::kBotonSuperiorPulsado : lamina::kBotonSuperiorArriba;
+    const RotuloBoton& suyo = JuegoEnMesa().pintura.superiores.at(index == 1 ? 0 : 1);
     Pon(Control::Pic_BotSuperior, index,
         JuntoAlAsiento(asiento, PrincipioSuperior(asiento, index), kBandaRotulo, recorte.ancho,
                        recorte.alto),
-        recorte, index == 1 ? "  C a r t a" : "S e r v i d o", index == 1 ? "Carta" : "Servido");
+        recorte, suyo.rotulo, suyo.nombre);
 }
 
 void BotonDobSeg(int asiento, int state, const std::string& texto) {

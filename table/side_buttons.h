@@ -9,7 +9,8 @@
 
 // Pic_BotLateral(index) on the seat: 1 the serie before, 2 the next one.
 void BotonLateral(int asiento, int state, int index);
-// Pic_BotSuperior(index) on the seat: 1 "  C a r t a", 2 "S e r v i d o"; on the bank with the pile between them.
+// Pic_BotSuperior(index) on the seat, with the words of the game (1 "  C a r t a", 2 "S e r v i d o"); where a pile lies
+// before the seat, with it between them.
 void BotonSuperior(int asiento, int state, int index);
 // Pic_BotDobSeg on the seat, with "D o b l a r" or "S e g u r o".
 void BotonDobSeg(int asiento, int state, const std::string& texto);

@@ -2,7 +2,7 @@
 // The thirteen sounds of the program, by the numbers that Sonido takes.
 
 namespace sonido {
-inline constexpr int kBotonLateral = 6;         // a button of the board or beside a seat
+inline constexpr int kBotonDeApuesta = 6;       // a bet button or a button beside a seat is pressed
 inline constexpr int kBoton = 9;                // a button is pressed
 inline constexpr int kSePasa = 11;              // a serie goes bust
 inline constexpr int kParpadeo = 12;            // a caption or a button blinks

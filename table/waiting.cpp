@@ -59,8 +59,12 @@ bool EsperaHasta(bool (*lista)()) {
 }
 
 bool EsperaContinuar() {
+    return EsperaContinuar([] { return !estado.EsperandoJugada; });
+}
+
+bool EsperaContinuar(bool (*hecha)()) {
     PedirContinuar(1);
-    if (!EsperaHasta([] { return !estado.EsperandoJugada; }))
+    if (!EsperaHasta(hecha))
         return false;
     // A card that was clicked ends the wait too, and the words on the button are of the seat that has played.
     if (!estado.PausaEntreJugadas)

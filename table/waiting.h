@@ -19,6 +19,8 @@ void PaseDeEventos(Pase pase);
 // PausaEntreJugadas off the button goes away again, however the wait ended.
 // False when the match was left meanwhile: the caller returns at once.
 [[nodiscard]] bool EsperaContinuar();
+// The same, until hecha answers true; it is asked after each pass.
+[[nodiscard]] bool EsperaContinuar(bool (*hecha)());
 
 // Passes until lista answers true; false when the match was left meanwhile.
 [[nodiscard]] bool EsperaHasta(bool (*lista)());

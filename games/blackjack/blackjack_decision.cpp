@@ -10,8 +10,6 @@
 
 namespace {
 
-constexpr Integer kAs = 1;
-
 // The bet, in tenths of ApuestaMaxima: a seat at ease that does not play well enough to be careful puts in more.
 constexpr int kDecimosDeApuesta = 2, kDecimosConHolgura = 4;
 constexpr Integer kNivelPrudente = 75;

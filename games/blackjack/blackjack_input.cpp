@@ -9,7 +9,6 @@
 
 namespace {
 
-constexpr Integer kAs = 1;
 constexpr int kCarta = 1; // of Pic_BotSuperior
 
 // The serie on show is the one in play, and asks for a choice.

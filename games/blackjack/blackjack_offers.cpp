@@ -7,7 +7,6 @@
 
 namespace {
 
-constexpr Integer kAs = 1;
 constexpr int kRenglonApuesta = 2; // of Apuesta: the bet, without doubling and insurance
 constexpr float kMinimoDoblar = 9, kMaximoDoblar = 11;
 

@@ -8,8 +8,6 @@
 
 namespace {
 
-constexpr Integer kAs = 1;
-
 bool EsAs(Integer asiento, Integer serie, int lugar) {
     return estado.Mano(asiento, serie, lugar, kValor) == kAs;
 }

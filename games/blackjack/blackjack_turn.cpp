@@ -10,6 +10,7 @@
 #include "games/blackjack/blackjack_serie.h"
 #include "games/common/bank_buttons.h"
 #include "games/common/bank_hands.h"
+#include "games/common/card_turn.h"
 #include "games/common/series.h"
 #include "platform/canvas.h"
 #include "table/bet_board.h"

@@ -13,11 +13,10 @@
 #include "core/text.h"
 #include "games/cinquillo/cinquillo_choice.h"
 #include "games/cinquillo/cinquillo_table.h"
+#include "games/common/card_turn.h"
 #include "games/common/hands.h"
 #include "games/common/trick_state.h"
 #include "table/button_column.h"
-#include "table/deck.h"
-#include "table/flight.h"
 #include "table/hand_order.h"
 #include "table/messages.h"
 #include "table/seat_drawing.h"
@@ -31,10 +30,6 @@ constexpr int kFilaPalo = 5, kFilaValor = 10; // rows of RegistroBazas before se
 
 using Negativos = std::array<Integer, 5>;
 
-bool EsManual(Integer asiento) {
-    return estado.ControlJugador(asiento) == kManual;
-}
-
 // The tip of a turn's beginning goes by the number of the turn before.
 void SugiereAlEmpezar() {
     if (estado.AzarTurno < 0.25F)
@@ -44,10 +39,7 @@ void SugiereAlEmpezar() {
 }
 
 void PreparaEleccion(Integer asiento) {
-    DejaDeOrdenar();
-    estado.JugadaHecha = false;
-    estado.EligeCarta = EsManual(asiento);
-    HabilitaBoton(kBotonTutor, EsManual(asiento));
+    AbreEleccion(asiento);
     if (!EsManual(asiento))
         Pausa(300);
     EligeCartaCinquillo();
@@ -58,46 +50,14 @@ void PreparaEleccion(Integer asiento) {
     }
 }
 
-// The seat's choice stands in CartaElegida; false when the match was left.
-[[nodiscard]] bool EsperaEleccion(Integer asiento) {
-    if (!EsManual(asiento) && !estado.PausaEntreJugadas)
-        return true;
-    if (!EsperaContinuar())
-        return false;
-    if (!estado.JugadaHecha)
-        EligeCartaCinquillo();
-    return true;
-}
-
-void CierraEleccion() {
-    estado.EligeCarta = false;
-    DejaDeOrdenar();
-    HabilitaBoton(kBotonTutor, false);
-    RefrescaPuntero();
-}
-
 // The chosen card goes from the hand to its place on the table.
 void ExtiendeCarta(Integer asiento) {
-    const Integer lugar = estado.CartaElegida;
-    const Integer cartas = estado.NumCartas(asiento, 1);
-    const Integer palo = estado.Mano(asiento, 1, lugar, kPalo);
-    const Integer valor = estado.Mano(asiento, 1, lugar, kValor);
-    estado.Mano(asiento, 1, lugar, kAltura) = kLevantada;
-    estado.Mano(asiento, 1, lugar, kCara) = kDescubierta;
-    RedibujarAsiento(asiento);
-    Pausa(500);
-    ColocarCarta(asiento, lugar, cartas);
-    const Punto desde{estado.CartaX, estado.CartaY};
-    --estado.NumCartas(asiento, 1);
-    bazas.RegistroBazas(asiento + kFilaPalo, estado.NumBaza) = palo;
-    bazas.RegistroBazas(asiento + kFilaValor, estado.NumBaza) = valor;
-    for (int campo = 0; campo <= 5; ++campo)
-        estado.Mano(asiento, 1, lugar, campo) = 0;
-    CompactarMano(asiento);
-    RedibujarAsiento(asiento);
-    const Punto hasta = LugarTendido(palo, valor);
-    MueveCarta({palo, valor}, {desde.x, desde.y, OrientacionDe(asiento)}, {hasta.x, hasta.y});
-    bazas.CartaJugada(palo, valor) = asiento;
+    const Carta carta = CartaElegidaDe(asiento);
+    const Punto lugar = LugarTendido(carta.palo, carta.valor);
+    JuegaElegida(asiento, {lugar.x, lugar.y});
+    bazas.RegistroBazas(asiento + kFilaPalo, estado.NumBaza) = carta.palo;
+    bazas.RegistroBazas(asiento + kFilaValor, estado.NumBaza) = carta.valor;
+    bazas.CartaJugada(carta.palo, carta.valor) = asiento;
     PintaTendido();
     Pausa(500);
 }
@@ -122,8 +82,9 @@ void ExtiendeCarta(Integer asiento) {
         return true;
     ResaltarAsiento();
     PreparaEleccion(asiento);
-    const bool elegida = EsperaEleccion(asiento);
+    const bool elegida = EsperaEleccion(asiento, EligeCartaCinquillo);
     CierraEleccion();
+    RefrescaPuntero();
     if (!elegida)
         return false;
     ExtiendeCarta(asiento);

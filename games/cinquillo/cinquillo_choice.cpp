@@ -7,10 +7,10 @@
 #include "core/game_state.h"
 #include "core/numeric.h"
 #include "games/common/trick_state.h"
+#include "games/common/trick_values.h"
 
 namespace {
 
-constexpr Integer kCinco = 5, kRey = 12;
 constexpr Integer kNivelVeSiguiente =
     60; // from here on the next card outward is not reckoned as waiting
 constexpr Integer kNivelCuentaPropias = 75;

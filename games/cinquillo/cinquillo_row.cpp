@@ -7,6 +7,7 @@
 #include "games/cinquillo/cinquillo_table.h"
 #include "games/common/hands.h"
 #include "games/common/trick_state.h"
+#include "games/common/trick_values.h"
 #include "table/deck_setup.h"
 #include "table/game_row.h"
 

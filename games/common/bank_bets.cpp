@@ -1,4 +1,5 @@
 #include "games/common/bank_hands.h"
+#include "games/common/card_turn.h"
 
 #include "betting/bet_state.h"
 #include "betting/placing.h"

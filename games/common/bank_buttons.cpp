@@ -23,7 +23,7 @@ void MuestraOtraSerie(int indice) {
     const Integer asiento = estado.JugadorActual;
     const int otra = estado.SerieActual + (indice == kSerieAnterior ? -1 : 1);
     BotonLateral(asiento, kPulsado, indice);
-    Sonido(0, sonido::kBotonLateral);
+    Sonido(0, sonido::kBotonDeApuesta);
     Pausa(kPausaDelClic);
     BotonLateral(asiento, kArriba, indice);
     if (otra < 1 || otra > estado.SeriesJugador(asiento))
@@ -91,7 +91,7 @@ bool EsperaUnaOrden() {
 
 void ClicDeOrden(BotonDeSerie boton, bool& orden) {
     DibujaBotonDeSerie(boton, true);
-    Sonido(0, sonido::kBotonLateral);
+    Sonido(0, sonido::kBotonDeApuesta);
     Pausa(kPausaDelClic);
     DibujaBotonDeSerie(boton, false);
     orden = true;

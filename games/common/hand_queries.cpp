@@ -2,12 +2,11 @@
 
 #include "core/game_state.h"
 #include "games/common/trick_state.h"
+#include "games/common/trick_values.h"
 
 namespace {
 
 constexpr int kSerie = 1;
-constexpr Integer kCaballo = 11, kRey = 12;
-constexpr Integer kPotenciaPaloSalida = 10, kPotenciaTriunfo = 20;
 
 void MarcaMapa(Integer asiento) {
     bazas.MapaMano.Borra();

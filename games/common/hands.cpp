@@ -20,10 +20,9 @@
 
 namespace {
 
-constexpr int kJuegosGuardados = 999; // what the file can count; older records are let go
-
+// In the games with money a hand is won alone.
 bool PorParejas() {
-    return estado.ModalidadJuego == kDosParejas;
+    return estado.ModalidadJuego == kDosParejas && !JuegoEnMesa().dinero.hay;
 }
 
 bool EnEquipo(int asiento, Integer ganador) {

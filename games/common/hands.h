@@ -6,6 +6,10 @@
 
 #include "core/tabla.h"
 
+// Finished games of a match whose records are kept, as many as its file can count: the start of a further one lets
+// the oldest go, so that JuegosJugados, which counts the one under way, is 1000 at most.
+inline constexpr int kJuegosGuardados = 999;
+
 // The start of a hand: rules that waited for it come into force; it counts the game, moves JugadorMano on, clears the
 // hand and deals; a manual deal that was broken off is dealt again. What differs from game to game is in the row (mano).
 // Leaves Personalizar, Normas, Salir and Estadísticas enabled and ManoEnCurso set. False when the match was left.
@@ -23,9 +27,11 @@ void ParpadeaGanador();
 // "Ha ganado la mano Ana", or in the second person for seat 4: que is "la mano" or "la partida".
 std::string TextoGana(Integer ganador, const std::string& que);
 
-// The end of a hand, told: a pause, the dialog "Final de la mano" and the wait on "Continuar" (a pause of 500
-// instead when no seat is manual and no pause between moves is wanted). False when the match was left.
+// The end of a hand, told: a pause, the dialog "Final de la mano" and the wait. False when the match was left.
 [[nodiscard]] bool CuentaFinalMano(const std::string& texto);
+// The wait on "Continuar" before the next hand, or a pause of 500 when no seat is manual and no pause between moves is
+// wanted. False when the match was left.
+[[nodiscard]] bool EsperaOtraMano();
 
 // The wait on "Continuar" between two hands; a pause of 500 instead when no seat is manual and no pause between moves is
 // wanted. False when the match was left.

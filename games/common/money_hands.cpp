@@ -18,7 +18,7 @@ Integer SiguienteConResto(Integer asiento) {
 }
 
 void PasaLaManoConResto() {
-    if (estado.JuegosJugados > 1)
+    if (estado.JuegosJugados > 1 || !TieneResto(estado.JugadorMano))
         estado.JugadorMano = SiguienteConResto(estado.JugadorMano);
 }
 

@@ -3,7 +3,8 @@
 
 #include "core/tabla.h"
 
-// From the second game of the match on JugadorMano moves on, to the next seat that has chips.
+// From the second game of the match on JugadorMano moves on, to the next seat that has chips; in the first one it does
+// so only off a seat that has none.
 void PasaLaManoConResto();
 
 // The bank of this hand: NuevaBanca when CambiaBanca is set; the row's own seat where the computer always holds it.

@@ -14,7 +14,6 @@ EstadoSeries series;
 
 namespace {
 
-constexpr Integer kAs = 1;
 // An As may count ten more up to this sum: eleven of them still stand at 21 or less.
 constexpr Currency kTopeBlanda = 11, kMasPorAs = 10;
 

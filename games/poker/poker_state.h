@@ -7,6 +7,7 @@
 #include "core/tabla.h"
 
 inline constexpr int kCategorias = 17;
+inline constexpr int kSeriePoker = 1;          // the one serie that a seat plays
 inline constexpr int kRegistrosDescarte = 180; // of PkFDes.ZOV, those of the deck in play
 
 // One category of a seat's hand: index of Jugadas is the seat 1..4 and the category's number 1..17.

@@ -3,15 +3,18 @@
 #include "betting/stakes.h"
 #include "core/game_state.h"
 #include "core/numeric.h"
+#include "games/common/bank_buttons.h"
+#include "games/common/money_hands.h"
 #include "games/common/series.h"
 #include "games/common/series_view.h"
+#include "games/common/trick_values.h"
+#include "games/sieteymedia/sieteymedia.h"
+#include "games/sieteymedia/sieteymedia_cards.h"
+#include "games/sieteymedia/sieteymedia_input.h"
 #include "games/sieteymedia/sieteymedia_tutor.h"
 #include "table/deck_setup.h"
 #include "table/game_row.h"
 #include "table/layout.h"
-#include "table/messages.h"
-#include "table/seat_drawing.h"
-#include "table/sounds.h"
 
 namespace {
 
@@ -47,20 +50,31 @@ void ColocaMazo() {
     }
 }
 
-// The seat turns its covered card up; with seven and a half its turn is over.
-bool VolteaSerie(Puntero puntero, int /*lugar*/) {
-    if (puntero != Puntero::Voltear)
-        return false;
-    constexpr float kSieteYMediaJusto = 7.5F;
-    const Integer asiento = estado.JugadorActual;
-    const Integer serie = estado.SerieActual;
-    Sonido(0, sonido::kPosa);
-    for (int lugar = 1; lugar <= estado.NumCartas(asiento, serie); ++lugar)
-        estado.Mano(asiento, serie, lugar, kTapada) = 0;
-    RedibujarAsiento(asiento);
-    if (PuntosSerie(asiento, serie) == kSieteYMediaJusto)
-        estado.EsperandoJugada = false;
-    return true;
+// The pile goes with the bank.
+void PasaLaBancaYElMazo() {
+    PasaLaBanca();
+    ColocarMazo();
+}
+
+Integer BancaSiguiente() {
+    return series.CambiaBanca ? series.NuevaBanca : estado.JugadorBanca;
+}
+
+// Nothing is offered, and nobody has sung.
+void OlvidaSeries() {
+    series = {};
+}
+
+// The match goes on while two seats have chips; the last one of them is the winner when there is no other.
+bool QuedaUnoSolo() {
+    Integer con_resto = 0;
+    for (Integer asiento = 1; asiento <= 4; ++asiento) {
+        if (estado.EstadoJugador(asiento) != kActivado || !TieneResto(asiento))
+            continue;
+        estado.GanadorPartida = asiento;
+        ++con_resto;
+    }
+    return con_resto <= 1;
 }
 
 bool Recibe(Integer asiento, bool /*a_mano*/) {
@@ -73,7 +87,7 @@ const FilaJuego& FilaSieteYMedia() {
     static const FilaJuego kFila{
         .id = kSieteYMedia,
         .nombre = "Siete y media",
-        .sin_terminar = true,
+        .driver = ManoSieteYMedia,
         .baraja = {.prepara = PreparaBaraja,
                    .coloca_mazo = ColocaMazo,
                    .clave_orden = ClaveDeSerie},
@@ -81,11 +95,16 @@ const FilaJuego& FilaSieteYMedia() {
         .sorteo = {.da_banca = true,
                    .primera = "Se  ha  sorteado  el  jugador  que  comienza  siendo  banca.",
                    .antes = "El primer jugador banca es "},
-        .entrada = {.puntero = PunteroDeSerie, .clic = VolteaSerie, .tutor = AconsejaSiete},
-        .pintura = {.botones_asiento = PonBotonesDeSerie,
-                    .puntos = PuntosSerie,
+        .entrada = {.puntero = PunteroDeSiete,
+                    .clic = ClicDeSiete,
+                    .clic_control = ClicEnBotonDeSerie,
+                    .tutor = AconsejaSiete},
+        .pintura = {.botones_asiento = PonBotonesDeSiete,
+                    .puntos = PuntosDescubiertos,
                     .rotulo_continuar = RotuloDeSerie},
-        .dinero = {.hay = true},
+        .dinero = {.hay = true, .banca_siguiente = BancaSiguiente},
+        .mano = {.pasa_la_mano = PasaLaBancaYElMazo, .limpia = LimpiaManoConDinero},
+        .partida = {.nueva = OlvidaSeries, .acabada = QuedaUnoSolo},
         .normas = {.reglas = {Regla::Reparto, Regla::RestoInicial, Regla::ApuestaMaxima}},
     };
     return kFila;

@@ -3,6 +3,7 @@
 #include "core/game_state.h"
 #include "games/common/hand_queries.h"
 #include "games/common/trick_state.h"
+#include "games/common/trick_values.h"
 #include "games/trick/trick_view.h"
 #include "table/messages.h"
 
@@ -10,7 +11,6 @@ namespace {
 
 constexpr int kSerie = 1;
 constexpr int kFilaCante = 20; // rows of RegistroBazas before seat 1
-constexpr Integer kCaballo = 11, kRey = 12;
 constexpr int kTantosCante = 20, kTantosCanteTriunfo = 40;
 
 void EnsenaTute(Integer asiento) {

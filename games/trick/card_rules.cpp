@@ -1,19 +1,8 @@
 #include "games/trick/card_rules.h"
 
 #include "core/game_state.h"
+#include "games/common/hand_queries.h"
 #include "games/common/trick_state.h"
-
-namespace {
-
-constexpr int kFuerzaPaloSalida = 10, kFuerzaTriunfo = 20;
-
-// Unlike PotenciaCarta, a trump of the suit led gets both additions; the order of the cards is the same.
-int FuerzaEnBaza(Integer palo, Integer valor) {
-    return estado.OrdenCarta(valor) + (palo == bazas.PaloSalida ? kFuerzaPaloSalida : 0) +
-           (palo == estado.PaloTriunfo ? kFuerzaTriunfo : 0);
-}
-
-} // namespace
 
 bool SigueObligado() {
     return bazas.Arrastre && estado.JugadorActual != estado.JugadorSalida;
@@ -39,7 +28,7 @@ bool CartaLegalTute(int lugar) {
 }
 
 void ResuelveBaza() {
-    int mejor = -1;
+    Integer mejor = -1;
     bazas.TantosBaza = 0;
     for (Integer asiento = 1; asiento <= 4; ++asiento) {
         const Integer palo = bazas.CartaEnMesa(asiento, 1);
@@ -47,9 +36,9 @@ void ResuelveBaza() {
         if (palo == kSinCarta)
             continue;
         bazas.TantosBaza += estado.ValorCarta(valor);
-        const int fuerza = FuerzaEnBaza(palo, valor);
-        if (fuerza > mejor) {
-            mejor = fuerza;
+        const Integer potencia = PotenciaCarta(palo, valor);
+        if (potencia > mejor) {
+            mejor = potencia;
             estado.GanadorBaza = asiento;
         }
     }

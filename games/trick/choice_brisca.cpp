@@ -14,23 +14,26 @@ namespace {
 constexpr int kSerie = 1;
 constexpr Integer kCartasBrisca = 3;
 constexpr Integer kNivelTutor = 100;
+// What keeps a card in the hand: a trump, times the character, for the leader and for a follower; each card of the suit
+// that the hand lacks.
+constexpr int kPesoTriunfoAlSalir = 3, kPesoTriunfo = 5, kPesoEscasez = 2;
 
-Integer Puntua(const VistaTurno& v, Naipe n) {
+Integer Puntua(const VistaTurno& v, Carta n) {
     const bool cambio = estado.CartasEnMazo > estado.NumJugadores && PuedeCambiarse(n);
     const Integer w = cambio ? estado.ValorTriunfo : n.valor;
     int puntos = Redondea(estado.ValorCarta(w).Real() * v.caracter / 2 + estado.OrdenCarta(w));
     if (n.palo == estado.PaloTriunfo)
-        puntos += v.caracter * (v.sale ? 3 : 5);
-    return EnteroDe(puntos + (kCartasBrisca - CuentaPalo(v.asiento, n.palo)) * 2);
+        puntos += v.caracter * (v.sale ? kPesoTriunfoAlSalir : kPesoTriunfo);
+    return EnteroDe(puntos + (kCartasBrisca - CuentaPalo(v.asiento, n.palo)) * kPesoEscasez);
 }
 
 void PuntuaMano(const VistaTurno& v) {
     VaciaJugables();
     for (Integer lugar = 1; lugar <= v.cartas; ++lugar)
-        AnotaJugable(Puntua(v, NaipeEnMano(lugar)), lugar);
+        AnotaJugable(Puntua(v, CartaEnMano(lugar)), lugar);
 }
 
-Integer Potencia(Naipe n) {
+Integer Potencia(Carta n) {
     return PotenciaCarta(n.palo, n.valor);
 }
 
@@ -70,7 +73,7 @@ private:
             return;
         const Integer maxima = MaximaPorVenir();
         for (Integer puesto = 1; puesto <= bazas.NumJugables; ++puesto) {
-            if (Potencia(NaipeJugable(puesto)) > maxima) {
+            if (Potencia(CartaJugable(puesto)) > maxima) {
                 k_ = puesto;
                 return;
             }
@@ -84,7 +87,7 @@ private:
         for (SiguienteAsiento(asiento); asiento != estado.JugadorSalida && asiento != v_.asiento;
              SiguienteAsiento(asiento)) {
             for (int lugar = 1; lugar <= v_.cartas; ++lugar) {
-                const Naipe n{estado.Mano(asiento, kSerie, lugar, kPalo),
+                const Carta n{estado.Mano(asiento, kSerie, lugar, kPalo),
                               estado.Mano(asiento, kSerie, lugar, kValor)};
                 if (n.palo != kSinCarta)
                     maxima = std::max(maxima, Potencia(n));
@@ -106,14 +109,14 @@ private:
 
     void RecorreLaMano() {
         for (Integer puesto = 1; puesto <= bazas.NumJugables; ++puesto) {
-            const Naipe n = NaipeJugable(puesto);
+            const Carta n = CartaJugable(puesto);
             const bool gana = Potencia(n) >= v_.mejor_mesa;
             if (gana ? SePlantaGanando(puesto, n) : SePlantaPerdiendo(puesto, n))
                 return;
         }
     }
 
-    bool SePlantaGanando(Integer puesto, Naipe n) {
+    bool SePlantaGanando(Integer puesto, Carta n) {
         if (descarte_ == 0)
             descarte_ = puesto;
         k_ = puesto;
@@ -121,7 +124,7 @@ private:
     }
 
     // A card that cannot win is thrown away, or gives points to the partner who wins.
-    bool SePlantaPerdiendo(Integer puesto, Naipe n) {
+    bool SePlantaPerdiendo(Integer puesto, Carta n) {
         const Currency puntos = estado.ValorCarta(n.valor);
         if (descarte_ == 0 && puntos == 0)
             descarte_ = puesto;
@@ -135,7 +138,7 @@ private:
 
     // A trump is not spent on too little.
     bool Desechada() const {
-        const Naipe n = NaipeJugable(k_);
+        const Carta n = CartaJugable(k_);
         if (n.palo != estado.PaloTriunfo)
             return false;
         const Currency puntos = estado.ValorCarta(n.valor);
@@ -152,8 +155,8 @@ private:
 void DesechaBusqueda(const VistaTurno& v) {
     if (bazas.CartaBusqueda == 0 || v.ultimo || !v.hay_mazo)
         return;
-    const Currency elegida = estado.ValorCarta(NaipeEnMano(estado.CartaElegida).valor);
-    const Currency buscada = estado.ValorCarta(NaipeEnMano(bazas.CartaBusqueda).valor);
+    const Currency elegida = estado.ValorCarta(CartaEnMano(estado.CartaElegida).valor);
+    const Currency buscada = estado.ValorCarta(CartaEnMano(bazas.CartaBusqueda).valor);
     if (elegida == 0 || buscada > elegida + 2)
         bazas.CartaBusqueda = 0;
 }

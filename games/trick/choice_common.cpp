@@ -6,6 +6,7 @@
 #include "core/numeric.h"
 #include "games/common/hand_queries.h"
 #include "games/common/trick_state.h"
+#include "games/common/trick_values.h"
 
 namespace {
 
@@ -93,7 +94,7 @@ VistaTurno MiraTurno() {
     vista.ultimo = estado.CartasEnBaza == estado.NumJugadores;
     vista.hay_mazo = estado.CartasEnMazo > 0;
     for (Integer otro = 1; otro <= 4; ++otro) {
-        const Naipe naipe{bazas.CartaEnMesa(otro, 1), bazas.CartaEnMesa(otro, 2)};
+        const Carta naipe{bazas.CartaEnMesa(otro, 1), bazas.CartaEnMesa(otro, 2)};
         if (naipe.palo == kSinCarta)
             continue;
         (otro == vista.pareja ? vista.puntos_pareja : vista.puntos_rivales) +=
@@ -107,18 +108,18 @@ VistaTurno MiraTurno() {
     return vista;
 }
 
-Naipe NaipeEnMano(Integer lugar) {
+Carta CartaEnMano(Integer lugar) {
     return {estado.Mano(estado.JugadorActual, kSerie, lugar, kPalo),
             estado.Mano(estado.JugadorActual, kSerie, lugar, kValor)};
 }
 
-Naipe NaipeJugable(Integer puesto) {
-    return NaipeEnMano(bazas.CartasJugables(puesto, 2));
+Carta CartaJugable(Integer puesto) {
+    return CartaEnMano(bazas.CartasJugables(puesto, 2));
 }
 
-bool PuedeCambiarse(Naipe naipe) {
+bool PuedeCambiarse(Carta naipe) {
     const bool puntua = estado.ValorCarta(estado.ValorTriunfo) > 0;
-    return naipe.palo == estado.PaloTriunfo && naipe.valor == (puntua ? 7 : 2);
+    return naipe.palo == estado.PaloTriunfo && naipe.valor == (puntua ? kSiete : Integer{2});
 }
 
 void VaciaJugables() {
@@ -139,7 +140,7 @@ void AnotaJugable(Integer puntuacion, Integer lugar) {
 
 Integer UltimoQueGana(Integer mejor_mesa, Integer si_no) {
     for (Integer puesto = bazas.NumJugables; puesto >= 1; --puesto) {
-        const Naipe naipe = NaipeJugable(puesto);
+        const Carta naipe = CartaJugable(puesto);
         if (PotenciaCarta(naipe.palo, naipe.valor) > mejor_mesa)
             return puesto;
     }
@@ -147,7 +148,7 @@ Integer UltimoQueGana(Integer mejor_mesa, Integer si_no) {
 }
 
 bool ConvieneElMasAlto(const VistaTurno& vista, const Naipes& fuera) {
-    const Naipe alta = NaipeJugable(bazas.NumJugables);
+    const Carta alta = CartaJugable(bazas.NumJugables);
     return fuera.OrdenMasAlto(estado.PaloTriunfo) > estado.OrdenCarta(alta.valor) &&
            PotenciaCarta(alta.palo, alta.valor) > vista.mejor_mesa;
 }

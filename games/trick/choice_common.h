@@ -5,18 +5,13 @@
 #include <array>
 #include <cstdint>
 
-#include "core/currency.h"
-#include "core/tabla.h"
-
-struct Naipe {
-    Integer palo = 0, valor = 0;
-};
+#include "core/game_state.h"
 
 // A set of cards: a bit for each valor of each suit.
 class Naipes {
 public:
-    void Pon(Naipe naipe) { mapa_[Fila(naipe.palo)] |= Bit(naipe.valor); }
-    bool Tiene(Naipe naipe) const { return (mapa_[Fila(naipe.palo)] & Bit(naipe.valor)) != 0; }
+    void Pon(Carta naipe) { mapa_[Fila(naipe.palo)] |= Bit(naipe.valor); }
+    bool Tiene(Carta naipe) const { return (mapa_[Fila(naipe.palo)] & Bit(naipe.valor)) != 0; }
     bool VacioDe(Integer palo) const { return mapa_[Fila(palo)] == 0; }
     Integer Cuantos(Integer palo) const;
     Integer CuantosDelValor(Integer valor) const;
@@ -53,12 +48,12 @@ struct VistaTurno {
 VistaTurno MiraTurno();
 
 // The card of JugadorActual at a place of the hand, and at a place of CartasJugables.
-Naipe NaipeEnMano(Integer lugar);
-Naipe NaipeJugable(Integer puesto);
+Carta CartaEnMano(Integer lugar);
+Carta CartaJugable(Integer puesto);
 
 // The rank that the exchange counts for: whether this is the card that could take the trump card, the 7
 // when that one scores points, the 2 when it does not.
-bool PuedeCambiarse(Naipe naipe);
+bool PuedeCambiarse(Carta naipe);
 
 // CartasJugables: emptied; a card put at its place by score, behind equal scores. NumJugables counts.
 void VaciaJugables();

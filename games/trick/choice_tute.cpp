@@ -6,14 +6,29 @@
 #include "core/numeric.h"
 #include "games/common/hand_queries.h"
 #include "games/common/trick_state.h"
+#include "games/common/trick_values.h"
 #include "games/trick/card_rules.h"
 #include "games/trick/choice_common.h"
 #include "games/trick/exact_search.h"
 
 namespace {
 
-constexpr Integer kAs = 1, kTres = 3, kCaballo = 11, kRey = 12;
 constexpr Integer kBaseTexto = 500; // the scores are kept with this on top
+
+// What a card's score gains for each reason to keep it, and loses for each reason to play it.
+namespace peso {
+constexpr int kTriunfo = 5;                       // times the character
+constexpr int kEscasez = 2, kEscasezArrastre = 4; // for each card of the suit that the hand lacks
+constexpr int kTute = 1500;                       // a card of the four that are held
+constexpr int kCante = 80, kCanteTriunfo = 90;    // at level 100: the pair can be sung
+constexpr int kAsCantable = 400;                  // the As that wins the trick to sing after
+constexpr int kGanadora = 500;                    // nobody can beat the card
+constexpr int kQuitaCante = 300, kMolestaCante = 250; // against a pair that the rival could sing
+constexpr int kFallo = 20;                            // for each seat known to trump the suit
+constexpr int kPaloSinCante = 15; // at level 100: a pair that is still about may lie there
+constexpr int kSangria = 10;      // low trumps that draw the others'
+constexpr int kTresEnPeligro = 120, kTresASalvo = 350;
+} // namespace peso
 constexpr Integer kNivelTutor = 100;
 
 double Fraccion(Integer nivel) {
@@ -69,7 +84,7 @@ public:
     // Leading under Arrastre, the cards that nobody can beat.
     Integer GanadorasSeguras() const { return ganadoras_seguras_; }
 
-    Integer Puntua(Naipe n) {
+    Integer Puntua(Carta n) {
         int puntos = Base(n);
         if (n.valor == kCaballo || n.valor == kRey)
             puntos += PorTuteYCantes(n);
@@ -91,8 +106,8 @@ private:
     bool rival_visto_ = false;
     CuentaGrupos grupos_;
 
-    bool EsTriunfo(Naipe n) const { return n.palo == estado.PaloTriunfo; }
-    Integer Mayor(Naipe n) const {
+    bool EsTriunfo(Carta n) const { return n.palo == estado.PaloTriunfo; }
+    Integer Mayor(Carta n) const {
         return fuera_.UltimoPorEncima(n.palo, estado.OrdenCarta(n.valor));
     }
     bool SinJugar(Integer palo, Integer valor) const { return bazas.CartaJugada(palo, valor) == 0; }
@@ -103,32 +118,32 @@ private:
 
     void CuentaLosGrupos() {
         for (Integer lugar = 1; lugar <= v_.cartas; ++lugar) {
-            const Naipe n = NaipeEnMano(lugar);
+            const Carta n = CartaEnMano(lugar);
             grupos_.Suma(GrupoDe(n.palo, n.valor));
         }
         grupos_.QuedaElPrimero();
     }
 
-    bool TresEnGrupo(Naipe n) const {
+    bool TresEnGrupo(Carta n) const {
         return (grupos_.por_encima == 3 && n.palo == bazas.PaloSalida) ||
                (grupos_.triunfo == 3 && EsTriunfo(n)) || grupos_.libre == 3;
     }
 
-    int Base(Naipe n) const {
+    int Base(Carta n) const {
         const Integer w = v_.hay_mazo && PuedeCambiarse(n) ? estado.ValorTriunfo : n.valor;
         const int puntos =
             Redondea(estado.ValorCarta(w).Real() * v_.caracter / 2 + estado.OrdenCarta(w));
-        const int escasez =
-            (estado.CartasReparto - propias_.Cuantos(n.palo)) * (bazas.Arrastre ? 4 : 2);
-        return puntos + (EsTriunfo(n) ? v_.caracter * 5 : 0) + escasez;
+        const int escasez = (estado.CartasReparto - propias_.Cuantos(n.palo)) *
+                            (bazas.Arrastre ? peso::kEscasezArrastre : peso::kEscasez);
+        return puntos + (EsTriunfo(n) ? v_.caracter * peso::kTriunfo : 0) + escasez;
     }
 
-    int PorTuteYCantes(Naipe n) const {
-        const int tute = n.valor == bazas.TuteEnMano ? 1500 : PorAspirarATute(n);
+    int PorTuteYCantes(Carta n) const {
+        const int tute = n.valor == bazas.TuteEnMano ? peso::kTute : PorAspirarATute(n);
         return tute + PorCante(n);
     }
 
-    int PorAspirarATute(Naipe n) const {
+    int PorAspirarATute(Carta n) const {
         for (Integer palo = kOros; palo <= kBastos; ++palo) {
             if (!SinJugar(palo, n.valor))
                 return 0;
@@ -140,9 +155,10 @@ private:
         return Redondea(v_.caracter / 2.0 * t);
     }
 
-    int PorCante(Naipe n) const {
+    int PorCante(Carta n) const {
         if (bazas.PaloCantable(n.palo))
-            return Redondea(Fraccion(v_.nivel) * (EsTriunfo(n) ? 90 : 80));
+            return Redondea(Fraccion(v_.nivel) *
+                            (EsTriunfo(n) ? peso::kCanteTriunfo : peso::kCante));
         if (!CanteIntacto(n.palo) || !v_.hay_mazo)
             return 0;
         const Integer t =
@@ -151,15 +167,15 @@ private:
     }
 
     // The As of a suit that can be sung is to win the trick after which it is sung.
-    int PorAsCantable(Naipe n) const {
+    int PorAsCantable(Carta n) const {
         if (v_.nivel <= 80 || n.valor != kAs || !bazas.PaloCantable(n.palo))
             return 0;
         const bool ahora = v_.sale ? v_.cartas == 3 && v_.caracter == kAgresivo
                                    : TresEnGrupo(n) && v_.caracter != kConservador;
-        return ahora ? 400 : 0;
+        return ahora ? peso::kAsCantable : 0;
     }
 
-    int DeSalida(Naipe n, int puntos) {
+    int DeSalida(Carta n, int puntos) {
         puntos = ContraElCanteRival(n, puntos);
         puntos -= PorFallos(n);
         puntos = PorPaloSinCante(n, puntos);
@@ -168,7 +184,7 @@ private:
 
     // With two seats the leader looks into the rival's hand. What that finds stays in force for the cards
     // that are scored after this one, on purpose.
-    int ContraElCanteRival(Naipe n, int puntos) {
+    int ContraElCanteRival(Carta n, int puntos) {
         if (estado.NumJugadores != 2)
             return puntos;
         const Integer rival = Rival();
@@ -179,7 +195,8 @@ private:
             !bazas.PaloCantable(n.palo)) {
             return puntos;
         }
-        return Mayor(n) == 0 ? -puntos - 300 : -puntos - 2 * estado.OrdenCarta(n.valor) - 250;
+        return Mayor(n) == 0 ? -puntos - peso::kQuitaCante
+                             : -puntos - 2 * estado.OrdenCarta(n.valor) - peso::kMolestaCante;
     }
 
     Integer Rival() const {
@@ -190,7 +207,7 @@ private:
         return asiento;
     }
 
-    int PorFallos(Naipe n) const {
+    int PorFallos(Carta n) const {
         if (estado.ValorCarta(n.valor) != 0 || EsTriunfo(n) || v_.nivel <= 90)
             return 0;
         int suma = 0;
@@ -198,12 +215,12 @@ private:
             if (bazas.FallaPalo(n.palo, asiento) && !bazas.FallaPalo(estado.PaloTriunfo, asiento))
                 suma += asiento == v_.pareja ? 1 : -1;
         }
-        return 20 * suma;
+        return peso::kFallo * suma;
     }
 
-    int PorPaloSinCante(Naipe n, int puntos) const {
-        const Naipe caballo{n.palo, kCaballo};
-        const Naipe rey{n.palo, kRey};
+    int PorPaloSinCante(Carta n, int puntos) const {
+        const Carta caballo{n.palo, kCaballo};
+        const Carta rey{n.palo, kRey};
         if (estado.ValorCarta(n.valor) > 2 || propias_.Cuantos(n.palo) < 2 ||
             !CanteIntacto(n.palo) || propias_.Tiene(caballo) || propias_.Tiene(rey)) {
             return puntos;
@@ -213,33 +230,33 @@ private:
             if (suyas.Tiene(caballo) && suyas.Tiene(rey))
                 return puntos;
         }
-        return Redondea(-puntos - Fraccion(v_.nivel) * 15);
+        return Redondea(-puntos - Fraccion(v_.nivel) * peso::kPaloSinCante);
     }
 
-    int PorSegura(Naipe n) {
+    int PorSegura(Carta n) {
         const Integer mayor = Mayor(n);
         if (mayor == 0) {
             if (!EsTriunfo(n) && !fuera_.VacioDe(estado.PaloTriunfo))
                 return 0;
             ++ganadoras_seguras_;
-            return FinalSeguro() ? 500 : 0;
+            return FinalSeguro() ? peso::kGanadora : 0;
         }
         const Integer del_palo = propias_.Cuantos(n.palo);
         const bool sangra = estado.ValorCarta(n.valor) <= 4 && EsTriunfo(n) && mayor >= 6 &&
                             del_palo > 1 && FinalSeguro();
-        return sangra ? -del_palo * 10 : 0;
+        return sangra ? -del_palo * peso::kSangria : 0;
     }
 
-    int DeSeguir(Naipe n, int puntos) const {
+    int DeSeguir(Carta n, int puntos) const {
         puntos += PorTresCantable(n);
-        return puntos + (Imbatible(n) && FinalSeguro() ? 500 : 0);
+        return puntos + (Imbatible(n) && FinalSeguro() ? peso::kGanadora : 0);
     }
 
-    int PorTresCantable(Naipe n) const {
+    int PorTresCantable(Carta n) const {
         if (v_.nivel <= 95 || !bazas.PaloCantable(n.palo) || n.valor != kTres || !TresEnGrupo(n))
             return 0;
         const bool peligra = (!v_.ultimo && Mayor(n) != 0) || AsEnMesa(n.palo);
-        return peligra ? 120 : -350;
+        return peligra ? peso::kTresEnPeligro : -peso::kTresASalvo;
     }
 
     static bool AsEnMesa(Integer palo) {
@@ -251,9 +268,9 @@ private:
     }
 
     // No card that is still about, of any suit, is stronger.
-    bool Imbatible(Naipe n) const {
+    bool Imbatible(Carta n) const {
         const auto fuerza = [](Integer palo, Integer orden) {
-            return orden + (palo == estado.PaloTriunfo ? 20 : 0);
+            return orden + (palo == estado.PaloTriunfo ? kPotenciaTriunfo : Integer{0});
         };
         const int propia = fuerza(n.palo, estado.OrdenCarta(n.valor));
         for (Integer palo = kOros; palo <= kBastos; ++palo) {
@@ -275,7 +292,7 @@ Seguimiento DejaLasLegales() {
     for (const Seguimiento grupo : kOrdenGrupos) {
         VaciaJugables();
         for (int puesto = 1; puesto <= cuantas; ++puesto) {
-            const Naipe n = NaipeEnMano(todas(puesto, 2));
+            const Carta n = CartaEnMano(todas(puesto, 2));
             if (GrupoDe(n.palo, n.valor) == grupo)
                 AnotaJugable(todas(puesto, 1), todas(puesto, 2));
         }
@@ -318,7 +335,7 @@ Integer PuestoFinalObligado(const VistaTurno& v, Seguimiento grupo) {
 }
 
 // Whether a card that can win the trick is worth playing while there is a stock.
-bool TomaLaBaza(const VistaTurno& v, Naipe n) {
+bool TomaLaBaza(const VistaTurno& v, Carta n) {
     if (bazas.TuteEnMano != 0)
         return v.nivel < 20 || n.valor != bazas.TuteEnMano;
     if (bazas.HayCante) {
@@ -330,7 +347,7 @@ bool TomaLaBaza(const VistaTurno& v, Naipe n) {
 }
 
 // A trump is not spent on too little.
-bool TriunfoDesperdiciado(const VistaTurno& v, Naipe n) {
+bool TriunfoDesperdiciado(const VistaTurno& v, Carta n) {
     if (n.palo != estado.PaloTriunfo)
         return false;
     const Currency puntos = estado.ValorCarta(n.valor);
@@ -345,7 +362,7 @@ Integer PuestoFinalLibre(const VistaTurno& v) {
     Integer k = 1;
     Integer descarte = 0;
     for (Integer puesto = 1; puesto <= bazas.NumJugables; ++puesto) {
-        const Naipe n = NaipeJugable(puesto);
+        const Carta n = CartaJugable(puesto);
         if (PotenciaCarta(n.palo, n.valor) < v.mejor_mesa) {
             if (descarte == 0 && estado.ValorCarta(n.valor) == 0)
                 descarte = puesto;
@@ -354,7 +371,7 @@ Integer PuestoFinalLibre(const VistaTurno& v) {
             break;
         }
     }
-    if (bazas.HayCante || bazas.TuteEnMano != 0 || !TriunfoDesperdiciado(v, NaipeJugable(k)))
+    if (bazas.HayCante || bazas.TuteEnMano != 0 || !TriunfoDesperdiciado(v, CartaJugable(k)))
         return k;
     return v.nivel > 50 && descarte != 0 ? descarte : Integer{1};
 }
@@ -376,7 +393,7 @@ Integer PuntuaMano(const VistaTurno& v) {
     VaciaJugables();
     Puntuador puntuador(v);
     for (Integer lugar = 1; lugar <= v.cartas; ++lugar)
-        AnotaJugable(EnteroDe(puntuador.Puntua(NaipeEnMano(lugar)) + kBaseTexto), lugar);
+        AnotaJugable(EnteroDe(puntuador.Puntua(CartaEnMano(lugar)) + kBaseTexto), lugar);
     ExaminaMano(v.asiento);
     return puntuador.GanadorasSeguras();
 }

@@ -11,6 +11,7 @@
 #include "core/game_state.h"
 #include "core/numeric.h"
 #include "games/common/trick_state.h"
+#include "games/common/trick_values.h"
 #include "games/trick/search_state.h"
 
 namespace {
@@ -20,7 +21,6 @@ constexpr int kAsientos = 4;
 constexpr int kMaximoLugar = kBaseClave - 1;
 constexpr int kOrdenMasAlto = 13;
 constexpr Long kDiezUltimas = 10;
-constexpr int kFuerzaPaloSalida = 10, kFuerzaTriunfo = 20;
 
 // Places of a hand as bits: place 1 is bit 1.
 using Lugares = std::uint16_t;
@@ -116,7 +116,7 @@ private:
             const int orden = estado.OrdenCarta(valor);
             const auto bit = static_cast<Lugares>(1U << lugar);
             naipes_[a][static_cast<std::size_t>(lugar)] = {
-                palo, orden, orden + (palo == estado.PaloTriunfo ? kFuerzaTriunfo : 0),
+                palo, orden, orden + (palo == estado.PaloTriunfo ? kPotenciaTriunfo : 0),
                 Redondea(estado.ValorCarta(valor).Real())};
             quedan_[a] |= bit;
             de_palo_[a][static_cast<std::size_t>(palo)] |= bit;
@@ -146,7 +146,7 @@ private:
             baza.orden = naipe.orden;
         }
         const bool sirve = naipe.palo == baza.palo && naipe.palo != estado.PaloTriunfo;
-        const int fuerza = naipe.fuerza + (sirve ? kFuerzaPaloSalida : 0);
+        const int fuerza = naipe.fuerza + (sirve ? kPotenciaPaloSalida : 0);
         if (fuerza > baza.mejor_fuerza) {
             baza.mejor_fuerza = fuerza;
             baza.ganador = asiento;

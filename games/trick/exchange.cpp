@@ -3,6 +3,7 @@
 #include "core/game_state.h"
 #include "games/common/hand_queries.h"
 #include "games/common/trick_state.h"
+#include "games/common/trick_values.h"
 #include "games/trick/trick_rules.h"
 #include "games/trick/trick_view.h"
 #include "table/flight.h"
@@ -12,7 +13,6 @@
 namespace {
 
 constexpr int kSerie = 1;
-constexpr Integer kSiete = 7;
 
 Punto LugarEnMano(Integer asiento, Integer lugar) {
     ColocarCarta(asiento, lugar, estado.NumCartas(asiento, kSerie));

@@ -5,6 +5,7 @@
 #include "core/text.h"
 #include "games/common/hands.h"
 #include "games/common/trick_state.h"
+#include "games/common/trick_values.h"
 #include "games/trick/card_rules.h"
 #include "games/trick/choice_tute.h"
 #include "games/trick/exchange.h"

@@ -33,6 +33,9 @@ public:
     bool siempre_continua = false;
     bool traviesa = false;
 
+    // A data file of the program that is missing is reported, instead of being taken for empty.
+    bool exige_ficheros = false;
+
     // What was asked for. Kept while registra is on.
     bool registra = true;
     std::vector<CajaMensaje> mensajes;
@@ -93,6 +96,7 @@ public:
     void Ayuda(int tema) override;
     void Minimiza() override { ++minimizadas; }
 
+    bool ExigeFicheros() const override { return exige_ficheros; }
     Archivos& LosArchivos() override { return *archivos_; }
     std::string CarpetaDelPrograma() const override { return carpeta_; }
     std::string CarpetaUsuario() const override { return carpeta_; }

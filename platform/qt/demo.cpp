@@ -4,6 +4,7 @@
 #include <QString>
 #include <cstdio>
 
+#include "core/default_settings.h"
 #include "core/game_state.h"
 #include "games/game_rows.h"
 #include "platform/qt/picture_platform.h"

@@ -69,13 +69,11 @@ class CinquilloPlayer(Player):
 
 
 def first_run(table):
-    """Nothing is there yet: the program tells it, writes its files and can be left at once."""
+    """The program is there with its files and can be left at once."""
     table.start()
     time.sleep(0.7)
     table.shot("splash")
-    table.answer("Error en la carga de datos iniciales", 0, count=1)
     table.wait_for_window()
-    table.answer("Error en la carga de datos iniciales", 0, count=1)
     table.answer("Descripción general", 1, count=2)
     table.shot("empty-table")
     table.press_main("salir")

@@ -50,7 +50,6 @@ class FastTable:
         self.path = table.folder / self.name
         (table.folder / "ZOV31.INI").write_bytes(f"{game}0 100".ljust(LINE).encode() + b"\r\n")
         table.start()
-        table.answer("Error en la carga de datos iniciales", 0)
         table.answer("Descripción general", 1)
         self.end_well()
         self.path.write_bytes(fast(self.path.read_bytes()))

@@ -78,7 +78,6 @@ class PopUp:
 def begin(table):
     table.begin_empty()
     Normas(table).choose("Tute")
-    table.answer("Error en la carga de datos iniciales", 0, count=1)
     form = Personal(table)
     form.change_speed(50, 100)
     form.leave()

@@ -15,9 +15,6 @@ def is_told(words, where):
 def play(table):
     (table.folder / "Baraja02.bmp").unlink()
     table.start(stderr=subprocess.PIPE, text=True)
-    table.answer("Error en la carga de datos iniciales", 0)
-    table.wait_for_window()
-    table.answer("Error en la carga de datos iniciales", 0)
     table.wait_for_box(TITLE, 10)
     table.shot("report")
     xdotool("key", "Return")

@@ -6,7 +6,6 @@ from lib.table import expect, run, wait_for
 from lib.trick_player import (AS, BASTOS, CABALLO, COPAS, ESPADAS, ME, OPPONENT, OROS, POINTS, REY,
                               TrickPlayer)
 
-NO_FILE = "Error en la carga de datos iniciales"
 ANOTHER_MATCH = "Abandonar la partida en curso"
 SLOW = 60  # slow enough for cards that stand out of the hand for a moment to be seen
 SEVENS = [(suit, 7) for suit in (OROS, COPAS, ESPADAS, BASTOS)]
@@ -152,7 +151,6 @@ def begin_tute(table, tute):
     """The first hand: a cante and an exchange."""
     table.begin_empty()
     tute.leave_for("Tute")
-    table.answer(NO_FILE, 0, count=1)
     tute.change_speed(50, 100)
     sit_two(table, tute.game)
     trump = tute.begin_with_a_useful_trump([*SEVENS, *PAIR], LOW)
@@ -172,7 +170,6 @@ def leave_tute_in_a_deal(table, tute):
     tute.player.give((COPAS, AS), OPPONENT)
     table.shot("left-in-a-deal")
     tute.leave_for("Brisca")
-    table.answer(NO_FILE, 0, count=1)
     expect(table.match_on("51"), "the match of Tute is kept")
     expect(sum(tute.hands_won()) == 1, f"one hand of Tute is won: {tute.hands_won()}")
     expect(tute.cantes(1) >= 1, "the cante stands in the record of the hand")

@@ -9,6 +9,7 @@
 #include <functional>
 #include <vector>
 
+#include "core/default_settings.h"
 #include "core/game_state.h"
 #include "core/session_state.h"
 #include "forms/controls_view.h"

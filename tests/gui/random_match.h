@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "core/default_settings.h"
 #include "core/game_state.h"
 #include "core/session_state.h"
 #include "session/state_blocks.h"
@@ -28,7 +29,7 @@ inline void PonAjustes() {
     estado.CarpetaPrograma = estado.CarpetaTrabajo = carpeta;
     std::vector<Integer> juegos;
     for (const FilaJuego* fila : FilasDeJuegos()) {
-        if (fila->driver != nullptr && !fila->con_dinero)
+        if (fila->driver != nullptr && !fila->dinero.hay)
             juegos.push_back(fila->id);
     }
     estado.JuegoActivo = UnoDe(juegos);

@@ -6,6 +6,7 @@
 #include <QTest>
 #include <memory>
 
+#include "core/default_settings.h"
 #include "games/common/trick_state.h"
 #include "platform/qt/platform_qt.h"
 #include "session/main_buttons.h"

@@ -5,6 +5,7 @@
 
 #include "betting/bet_state.h"
 #include "core/text.h"
+#include "games/common/trick_values.h"
 #include "storage/between_hands.h"
 #include "storage/settings_repair.h"
 #include "tests/support/settings_files.h"
@@ -151,6 +152,7 @@ RC_GTEST_FIXTURE_PROP(AjustesProp, DeUnaManoAMediasNoSeGuardaNada, ()) {
     PonEstadoAlAzar();
     RC_PRE(estado.PartidaEnCurso);
     const EstadoJuego antes = estado;
+    const EstadoApuestas dinero_antes = apuestas;
     ++estado.JuegosJugados;
     sesion.mano_apuntada = false;
     if (estado.JuegosJugados > 1)
@@ -168,10 +170,10 @@ RC_GTEST_FIXTURE_PROP(AjustesProp, DeUnaManoAMediasNoSeGuardaNada, ()) {
     RC_ASSERT(estado.JugadorMano == antes.JugadorMano);
     RC_ASSERT(estado.Juegos == antes.Juegos);
     for (int asiento = 0; asiento <= 4; ++asiento) {
-        RC_ASSERT(RestoDe(asiento) == antes.RestoPrevio(asiento));
+        RC_ASSERT(RestoDe(asiento) == dinero_antes.RestoPrevio(asiento));
         RC_ASSERT(apuestas.Apuesta(asiento, 1, 3) == 0);
         if (asiento > 0)
-            RC_ASSERT(apuestas.Apuesta(asiento, 1, 2) == antes.ApuestaPrevia(asiento, 2));
+            RC_ASSERT(apuestas.Apuesta(asiento, 1, 2) == dinero_antes.ApuestaPrevia(asiento, 2));
     }
 }
 

@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "core/default_settings.h"
 #include "core/files.h"
 #include "core/game_state.h"
 #include "core/session_state.h"

@@ -1,6 +1,7 @@
 #include "tests/support/trick_hands.h"
 
 #include "games/common/trick_state.h"
+#include "games/common/trick_values.h"
 
 #include <string>
 

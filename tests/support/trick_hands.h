@@ -4,12 +4,13 @@
 #include <vector>
 
 #include "core/game_state.h"
+#include "games/common/trick_values.h"
 
 namespace prueba {
 
 using ::Carta;
 
-inline constexpr Integer kAs = 1, kTres = 3, kSota = 10, kCaballo = 11, kRey = 12;
+using ::kAs, ::kTres, ::kSota, ::kCaballo, ::kRey;
 
 // A clean table for a game of 2 to 4 seats (three seats leave seat 4 out, two seats play 2 and 4): deck
 // fields and values of the game, direct sense, all seats automatic, level 50, character 2, no trump.

@@ -8,6 +8,7 @@
 #include "betting/chips.h"
 #include "core/game_state.h"
 #include "core/text.h"
+#include "games/common/trick_values.h"
 
 namespace prueba {
 

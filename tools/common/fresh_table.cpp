@@ -1,5 +1,6 @@
 #include "tools/common/fresh_table.h"
 
+#include "core/default_settings.h"
 #include "core/random.h"
 #include "games/game_rows.h"
 #include "platform/platform.h"

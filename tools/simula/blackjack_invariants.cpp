@@ -169,7 +169,7 @@ void RevisaManoBlackJack() {
     esperado = LoQueHaDeQuedar();
 }
 
-void RevisaPartidaBlackJack() {
+void RevisaPartidaBlackJack(int /*manos*/) {
     RevisaRegistrosDeBanca();
     int ganado = 0;
     for (int juego = 1; juego <= estado.JuegosJugados; ++juego)

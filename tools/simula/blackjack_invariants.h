@@ -6,4 +6,4 @@ void RevisaPasoBlackJack();
 // Play has ended: each hand was played under the rules, the bank's too. Reckons what the settlement will have to pay.
 void RevisaManoBlackJack();
 // The match that has just ended: who is left without chips, and that the bank's gains sum up to what it has.
-void RevisaPartidaBlackJack();
+void RevisaPartidaBlackJack(int manos);

@@ -145,7 +145,7 @@ void RevisaManoCinquillo() {
     Repeticion().Juega();
 }
 
-void RevisaPartidaCinquillo() {
+void RevisaPartidaCinquillo(int manos) {
     int juegos = 0;
     for (int asiento = 1; asiento <= 4; ++asiento) {
         juegos += estado.JuegosGanados(asiento);
@@ -153,7 +153,7 @@ void RevisaPartidaCinquillo() {
                   (asiento == estado.GanadorPartida),
               "sólo el ganador llega al límite");
     }
-    Exige(juegos == estado.JuegosJugados, "cada mano tiene su ganador");
+    Exige(juegos == manos, "cada mano tiene su ganador");
     for (int n = 1; n <= estado.JuegosJugados; ++n)
         RevisaRegistro(n);
 }

@@ -4,5 +4,5 @@
 
 // The hand that has just ended: cards, turns, passes, winner. InvarianteRoto when one is wrong.
 void RevisaManoCinquillo();
-// The records and the games won of the match that has just ended.
-void RevisaPartidaCinquillo();
+// The records and the games won of the match of so many hands that has just ended.
+void RevisaPartidaCinquillo(int manos);

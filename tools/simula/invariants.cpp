@@ -2,9 +2,12 @@
 
 #include <algorithm>
 
+#include "games/common/hands.h"
 #include "session/state_blocks.h"
+#include "tools/simula/bank_invariants.h"
 #include "tools/simula/blackjack_invariants.h"
 #include "tools/simula/cinquillo_invariants.h"
+#include "tools/simula/sieteymedia_invariants.h"
 #include "tools/simula/trick_invariants.h"
 
 namespace {
@@ -12,7 +15,7 @@ namespace {
 struct Revision {
     Integer juego;
     void (*mano)();
-    void (*partida)();
+    void (*partida)(int manos);
     void (*paso)() = nullptr; // nothing to look at meanwhile
 };
 
@@ -20,6 +23,7 @@ constexpr Revision kRevisiones[] = {
     {kBlackJack, RevisaManoBlackJack, RevisaPartidaBlackJack, RevisaPasoBlackJack},
     {kTute, RevisaManoBazas, RevisaPartidaBazas},
     {kBrisca, RevisaManoBazas, RevisaPartidaBazas},
+    {kSieteYMedia, RevisaManoSiete, RevisaPartidaSiete, RevisaDineroDeBanca},
     {kCinquillo, RevisaManoCinquillo, RevisaPartidaCinquillo},
 };
 
@@ -43,8 +47,10 @@ void RevisaFinalDeMano() {
     RevisionDelJuego().mano();
 }
 
-void RevisaFinalDePartida() {
+void RevisaFinalDePartida(int manos) {
     Exige(!estado.PartidaEnCurso, "la partida acaba");
+    Exige(estado.JuegosJugados == std::min(manos, kJuegosGuardados + 1),
+          "acabaron {} manos y se apuntaron {}", manos, estado.JuegosJugados);
     Exige(estado.GanadorPartida >= 1 && estado.GanadorPartida <= 4, "la partida tiene ganador");
-    RevisionDelJuego().partida();
+    RevisionDelJuego().partida(manos);
 }

@@ -23,5 +23,6 @@ void RevisaPaso();
 // The cards and the points of the hand that has just ended. Reads the state only.
 void RevisaFinalDeMano();
 
-// The games won, the records and the winner of the match that has just ended.
-void RevisaFinalDePartida();
+// The games won, the records and the winner of the match that has just ended after so many hands: of a long one the
+// records are fewer.
+void RevisaFinalDePartida(int manos);

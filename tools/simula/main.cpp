@@ -7,7 +7,6 @@
 #include <cstdio>
 
 #include "games/game_rows.h"
-#include "table/game_row.h"
 #include "tools/simula/runner.h"
 
 namespace {
@@ -61,8 +60,8 @@ void Cuenta(const OpcionesSimula& opciones, const Totales& totales, double segun
 
 // What nobody catches ends the tool with its words, as it should.
 int main(int argc, char** argv) { // NOLINT(bugprone-exception-escape)
-    OpcionesSimula opciones;
     UsaJuegos(LosJuegos());
+    OpcionesSimula opciones;
     CLI::App app{"Partidas automáticas sin pantalla"};
     PonOpciones(app, opciones);
     CLI11_PARSE(app, argc, argv);

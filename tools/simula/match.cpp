@@ -6,7 +6,9 @@
 #include <stdexcept>
 
 #include "betting/chips.h"
+#include "core/default_settings.h"
 #include "core/random.h"
+#include "games/game_rows.h"
 #include "session/main_buttons.h"
 #include "session/match_driver.h"
 #include "session/state_blocks.h"
@@ -23,8 +25,6 @@
 #include "tools/simula/invariants.h"
 
 namespace {
-
-constexpr int kRegistros = 999; // that a match keeps at least
 
 // Neighbouring numbers give seeds that have nothing in common.
 std::uint64_t SemillaDe(std::uint64_t semilla, std::int64_t n) {
@@ -155,6 +155,7 @@ Simulacion::Simulacion(const OpcionesSimula& opciones)
     : opciones_(opciones),
       mesa_(
           opciones.revisa ? RevisaFinalDeMano : [] {}, opciones.revisa ? RevisaPaso : [] {}) {
+    UsaJuegos(LosJuegos());
     Pide(SonDeAsientos(opciones.niveles, 0, 100), "los niveles son cuatro, de 0 a 100");
     Pide(SonDeAsientos(opciones.caracteres, 1, 3), "los caracteres son cuatro, de 1 a 3");
     Pide(opciones.sentido == 1 || opciones.sentido == 2, "el sentido es 1 o 2");
@@ -234,11 +235,8 @@ Totales Simulacion::Juega(std::int64_t n) {
     mesa_.manos = 0;
     NuevaPartida();
     Exige(!sesion.sin_eventos, "una espera se quedó sin eventos");
-    // Of a very long match the oldest records are let go.
-    Exige(std::min(mesa_.manos, kRegistros) == std::min<int>(estado.JuegosJugados, kRegistros),
-          "acabaron {} manos y se apuntaron {}", mesa_.manos, estado.JuegosJugados);
     if (opciones_.revisa)
-        RevisaFinalDePartida();
+        RevisaFinalDePartida(mesa_.manos);
     Totales totales;
     totales.partidas = 1;
     totales.manos = mesa_.manos;

@@ -257,7 +257,7 @@ void RevisaManoBazas() {
     RevisaGanador();
 }
 
-void RevisaPartidaBazas() {
+void RevisaPartidaBazas(int manos) {
     int juegos = 0;
     for (int ganador = 1; ganador <= 4; ++ganador) {
         juegos += estado.JuegosGanados(ganador);
@@ -265,7 +265,7 @@ void RevisaPartidaBazas() {
                   (ganador == estado.GanadorPartida),
               "sólo el ganador llega al límite");
     }
-    Exige(juegos == estado.JuegosJugados, "cada mano tiene su ganador");
+    Exige(juegos == manos, "cada mano tiene su ganador");
     for (int n = 1; n <= estado.JuegosJugados; ++n)
         RevisaRegistro(n);
 }

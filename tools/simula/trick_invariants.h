@@ -4,5 +4,5 @@
 
 // The hand that has just ended: cards, leaders, legal cards, winners, points. InvarianteRoto when one is wrong.
 void RevisaManoBazas();
-// The records and the games won of the match that has just ended.
-void RevisaPartidaBazas();
+// The records and the games won of the match of so many hands that has just ended.
+void RevisaPartidaBazas(int manos);

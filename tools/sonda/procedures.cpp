@@ -15,6 +15,16 @@
 #include "games/common/hand_queries.h"
 #include "games/common/hands.h"
 #include "games/common/series.h"
+#include "games/poker/bet_choice.h"
+#include "games/poker/discard_choice.h"
+#include "games/poker/hand_order.h"
+#include "games/poker/hand_reading.h"
+#include "games/poker/hand_value.h"
+#include "games/poker/opening_law.h"
+#include "games/poker/poker_driver.h"
+#include "games/poker/rivals.h"
+#include "games/sieteymedia/sieteymedia.h"
+#include "games/sieteymedia/sieteymedia_cards.h"
 #include "games/sieteymedia/sieteymedia_decision.h"
 #include "games/trick/card_rules.h"
 #include "games/trick/choice_brisca.h"
@@ -88,6 +98,14 @@ void MoverCarta(Integer palo, Integer valor, int desdeX, int desdeY, Integer des
                 Integer hastaCara, int tapada) {
     MueveCarta({palo, valor}, {desdeX, desdeY, desdeOrientacion, desdeCara},
                {hastaX, hastaY, hastaOrientacion, hastaCara}, tapada == 1);
+}
+
+// The tutor as its button asks it, be the button enabled or not.
+void PideConsejo() {
+    const bool habilitado = BotonHabilitado(kBotonTutor);
+    HabilitaBoton(kBotonTutor, true);
+    PulsaBoton(kBotonTutor);
+    HabilitaBoton(kBotonTutor, habilitado);
 }
 
 // Of the moves of chips those that are seen, without a listener of the caller's.
@@ -230,6 +248,34 @@ const std::unordered_map<std::string, Llamada>& LaTabla() { // NOLINT(readabilit
         {"RobaCartas", Llama(&RobaCartas)},
         {"CambiaTriunfo", Llama(&CambiaTriunfo)},
         {"FinalMano", LlamaPasos(&FinalMano)},
+
+        // Hands of Póker.
+        {"CargaTablasPoker", Llama(&CargaTablasPoker)},
+        {"AnalizaJugada", Llama(&AnalizaJugada)},
+        {"OrdenaJugada", Llama(&OrdenaJugada)},
+        {"ValorJugada", Llama(&ValorJugada)},
+        {"TextoJugada", Llama(&TextoJugada)},
+        {"EsFigura", Llama(&EsFigura)},
+        {"Combinaciones", Llama(&Combinaciones)},
+        {"TieneComodin", Llama(&TieneComodin)},
+        {"OrdenaCartasSeat", Llama(&OrdenaCartasSeat)},
+
+        // Bets and discards of Póker, and the tutor of the game in play.
+        {"CalculaApuesta", Llama(&CalculaApuesta)},
+        {"ActitudMesa", Llama(&ActitudMesa)},
+        {"LeyAperturaCumplida", Llama(&LeyAperturaCumplida)},
+        {"RivalesSinResto", Llama(&RivalesSinResto)},
+        {"DecideDescarte", Llama(&DecideDescarte)},
+        {"ConsejoTutor", Llama(&PideConsejo)},
+
+        // Matches of Póker.
+        {"ManoPoker", Llama(&ManoPoker)},
+        {"IniciaMano", LlamaPasos(&IniciarJuego)},
+
+        // Siete y media.
+        {"ManoSieteYMedia", Llama(&ManoSieteYMedia)},
+        {"DestapaSerie", Llama(&DestapaSerie)},
+        {"CambiaCuatro", Llama(&CambiaCuatro)},
     };
     return kTabla;
 }

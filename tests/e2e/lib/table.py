@@ -3,6 +3,7 @@
 import os
 import pathlib
 import re
+import shutil
 import subprocess
 import sys
 import time
@@ -42,7 +43,8 @@ def xdotool(*words):
 
 
 class Table:
-    """A game folder of its own with links to the program and its pictures, and the program in it."""
+    """A game folder of its own with links to the program and its pictures and the settings of a first start, and the
+    program in it."""
 
     def __init__(self, name):
         programs = pathlib.Path(os.environ["ZOVIN_BIN"])
@@ -57,6 +59,9 @@ class Table:
             link = self.folder / piece
             if not link.is_symlink():
                 link.symlink_to(programs / piece)
+        for made in (programs.parent / "ajustes").glob("*.INI"):
+            if not (self.folder / made.name).exists():
+                shutil.copy(made, self.folder)
         self.process = None
         self.window = None
 
@@ -73,11 +78,9 @@ class Table:
         return self.window
 
     def begin_empty(self):
-        """Starts the program in an empty folder and comes to the empty table."""
+        """Starts the program for the first time and comes to the empty table."""
         self.start()
-        self.answer("Error en la carga de datos iniciales", 0)
         self.wait_for_window()
-        self.answer("Error en la carga de datos iniciales", 0)
         self.answer("Descripción general", 1)
 
     def close_window(self):

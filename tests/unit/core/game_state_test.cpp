@@ -1,4 +1,5 @@
 #include "betting/bet_state.h"
+#include "core/default_settings.h"
 #include "core/game_state.h"
 
 #include <gtest/gtest.h>

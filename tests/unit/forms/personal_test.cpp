@@ -2,6 +2,7 @@
 
 #include "forms/personal.h"
 #include "forms/refresh.h"
+#include "games/common/trick_values.h"
 #include "table/deck.h"
 
 #include <gmock/gmock.h>

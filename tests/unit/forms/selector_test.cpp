@@ -1,5 +1,6 @@
 // The selectors: their texts, their settings, their circular step.
 
+#include "core/default_settings.h"
 #include "forms/selector.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,6 @@
 // The numbers of Normas: ranges, arrows, typed text.
 
+#include "core/default_settings.h"
 #include "forms/spin.h"
 
 #include <gtest/gtest.h>

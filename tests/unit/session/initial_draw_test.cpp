@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
+
 #include "core/random.h"
 #include "core/session_state.h"
 #include "tests/support/live_table.h"
@@ -34,7 +36,7 @@ struct Sorteo : MesaViva {
     std::string UltimoTexto() { return p.mensajes.back().texto; }
 };
 
-const Carta kSiete{kOros, 7}, kSeis{kOros, 6}, kTresOros{kOros, 3}, kAsOros{kOros, kAs};
+const Carta kSieteOros{kOros, 7}, kSeis{kOros, 6}, kTresOros{kOros, 3}, kAsOros{kOros, kAs};
 
 } // namespace
 
@@ -46,7 +48,7 @@ TEST_F(Sorteo, ElPrimerAsDaLaManoYEmpiezaPorElAsientoUno) {
 }
 
 TEST_F(Sorteo, LasCartasVanPorOrdenHastaQueSaleElAs) {
-    SorteoSera({kSiete, kSeis, kTresOros, {kBastos, 3}, {kBastos, kRey}, kAsOros});
+    SorteoSera({kSieteOros, kSeis, kTresOros, {kBastos, 3}, {kBastos, kRey}, kAsOros});
     EmpiezaTraza();
     ASSERT_TRUE(SorteoInicial());
     EXPECT_EQ(estado.JugadorMano, 2);
@@ -60,13 +62,13 @@ TEST_F(Sorteo, LasCartasVanPorOrdenHastaQueSaleElAs) {
 TEST_F(Sorteo, EnSentidoInversoEmpiezaElTres) {
     estado.SentidoJuego = kInverso;
     estado.PasoSentido = -1;
-    SorteoSera({kSiete, kAsOros});
+    SorteoSera({kSieteOros, kAsOros});
     ASSERT_TRUE(SorteoInicial());
     EXPECT_EQ(estado.JugadorMano, 2);
 }
 
 TEST_F(Sorteo, LaPilaPierdeLasCartasQueSeDanYHayPausaEntreEllas) {
-    SorteoSera({kSiete, kAsOros});
+    SorteoSera({kSieteOros, kAsOros});
     EmpiezaTraza();
     ASSERT_TRUE(SorteoInicial());
     EXPECT_EQ(TrazaDe("DibujarMazo"),
@@ -79,7 +81,7 @@ TEST_F(Sorteo, LaPilaPierdeLasCartasQueSeDanYHayPausaEntreEllas) {
 TEST_F(Sorteo, QuienNoJuegaNoRecibeYSuCartaPasa) {
     estado.JuegoActivo = kBrisca;
     Desactiva({1});
-    SorteoSera({kAsOros, kSiete, kSeis, kTresOros, {kCopas, kAs}, {kEspadas, kAs}});
+    SorteoSera({kAsOros, kSieteOros, kSeis, kTresOros, {kCopas, kAs}, {kEspadas, kAs}});
     EmpiezaTraza();
     ASSERT_TRUE(SorteoInicial());
     // Places 1 and 5 are seat 1's and nobody's: the As of espadas in place 6 is seat 2's.
@@ -92,18 +94,31 @@ TEST_F(Sorteo, SiNingunAsCaeEnQuienJuegaSeMezclaOtraVez) {
     estado.JuegoActivo = kBrisca;
     Desactiva({1, 3});
     // All four Ases at places of seats 1 and 3; then one at a place of seat 4.
-    SorteoSera(
-        {{kOros, kAs}, kSiete, {kCopas, kAs}, kSeis, {kEspadas, kAs}, kTresOros, {kBastos, kAs}});
-    SorteoSera({kSiete, kSeis, kTresOros, {kBastos, kAs}});
+    SorteoSera({{kOros, kAs},
+                kSieteOros,
+                {kCopas, kAs},
+                kSeis,
+                {kEspadas, kAs},
+                kTresOros,
+                {kBastos, kAs}});
+    SorteoSera({kSieteOros, kSeis, kTresOros, {kBastos, kAs}});
     ASSERT_TRUE(SorteoInicial());
     EXPECT_EQ(estado.JugadorMano, 4);
     EXPECT_EQ(UltimoTexto(), "Se  ha  sorteado  el  jugador  que  comienza  la  partida.\r\n"
                              "Sale Jugador4.");
 }
 
+TEST_F(Sorteo, SinNadieQueJuegueNoSeMezclaSinFin) {
+    Desactiva({1, 2, 3, 4});
+    estado.JugadorMano = 2;
+    EXPECT_THROW(static_cast<void>(SorteoInicial()), std::logic_error);
+    EXPECT_EQ(estado.JugadorMano, 2);
+    EXPECT_TRUE(p.mensajes.empty());
+}
+
 TEST_F(Sorteo, SeDiceQuienSale) {
     estado.NombreJugador(3) = "Eva";
-    SorteoSera({kSiete, kSeis, kAsOros});
+    SorteoSera({kSieteOros, kSeis, kAsOros});
     ASSERT_TRUE(SorteoInicial());
     EXPECT_EQ(Titulos(), (std::vector<std::string>{"Comienza la Partida"}));
     EXPECT_EQ(p.mensajes[0].lineas, 2);
@@ -116,7 +131,7 @@ TEST_F(Sorteo, EnSieteYMediaSaleLaBancaYLaPilaVaASuLado) {
     estado.JugadorMano = 2;
     estado.JugadorBanca = 2;
     estado.NombreJugador(3) = "Eva";
-    SorteoSera({kSiete, kSeis, kAsOros});
+    SorteoSera({kSieteOros, kSeis, kAsOros});
     ASSERT_TRUE(SorteoInicial());
     EXPECT_EQ(estado.JugadorBanca, 3);
     EXPECT_EQ(estado.JugadorMano, 2);
@@ -126,7 +141,7 @@ TEST_F(Sorteo, EnSieteYMediaSaleLaBancaYLaPilaVaASuLado) {
 }
 
 TEST_F(Sorteo, LaPartidaQueSeDejaCortaElSorteo) {
-    SorteoSera({kSiete, kSeis, kTresOros, kAsOros});
+    SorteoSera({kSieteOros, kSeis, kTresOros, kAsOros});
     estado.JugadorMano = 2;
     p.traviesa = true;
     p.guion.PulsaControl({Control::Pic_Boton, kBotonSalir});
@@ -138,7 +153,7 @@ TEST_F(Sorteo, LaPartidaQueSeDejaCortaElSorteo) {
 }
 
 TEST_F(Sorteo, UnTamanoNuevoEnElSorteoLlevaLaPilaAlMedio) {
-    SorteoSera({kSiete, kAsOros});
+    SorteoSera({kSieteOros, kAsOros});
     p.traviesa = true;
     p.Mide(1366, 768);
     p.guion.Encola({.tipo = TipoEvento::Tamano, .x = 1366, .y = 768});
@@ -150,7 +165,7 @@ TEST_F(Sorteo, UnTamanoNuevoEnElSorteoLlevaLaPilaAlMedio) {
 // The game's own place of the pile is another one in Póker.
 TEST_F(Sorteo, UnTamanoNuevoNoSacaLaPilaDelMedio) {
     Juega(kPoker);
-    SorteoSera({kSiete, kAsOros});
+    SorteoSera({kSieteOros, kAsOros});
     p.UsaLienzosRegistrados();
     p.traviesa = true;
     p.Mide(1366, 768);

@@ -1,4 +1,5 @@
 #include "games/blackjack/blackjack_decision.h"
+#include "games/common/trick_values.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,6 @@
 // The printed tables, against the rules in words.
 
+#include "core/game_state.h"
 #include "games/blackjack/strategy_tables.h"
 
 #include <gtest/gtest.h>
@@ -8,7 +9,6 @@
 
 namespace {
 
-constexpr Integer kAs = 1;
 constexpr char kSinFila = 0;
 
 bool Entre(int valor, int desde, int hasta) {

@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr Integer kAs = 1, kSota = 10, kCaballo = 11, kRey = 12, kReyFrances = 13;
+constexpr Integer kSota = 10, kCaballo = 11, kRey = 12, kReyFrances = 13;
 
 void PonValoresDeBlackJack() {
     for (int valor = 1; valor <= 13; ++valor)

@@ -129,25 +129,29 @@ struct FinalDePartida : testing::Test {
 };
 
 TEST_F(FinalDePartida, UnaPartidaBienAcabadaPasa) {
-    EXPECT_NO_THROW(RevisaFinalDePartida());
+    EXPECT_NO_THROW(RevisaFinalDePartida(1));
 }
 
 TEST_F(FinalDePartida, LaPartidaNoSigueYTieneGanador) {
     estado.PartidaEnCurso = true;
-    EXPECT_THROW(RevisaFinalDePartida(), InvarianteRoto);
+    EXPECT_THROW(RevisaFinalDePartida(1), InvarianteRoto);
     estado.PartidaEnCurso = false;
     estado.GanadorPartida = 0;
-    EXPECT_THROW(RevisaFinalDePartida(), InvarianteRoto);
+    EXPECT_THROW(RevisaFinalDePartida(1), InvarianteRoto);
 }
 
 TEST_F(FinalDePartida, UnaManoSinGanadorNoPasa) {
     estado.JuegosGanados(2) = 0;
-    EXPECT_THROW(RevisaFinalDePartida(), InvarianteRoto);
+    EXPECT_THROW(RevisaFinalDePartida(1), InvarianteRoto);
+}
+
+TEST_F(FinalDePartida, UnaManoQueNadieApuntoNoPasa) {
+    EXPECT_THROW(RevisaFinalDePartida(2), InvarianteRoto);
 }
 
 TEST_F(FinalDePartida, UnRegistroQueNoCuadraNoPasa) {
     estado.Juegos(1).Texto1(2) = "8";
-    EXPECT_THROW(RevisaFinalDePartida(), InvarianteRoto);
+    EXPECT_THROW(RevisaFinalDePartida(1), InvarianteRoto);
 }
 
 } // namespace

@@ -81,6 +81,16 @@ TEST(Simula, ElSentidoCambiaLoQueSeJuega) {
     EXPECT_NE(Simula(opciones).firma, directo);
 }
 
+// Its oldest records are let go, and what they told is checked no more; the hands are counted all the same.
+TEST(Simula, UnaPartidaDeMasDeMilManosSeJuegaEntera) {
+    OpcionesSimula opciones = Cinquillo(1);
+    opciones.limite = 999;
+    const Totales totales = Simula(opciones);
+    EXPECT_EQ(totales.partidas, 1);
+    EXPECT_GT(totales.manos, 1000);
+    EXPECT_LE(totales.manos, 999 + 3 * 998);
+}
+
 TEST(Simula, SoloAdmiteOpcionesQueHaganUnaPartida) {
     OpcionesSimula opciones = Cinquillo(1);
     opciones.niveles = {50, 50};

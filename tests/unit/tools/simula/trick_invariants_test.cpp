@@ -37,7 +37,7 @@ OpcionesSimula De(int juego, int asientos, bool parejas) {
 
 TEST_P(ManoJugada, Pasa) {
     EXPECT_NO_THROW(RevisaManoBazas());
-    EXPECT_NO_THROW(RevisaPartidaBazas());
+    EXPECT_NO_THROW(RevisaPartidaBazas(1));
 }
 
 TEST_P(ManoJugada, UnaCartaSinJugarNoPasa) {
@@ -68,7 +68,7 @@ TEST_P(ManoJugada, OtroGanadorNoPasa) {
 
 TEST_P(ManoJugada, UnRegistroSinGanadorNoPasa) {
     estado.Juegos(1).Marcas.Borra();
-    EXPECT_THROW(RevisaPartidaBazas(), InvarianteRoto);
+    EXPECT_THROW(RevisaPartidaBazas(1), InvarianteRoto);
 }
 
 INSTANTIATE_TEST_SUITE_P(Variantes, ManoJugada,

@@ -1,0 +1,36 @@
+#pragma once
+// The settings before any file is read, and the limits of those that are numbers.
+
+#include <array>
+
+#include "core/game_state.h"
+
+struct LimitesRegla {
+    Integer minimo, maximo, defecto;
+};
+
+inline constexpr LimitesRegla kLimitesRestoInicial{5, 995, 200}, kLimitesApuestaSalida{0, 999, 5},
+    kLimitesApuestaMaxima{5, 995, 25}, kLimitesLimitePartida{1, 999, 3};
+
+struct ReglaConLimites {
+    Integer EstadoJuego::*campo;
+    LimitesRegla limites;
+};
+
+inline constexpr std::array kReglas{
+    ReglaConLimites{&EstadoJuego::SentidoJuego, {kDirecto, kInverso, kDirecto}},
+    ReglaConLimites{&EstadoJuego::VentanaInfo, {1, 2, 1}},
+    ReglaConLimites{&EstadoJuego::SistemaReparto,
+                    {kRepartoAutomatico, kRepartoManual, kRepartoAutomatico}},
+    ReglaConLimites{&EstadoJuego::ModalidadJuego, {kIndividual, kDosParejas, kIndividual}},
+    ReglaConLimites{&EstadoJuego::LeyApertura, {1, 14, 1}},
+    ReglaConLimites{&EstadoJuego::CartasBaraja, {1, 6, 1}},
+    ReglaConLimites{&EstadoJuego::ComodinesJuego, {1, 3, 1}},
+    ReglaConLimites{&EstadoJuego::RestoInicial, kLimitesRestoInicial},
+    ReglaConLimites{&EstadoJuego::ApuestaSalida, kLimitesApuestaSalida},
+    ReglaConLimites{&EstadoJuego::ApuestaMaxima, kLimitesApuestaMaxima},
+    ReglaConLimites{&EstadoJuego::LimitePartida, kLimitesLimitePartida},
+};
+
+// The settings before any file is read, seats and match included: what a first run starts with.
+void PonValoresPorDefecto();

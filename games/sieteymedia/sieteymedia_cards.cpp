@@ -1,0 +1,149 @@
+#include "games/sieteymedia/sieteymedia_cards.h"
+
+#include <algorithm>
+
+#include "core/game_state.h"
+#include "core/numeric.h"
+#include "core/random.h"
+#include "games/common/series.h"
+#include "games/common/trick_values.h"
+#include "games/sieteymedia/sieteymedia_decision.h"
+#include "table/deck.h"
+#include "table/flight.h"
+#include "table/layout.h"
+#include "table/messages.h"
+#include "table/pile.h"
+#include "table/seat_drawing.h"
+#include "table/sounds.h"
+
+namespace {
+
+constexpr Integer kSerieDelCuatro = 1; // a Four is changed before anything else is played
+constexpr int kLugarDelCuatro = 1;
+constexpr Integer kCuatro = 4;
+
+void DestapaMano(Integer asiento, Integer serie) {
+    if (estado.NumCartas(asiento, serie) == 0)
+        return;
+    for (int lugar = 1; lugar <= estado.NumCartas(asiento, serie); ++lugar) {
+        estado.Mano(asiento, serie, lugar, kCara) = kDescubierta;
+        estado.Mano(asiento, serie, lugar, kTapada) = 0;
+    }
+    RedibujarAsiento(asiento);
+    Pausa(220);
+}
+
+// The place of the deck that the number of chance falls on. The first two cards to come and the last one are spared
+// while there are enough of them; with less the place is kept inside what is still to deal.
+int LugarDelCambio(double azar) {
+    const int lugar = Redondea((estado.CartasEnMazo - 4) * azar + estado.PosicionMazo + 2);
+    return std::clamp<int>(lugar, estado.PosicionMazo,
+                           estado.PosicionMazo + estado.CartasEnMazo - 1);
+}
+
+bool QuedaMazo() {
+    return estado.CartasEnMazo > 0;
+}
+
+// Where chance can fall lie nothing but Fours: changing would never end.
+bool SoloSalenCuatros() {
+    const auto [primero, ultimo] = std::minmax({LugarDelCambio(0), LugarDelCambio(1)});
+    for (int lugar = primero; lugar <= ultimo; ++lugar) {
+        if (estado.Baraja(lugar, 2) != kCuatro)
+            return false;
+    }
+    return true;
+}
+
+Sitio EnLaMano(Integer asiento) {
+    ColocarCarta(asiento, kLugarDelCuatro, estado.NumCartas(asiento, kSerieDelCuatro));
+    return {estado.CartaX, estado.CartaY, OrientacionDe(asiento)};
+}
+
+Sitio EnElMazo() {
+    return {estado.MazoX, estado.MazoY};
+}
+
+// The card leaves the hand, which is bare meanwhile, for the pile; the other one comes.
+void Vuelan(Integer asiento, Carta cuatro, Carta nueva) {
+    const Sitio mano = EnLaMano(asiento);
+    const Integer cartas = estado.NumCartas(asiento, kSerieDelCuatro);
+    estado.NumCartas(asiento, kSerieDelCuatro) = 0;
+    RedibujarAsiento(asiento);
+    MueveCarta(cuatro, mano, EnElMazo());
+    DibujarMazo(estado.MazoX, estado.MazoY, estado.CartasEnMazo);
+    MueveCarta(nueva, EnElMazo(), mano);
+    estado.NumCartas(asiento, kSerieDelCuatro) = cartas;
+}
+
+void ParpadeaElCuatro(Integer asiento) {
+    Integer& altura = estado.Mano(asiento, kSerieDelCuatro, kLugarDelCuatro, kAltura);
+    for (int vez = 0; vez < 3; ++vez) {
+        altura = kLevantada;
+        RedibujarAsiento(asiento);
+        Pausa(180);
+        Sonido(1, sonido::kConsejo);
+        Pausa(420);
+        altura = kEnLinea;
+        RedibujarAsiento(asiento);
+    }
+}
+
+} // namespace
+
+bool EsSieteYMedia(Integer asiento, Integer serie) {
+    return PuntosSerie(asiento, serie) == kSieteYMediaJusto;
+}
+
+bool SePasa(Integer asiento, Integer serie) {
+    return PuntosSerie(asiento, serie) > kSieteYMediaJusto;
+}
+
+bool EstaCantada(Integer asiento, Integer serie) {
+    return EsSieteYMedia(asiento, serie) && LugarTapada(asiento, serie) == 0;
+}
+
+float PuntosDescubiertos(int asiento, int serie) {
+    Currency suma;
+    for (int lugar = 1; lugar <= estado.NumCartas(asiento, serie); ++lugar) {
+        if (estado.Mano(asiento, serie, lugar, kCara) == kDescubierta)
+            suma += estado.ValorCarta(estado.Mano(asiento, serie, lugar, kValor));
+    }
+    return static_cast<float>(suma.Real());
+}
+
+void DestapaSerie(Integer asiento, Integer serie) {
+    if (asiento != 0)
+        return DestapaMano(asiento, serie);
+    for (Integer cada = 1; cada <= 4; ++cada)
+        DestapaMano(cada, serie);
+}
+
+bool OfreceCambiarCuatro(Integer asiento) {
+    return estado.SeriesJugador(asiento) == 1 && estado.NumCartas(asiento, kSerieDelCuatro) == 1 &&
+           estado.Mano(asiento, kSerieDelCuatro, kLugarDelCuatro, kValor) == kCuatro && QuedaMazo();
+}
+
+void CambiaCuatro() {
+    if (!QuedaMazo())
+        return;
+    const Integer asiento = estado.JugadorActual;
+    const Carta cuatro{estado.Mano(asiento, kSerieDelCuatro, kLugarDelCuatro, kPalo), kCuatro};
+    const int lugar = LugarDelCambio(Azar());
+    const Carta nueva{estado.Baraja(lugar, 1), estado.Baraja(lugar, 2)};
+    estado.Baraja(lugar, 1) = cuatro.palo;
+    estado.Baraja(lugar, 2) = cuatro.valor;
+    Vuelan(asiento, cuatro, nueva);
+    PonCarta(asiento, kSerieDelCuatro, kLugarDelCuatro, nueva, kDescubierta);
+    RedibujarAsiento(asiento);
+    series.PuedeCambiarCuatro = nueva.valor == kCuatro;
+    DecideSiete();
+}
+
+void CambiaCuatroSolo() {
+    while (series.PuedeCambiarCuatro && !series.ConservaCuatro && !SoloSalenCuatros()) {
+        DestapaSerie(estado.JugadorActual, kSerieDelCuatro);
+        ParpadeaElCuatro(estado.JugadorActual);
+        CambiaCuatro();
+    }
+}
