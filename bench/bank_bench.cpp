@@ -10,7 +10,6 @@
 #include "core/game_state.h"
 #include "games/blackjack/blackjack_decision.h"
 #include "games/common/series.h"
-#include "games/common/trick_values.h"
 #include "games/sieteymedia/sieteymedia_decision.h"
 
 namespace {

@@ -10,6 +10,8 @@ for program in zovin flight_bench; do
     [ -x "$build/bin/$program" ] || { echo "build the preset bench first: no $build/bin/$program" >&2; exit 2; }
 done
 
+"$here/packaging/install-packages" run bench
+
 export ZOVIN_BIN=$build/bin
 "$here/cmake/under_xvfb.sh" "$here/bench/desktop.py"
 

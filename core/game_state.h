@@ -10,7 +10,6 @@
 
 #include "core/currency.h"
 #include "core/tabla.h"
-#include "games/common/trick_values.h"
 
 // Suits; no card is 0. The French deck uses the same rows.
 inline constexpr Integer kSinCarta = 0, kOros = 1, kCopas = 2, kEspadas = 3, kBastos = 4,

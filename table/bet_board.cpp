@@ -26,7 +26,7 @@ constexpr int kPausaBoton = 160, kPausaAnular = 90;
 constexpr int kAlBorde = 2; // the board stands so far from the table's corner
 constexpr int kPrimerBoton = 50, kEntreBotones = 30;
 // The head of the board: the name, and under it a caption over each display.
-constexpr int kNombreY = 6, kRotuloY = 21, kCifrasY = 33;
+constexpr int kNombreY = 5, kRotuloY = 19, kCifrasY = 31;
 constexpr int kCifras = 4, kAnchoVisor = 40, kAltoVisor = 17;
 constexpr Fuente kLetraNombre{.alto = 13, .negrita = true, .tope = 124};
 constexpr Fuente kLetraRotulo{.alto = 10, .negrita = true, .tope = 64};

@@ -10,6 +10,7 @@
 #include "core/game_state.h"
 #include "core/text.h"
 #include "platform/platform.h"
+#include "table/flight.h"
 #include "table/game_row.h"
 #include "table/layout.h"
 #include "table/messages.h"
@@ -23,6 +24,7 @@ namespace {
 
 constexpr int kPasoPila = 38;
 constexpr int kAnchoArea = kPasoPila + kLadoFicha, kAltoArea = 2 * kPasoPila + kLadoFicha;
+constexpr int kAnchoFila = 97, kPasoFila = 36; // of the chips of a bet
 // The plate with the points of a bet, and what is between it and the chips.
 constexpr int kAnchoPlaca = 46, kAltoPlaca = 15, kAirePlaca = 2;
 constexpr Fuente kLetraApuesta{.alto = 12, .negrita = true};
@@ -92,9 +94,10 @@ std::vector<int> EnFila(const Pilas& pilas) {
 // The chips of a bet stand in one row, in the middle of its place: side by side, closer when there are more.
 Punto LugarEnFila(Integer asiento, int cual, int cuantas) {
     const Punto esquina = LugarDePila(AreaApuesta(asiento), 1);
-    if (cuantas == 1)
-        return {esquina.x + kPasoPila / 2, esquina.y};
-    return {esquina.x + cual * kPasoPila / (cuantas - 1), esquina.y};
+    const int huecos = cuantas - 1;
+    const int paso = std::min(kPasoFila, (kAnchoFila - kLadoFicha) / std::max(huecos, 1));
+    const int largo = huecos * paso + kLadoFicha;
+    return {esquina.x + (kAnchoArea - largo) / 2 + cual * paso, esquina.y};
 }
 
 // Where a chip of a denomination lies among those of the bet.
@@ -133,7 +136,8 @@ void PintaPlaca(Integer asiento, int puntos) {
 
 void PintaFila(Integer asiento) {
     const Punto esquina = LugarDePila(AreaApuesta(asiento), 1);
-    Mesa().Fieltro({esquina.x, esquina.y - kCreceFicha, kAnchoArea, kCreceFicha + kLadoFicha});
+    Mesa().Fieltro({esquina.x + (kAnchoArea - kAnchoFila) / 2, esquina.y - kCreceFicha, kAnchoFila,
+                    kCreceFicha + kLadoFicha});
     const Pilas pilas = FichasEnApuesta(asiento);
     const std::vector<int> fila = EnFila(pilas);
     for (std::size_t i = 0; i < fila.size(); ++i) {

@@ -65,7 +65,7 @@ Punto FichasJunto(int asiento, bool segunda) {
 // On the table before the seat's zone: beyond its caption and its buttons, or above them at the sides; a row of
 // chips, with room for a plate towards the zone or above.
 Punto FichasDelante(int asiento) {
-    constexpr int kDesdeLaZona = 23, kMasAllaDeLosBotones = 49, kAltoDelRotulo = 17;
+    constexpr int kDesdeLaZona = 36, kMasAllaDeLosBotones = 49, kAltoDelRotulo = 17;
     const int enMedio = estado.CentroX - kAnchoFichas / 2;
     const int alLado = estado.MesaArriba(1) + 34 + kAltoDelRotulo + kCreceFicha;
     switch (asiento) {

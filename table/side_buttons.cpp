@@ -15,8 +15,12 @@ constexpr int kBandaRotulo =
 constexpr int kLargoZona = 250;
 // Before the bank lies the pile: the buttons stand on both sides of it, 38 and more further apart.
 constexpr int kMitadMazo = 56, kMitadMazoAlto = 84;
-constexpr int kMitadApuesta = 36; // of the chips that lie in the middle before the seat
+constexpr int kMitadApuesta = 49; // of the chips that lie in the middle before the seat
 constexpr Fuente kLetraBoton{.alto = 12, .negrita = true, .tope = 84};
+
+bool EsBanca(int asiento) {
+    return estado.JuegoConBanca && asiento == estado.JugadorBanca;
+}
 
 // A control of ancho by alto on the inner side of the seat's zone, a lo largo pixels along its edge.
 Rectangulo JuntoAlAsiento(int asiento, int a_lo_largo, int adentro, int ancho, int alto) {
@@ -52,10 +56,13 @@ void Pon(Control control, int indice, const Rectangulo& donde, const lamina::Rec
     p.Repinta();
 }
 
-bool TieneMazoDelante(int asiento) {
-    if (JuegoEnMesa().pintura.mazos_a_los_lados && AsientoLateral(asiento))
-        return true;
+bool EsBanca(int asiento) {
     return estado.JuegoConBanca && asiento == estado.JugadorBanca;
+}
+
+bool TieneMazoDelante(int asiento) {
+    return EsBanca(asiento) ||
+           (JuegoEnMesa().pintura.mazos_a_los_lados && AsientoLateral(asiento));
 }
 
 // Along the zone's edge to Pic_BotSuperior(index): the two stand on both sides of the zone's middle.
@@ -117,7 +124,7 @@ Integer SerieALaVista(int asiento) {
 
 void MostrarPuntos(int asiento) {
     Traza("MostrarPuntos", asiento);
-    constexpr int kPlaca = 4;
+    constexpr int kPlaca = 4, kDeLaEsquina = 8;
     const lamina::Recorte& placa = lamina::kPlacaTantos;
     const FilaJuego& juego = JuegoEnMesa();
     if (juego.pintura.puntos == nullptr)
@@ -132,8 +139,8 @@ void MostrarPuntos(int asiento) {
     const bool vertical = AsientoLateral(asiento);
     const int a_lo_largo = vertical ? -kSeparacion - placa.alto : kLargoZona + kSeparacion;
     Pon(Control::Pic_Tantos, asiento,
-        JuntoAlAsiento(asiento, a_lo_largo, vertical ? -placa.ancho : -placa.alto, placa.ancho,
-                       placa.alto),
+        JuntoAlAsiento(asiento, a_lo_largo, vertical ? -placa.ancho - kDeLaEsquina : -placa.alto,
+                       placa.ancho, placa.alto),
         placa, "", "Puntos de " + estado.NombreJugador(asiento));
     if (plataforma().HayPantalla()) {
         plataforma()

@@ -29,9 +29,6 @@ std::string TextoGana(Integer ganador, const std::string& que);
 
 // The end of a hand, told: a pause, the dialog "Final de la mano" and the wait. False when the match was left.
 [[nodiscard]] bool CuentaFinalMano(const std::string& texto);
-// The wait on "Continuar" before the next hand, or a pause of 500 when no seat is manual and no pause between moves is
-// wanted. False when the match was left.
-[[nodiscard]] bool EsperaOtraMano();
 
 // The wait on "Continuar" between two hands; a pause of 500 instead when no seat is manual and no pause between moves is
 // wanted. False when the match was left.

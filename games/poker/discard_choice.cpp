@@ -4,7 +4,6 @@
 
 #include "betting/phases.h"
 #include "core/game_state.h"
-#include "games/common/trick_values.h"
 #include "games/poker/discard_target.h"
 #include "games/poker/hand_layout.h"
 #include "games/poker/hand_reading.h"

@@ -2,7 +2,6 @@
 
 #include "core/game_state.h"
 #include "core/text.h"
-#include "games/common/trick_values.h"
 #include "games/poker/poker_state.h"
 
 namespace {

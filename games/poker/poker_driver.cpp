@@ -97,6 +97,7 @@ void DescubreManos() {
     case Paso::Abandonada:
         return false;
     case Paso::Nula:
+        estado.ManoEnCurso = false;
         ApuntaMano();
         return true;
     default:
@@ -118,6 +119,7 @@ void ManoPoker() {
 
 void PonApuestaDeSalida() {
     apuestas.FaseApuesta = kFaseSalida;
+    RedibujaBote(); // the last hand may have left it
     Integer asiento = estado.JugadorMano;
     for (int turno = 1; turno <= 4; ++turno) {
         if (const Integer cantidad = LoQuePoneDeSalida(asiento); cantidad > 0)

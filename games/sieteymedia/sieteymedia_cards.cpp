@@ -6,7 +6,6 @@
 #include "core/numeric.h"
 #include "core/random.h"
 #include "games/common/series.h"
-#include "games/common/trick_values.h"
 #include "games/sieteymedia/sieteymedia_decision.h"
 #include "table/deck.h"
 #include "table/flight.h"

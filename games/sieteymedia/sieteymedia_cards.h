@@ -2,7 +2,6 @@
 // The cards of Siete y media: the covered one, the Four that may be changed, and what counts seven and a half.
 
 #include "core/tabla.h"
-#include "games/common/trick_values.h"
 
 // Seven and a half, and whether a seat's serie (1..4) stands there or beyond.
 inline constexpr float kSieteYMediaJusto = 7.5F;

@@ -12,7 +12,6 @@
 #include "games/common/bank_decision.h"
 #include "games/common/series.h"
 #include "games/common/trick_state.h"
-#include "games/common/trick_values.h"
 
 namespace {
 

@@ -8,6 +8,7 @@
 #include "core/numeric.h"
 #include "core/text.h"
 #include "games/common/bank_hands.h"
+#include "games/common/hands.h"
 #include "games/common/money_hands.h"
 #include "games/common/series.h"
 #include "games/sieteymedia/sieteymedia_cards.h"

@@ -4,7 +4,6 @@
 #include "core/game_state.h"
 #include "games/common/series.h"
 #include "games/common/series_view.h"
-#include "games/common/trick_values.h"
 #include "games/sieteymedia/sieteymedia_cards.h"
 #include "table/controls.h"
 #include "table/messages.h"

@@ -7,7 +7,6 @@
 #include "games/common/money_hands.h"
 #include "games/common/series.h"
 #include "games/common/series_view.h"
-#include "games/common/trick_values.h"
 #include "games/sieteymedia/sieteymedia.h"
 #include "games/sieteymedia/sieteymedia_cards.h"
 #include "games/sieteymedia/sieteymedia_input.h"

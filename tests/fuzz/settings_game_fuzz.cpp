@@ -5,7 +5,6 @@
 #include <cstdlib>
 #include <iterator>
 
-#include "games/common/trick_values.h"
 #include "tests/support/settings_files.h"
 #include "tests/support/valid_settings.h"
 

@@ -9,7 +9,6 @@
 #include "core/text.h"
 #include "forms/form.h"
 #include "forms/spin.h"
-#include "games/common/trick_values.h"
 #include "table/deck.h"
 #include "table/pending_rules.h"
 #include "tests/support/open_forms.h"

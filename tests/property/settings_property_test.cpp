@@ -5,7 +5,6 @@
 
 #include "betting/bet_state.h"
 #include "core/text.h"
-#include "games/common/trick_values.h"
 #include "storage/between_hands.h"
 #include "storage/settings_repair.h"
 #include "tests/support/settings_files.h"

@@ -5,7 +5,7 @@
 #include "betting/bet_state.h"
 #include "betting/chips.h"
 #include "betting/phases.h"
-#include "games/common/trick_values.h"
+#include "games/common/trick_state.h"
 
 namespace prueba {
 

@@ -5,7 +5,6 @@
 
 #include "core/game_state.h"
 #include "games/common/series.h"
-#include "games/common/trick_values.h"
 #include "tests/support/trick_hands.h"
 
 namespace prueba {

@@ -1,6 +1,5 @@
 // The reading of a hand by its rules as they are told: every start of a straight, every step.
 
-#include "games/common/trick_values.h"
 #include "games/poker/hand_layout.h"
 #include "tests/support/plain_poker.h"
 

@@ -2,7 +2,6 @@
 
 #include "core/random.h"
 #include "core/session_state.h"
-#include "games/common/trick_values.h"
 #include "games/sieteymedia/sieteymedia.h"
 #include "table/bet_board.h"
 #include "table/trace.h"

@@ -1,7 +1,6 @@
 #include "tests/support/trick_hands.h"
 
 #include "games/common/trick_state.h"
-#include "games/common/trick_values.h"
 
 #include <string>
 

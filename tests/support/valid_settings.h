@@ -8,7 +8,6 @@
 #include "betting/chips.h"
 #include "core/game_state.h"
 #include "core/text.h"
-#include "games/common/trick_values.h"
 
 namespace prueba {
 

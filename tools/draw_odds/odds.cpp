@@ -13,6 +13,8 @@
 #include "core/game_state.h"
 #include "core/numeric.h"
 #include "core/text.h"
+#include "games/common/hands.h"
+#include "games/poker/hand_layout.h"
 #include "games/poker/hand_reading.h"
 #include "games/poker/hand_tally.h"
 #include "table/deck.h"

@@ -7,6 +7,7 @@
 #include "tools/simula/bank_invariants.h"
 #include "tools/simula/blackjack_invariants.h"
 #include "tools/simula/cinquillo_invariants.h"
+#include "tools/simula/poker_invariants.h"
 #include "tools/simula/sieteymedia_invariants.h"
 #include "tools/simula/trick_invariants.h"
 
@@ -20,6 +21,7 @@ struct Revision {
 };
 
 constexpr Revision kRevisiones[] = {
+    {kPoker, RevisaManoPoker, RevisaPartidaPoker, RevisaPasoPoker},
     {kBlackJack, RevisaManoBlackJack, RevisaPartidaBlackJack, RevisaPasoBlackJack},
     {kTute, RevisaManoBazas, RevisaPartidaBazas},
     {kBrisca, RevisaManoBazas, RevisaPartidaBazas},

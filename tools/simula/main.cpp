@@ -39,6 +39,14 @@ void PonOpciones(CLI::App& app, OpcionesSimula& opciones) {
                  "los asientos manuales pulsan antes lo que sea");
     app.add_option("--resto", opciones.resto, "resto inicial en los juegos con dinero");
     app.add_option("--maxima", opciones.maxima, "apuesta máxima en los juegos con dinero");
+    app.add_option("--baraja", opciones.baraja, "Póker: 1 completa, 2 a 6 desde el 3 al 7")
+        ->check(CLI::Range(1, 6));
+    app.add_option("--comodines", opciones.comodines, "Póker: 1 ninguno, 2 uno, 3 dos")
+        ->check(CLI::Range(1, 3));
+    app.add_option("--ley", opciones.ley, "Póker: ley de apertura, 14 ninguna")
+        ->check(CLI::Range(1, 14));
+    app.add_option("--salida", opciones.salida, "Póker: apuesta de salida")
+        ->check(CLI::Range(1, 999));
     app.add_option("--procesos", opciones.procesos, "procesos a la vez; 0, uno por núcleo")
         ->capture_default_str();
     app.add_flag("--firma", opciones.firma, "un número sobre todo lo decidido");

@@ -12,7 +12,6 @@
 #include "session/main_buttons.h"
 #include "session/match_driver.h"
 #include "session/state_blocks.h"
-#include "storage/settings_limits.h"
 #include "table/button_column.h"
 #include "table/chips.h"
 #include "table/deck.h"
@@ -90,6 +89,24 @@ void PonDinero(const OpcionesSimula& opciones) {
         estado.ApuestaMaxima = static_cast<Integer>(opciones.maxima);
 }
 
+void PonRegla(Integer& regla, int pedida, int hasta, bool al_azar) {
+    if (pedida > 0)
+        regla = static_cast<Integer>(pedida);
+    else if (al_azar)
+        regla = static_cast<Integer>(AzarEntre(hasta));
+}
+
+// Rules of the deck and of the opening, for the games whose form has them.
+void PonReglas(const OpcionesSimula& opciones) {
+    const auto& reglas = FilaDe(static_cast<Integer>(opciones.juego))->normas.reglas;
+    if (std::ranges::find(reglas, Regla::Baraja) == reglas.end())
+        return;
+    PonRegla(estado.CartasBaraja, opciones.baraja, 6, opciones.azar);
+    PonRegla(estado.ComodinesJuego, opciones.comodines, 3, opciones.azar);
+    PonRegla(estado.LeyApertura, opciones.ley, 14, opciones.azar);
+    PonRegla(estado.ApuestaSalida, opciones.salida, 0, false);
+}
+
 bool TurnoManual() {
     return estado.EsperandoJugada && estado.ManoEnCurso &&
            estado.ControlJugador(estado.JugadorActual) == kManual;
@@ -133,8 +150,12 @@ MesaSimulada::MesaSimulada(void (*al_acabar_mano)(), void (*al_pasar)())
 }
 
 Boton MesaSimulada::Pregunta(const CajaMensaje& caja) {
-    // Some games have more to say at the end of a hand, under the same title.
-    if (mano_en_curso_ && !estado.ManoEnCurso && caja.titulo == "Final de la mano") {
+    // Some games have more to say at the end of a hand, under the same title. A hand of Póker that is void is over
+    // without a showdown.
+    if (caja.titulo == "Fin de la mano") {
+        mano_en_curso_ = false;
+        ++manos;
+    } else if (mano_en_curso_ && !estado.ManoEnCurso && caja.titulo == "Final de la mano") {
         mano_en_curso_ = false;
         ++manos;
         al_acabar_mano_();
@@ -160,6 +181,10 @@ Simulacion::Simulacion(const OpcionesSimula& opciones)
     Pide(SonDeAsientos(opciones.caracteres, 1, 3), "los caracteres son cuatro, de 1 a 3");
     Pide(opciones.sentido == 1 || opciones.sentido == 2, "el sentido es 1 o 2");
     Pide(opciones.asientos >= 2 && opciones.asientos <= 4, "los asientos son de 2 a 4");
+    Pide(opciones.baraja >= 0 && opciones.baraja <= 6, "las barajas son de 1 a 6");
+    Pide(opciones.comodines >= 0 && opciones.comodines <= 3, "los comodines son de 1 a 3");
+    Pide(opciones.ley >= 0 && opciones.ley <= 14, "la ley de apertura va de 1 a 14");
+    Pide(opciones.salida >= 0 && opciones.salida <= 999, "la apuesta de salida va de 1 a 999");
     Pide(opciones.limite >= 1 && opciones.limite <= 999, "el límite va de 1 a 999");
     Pide(!opciones.parejas || opciones.asientos == 4, "las parejas son de cuatro asientos");
     const FilaJuego* juego = FilaDe(static_cast<Integer>(opciones.juego));
@@ -198,6 +223,7 @@ void Simulacion::PreparaPartida(std::int64_t n) {
         SientaAlAzar();
     RepartePersonas(opciones_.personas || opciones_.caprichos);
     PonDinero(opciones_);
+    PonReglas(opciones_);
     mesa_.caprichos = opciones_.caprichos;
     for (int asiento = 1; asiento <= 4; ++asiento) {
         const auto i = static_cast<std::size_t>(asiento - 1);

@@ -23,6 +23,9 @@ struct OpcionesSimula {
     bool caprichos = false;
     // In the games with money: RestoInicial and ApuestaMaxima; 0 for the default ones, or by chance with azar.
     int resto = 0, maxima = 0;
+    // In the games that have them: CartasBaraja, ComodinesJuego, LeyApertura and ApuestaSalida; 0 for the default ones, or
+    // by chance with azar (of the ante, by which every match ends: the default one).
+    int baraja = 0, comodines = 0, ley = 0, salida = 0;
     int procesos = 0; // 0: as many as the machine has cores
     bool firma = false;
     bool revisa = true; // what must hold, at the end of each hand and of each match

@@ -1,16 +1,18 @@
 #include "tools/table_states/states.h"
 
 #include <array>
+#include <initializer_list>
 #include <string>
 
 #include "betting/bet_state.h"
 #include "betting/chips.h"
+#include "betting/phases.h"
 #include "core/game_state.h"
 #include "games/common/trick_state.h"
 #include "platform/platform.h"
 #include "session/state_blocks.h"
+#include "table/bet_board.h"
 #include "table/button_column.h"
-#include "table/chips.h"
 #include "table/deck.h"
 #include "table/drawing.h"
 #include "table/game_row.h"
@@ -243,14 +245,68 @@ void PonChips() {
         AsignarResto(asiento, kRestos[asiento]);
 }
 
-void Fichas(int) {
+// A bet of a seat on its first serie, chip by chip.
+void Apuestan(Integer asiento, std::initializer_list<Integer> fichas) {
+    for (const Integer d : fichas) {
+        ++apuestas.NumFichasPuestas(asiento, 1);
+        apuestas.FichasPuestas(asiento, 1, apuestas.NumFichasPuestas(asiento, 1)) = d;
+        apuestas.Apuesta(asiento, 1, kFaseApuestas) += ValorDe(d);
+    }
+}
+
+// Póker in its first round: nothing to meet yet, a bet to meet, more than the seat has, chips placed.
+void Poker(int vez) {
     PonPartida(kPoker);
     PonChips();
-    for (Integer asiento = 1; asiento <= 4; ++asiento)
-        PonCartas(asiento, 5, 9 * asiento, kDescubierta);
-    RedibujaAsientos();
-    for (int area = 4; area <= 14; ++area)
-        PintarFichas(area % 5, area);
+    for (Integer asiento = 1; asiento <= 4; ++asiento) {
+        PonCartas(asiento, 5, 9 * asiento, asiento == 4 ? kDescubierta : kDorso);
+        apuestas.Apuesta(asiento, 1, kFaseSalida) = 5;
+        if (vez > 1)
+            apuestas.Apuesta(asiento, 1, kFasePrimeraRonda) = static_cast<Integer>(15 * asiento);
+    }
+    estado.ControlJugador(4) = kManual;
+    estado.NombreJugador(4) = kNombreLargo;
+    apuestas.FaseApuesta = kFasePrimeraRonda;
+    apuestas.MaximaApuesta = static_cast<Integer>(vez == 1 ? 0 : 125);
+    apuestas.ApuestaEnCurso = static_cast<Integer>(vez == 4 ? 60 : 0);
+    if (vez == 3)
+        AsignarResto(4, 40);
+    estado.RotuloSerie(1, 1) = "No voy";
+    estado.ColorRotulo(1, 1) = kCian;
+    DibujarMazo(estado.MazoX, estado.MazoY, 32);
+    RedibujarMesa();
+    MuestraApostadora();
+    PedirContinuar(1);
+    MostrarSugerencia(3);
+    if (vez == 2)
+        EstadoBoton(Control::Pic_APBotIgualar, 2, 2);
+}
+
+// Bets in the games with a bank, each seat as the bank, and Black Jack: few chips, one of each, a high stack.
+void Apuestas(int vez) {
+    estado.JugadorBanca = static_cast<Integer>(vez > 4 ? 2 : vez);
+    PonPartida(vez > 4 ? kBlackJack : kSieteYMedia);
+    PonChips();
+    DibujarMazo(estado.MazoX, estado.MazoY, 30);
+    Apuestan(1, {4, 3});
+    Apuestan(2, {6, 5, 4, 3, 2, 1});
+    Apuestan(3, {5, 5, 5, 5, 5, 5, 5, 5, 1});
+    Apuestan(4, {5, 3, 2});
+    for (Integer cual = 1; cual <= 4; ++cual) {
+        PonCartas(cual, 2, 4 * cual, kDescubierta);
+        MostrarPuntos(cual);
+    }
+    estado.JugadorActual = 4;
+    apuestas.FaseApuesta = kFaseApuestas;
+    apuestas.ApuestaEnCurso = 27;
+    RedibujarMesa();
+    MuestraApostadora();
+    for (int indice = 1; indice <= 2; ++indice)
+        BotonSuperior(4, 1, indice);
+    if (vez > 4)
+        BotonDobSeg(4, 1, "D o b l a r");
+    PedirContinuar(1);
+    MostrarSugerencia(21);
 }
 
 // What stands beside the seats in the games with a bank: each seat on its turn, as a player and as the bank, its
@@ -423,7 +479,8 @@ const std::vector<Estampa>& Estampas() {
         {"mazo", Mazo, static_cast<int>(kAlturasMazo.size()), TrozoMazo},
         {"vuelo", Vuelo},
         {"ganador", Ganador},
-        {"fichas", Fichas},
+        {"poker", Poker, 4},
+        {"apuestas", Apuestas, 5},
         {"banca", Banca, 16},
         {"cifras", Cifras, 1, TrozoCifras},
         {"sugerencia", Sugerencia, static_cast<int>(Consejos().size()), TrozoSugerencia},

@@ -3,7 +3,6 @@
 #include "betting/bet_state.h"
 #include "betting/money_repair.h"
 #include "core/default_settings.h"
-#include "games/common/trick_values.h"
 
 #include <gmock/gmock.h>
 

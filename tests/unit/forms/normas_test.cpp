@@ -3,7 +3,6 @@
 #include "betting/bet_state.h"
 #include "forms/normas.h"
 #include "forms/refresh.h"
-#include "games/common/trick_values.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

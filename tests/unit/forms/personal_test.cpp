@@ -2,7 +2,6 @@
 
 #include "forms/personal.h"
 #include "forms/refresh.h"
-#include "games/common/trick_values.h"
 #include "table/deck.h"
 
 #include <gmock/gmock.h>

@@ -7,7 +7,6 @@
 #include "betting/bet_state.h"
 #include "core/default_settings.h"
 #include "core/game_state.h"
-#include "games/common/trick_values.h"
 #include "table/game_row.h"
 
 namespace {

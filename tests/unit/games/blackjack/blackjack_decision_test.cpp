@@ -1,5 +1,4 @@
 #include "games/blackjack/blackjack_decision.h"
-#include "games/common/trick_values.h"
 
 #include <gtest/gtest.h>
 

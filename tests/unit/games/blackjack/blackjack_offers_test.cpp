@@ -1,6 +1,5 @@
 #include "betting/bet_state.h"
 #include "games/blackjack/blackjack_offers.h"
-#include "games/common/trick_values.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,6 @@
 // The hand in the order in which it is read.
 
+#include "games/poker/hand_layout.h"
 #include "games/poker/hand_order.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,7 @@
 // The order number, the name of a hand, and the tables of the deck.
 
+#include "games/poker/combinations.h"
+#include "games/poker/hand_text.h"
 #include "games/poker/hand_value.h"
 
 #include <gtest/gtest.h>

@@ -64,12 +64,12 @@ TEST_F(CartasSiete, DestapaSerieDejaAbiertasTodasSusCartas) {
 }
 
 TEST_F(CartasSiete, DestapaSerieConCeroDestapaATodos) {
-    for (Integer asiento : {1, 2, 4})
+    for (const Integer asiento : std::initializer_list<Integer>{1, 2, 4})
         PonSerieTapada(asiento, 1, {{kOros, asiento}});
     PonSerieTapada(4, 2, {{kCopas, 4}});
     EmpiezaTraza();
     DestapaSerie(0, 1);
-    for (Integer asiento : {1, 2, 4})
+    for (const Integer asiento : std::initializer_list<Integer>{1, 2, 4})
         EXPECT_EQ(estado.Mano(asiento, 1, 1, kTapada), 0) << asiento;
     EXPECT_EQ(estado.Mano(4, 2, 1, kTapada), kTapadaSi);
     EXPECT_THAT(TrazaDe("RedibujarAsiento"), SizeIs(3));

@@ -167,7 +167,7 @@ TEST_F(FinalSiete, ConLaBancaPasadaLaCantadaTambienTomaLaBanca) {
 }
 
 TEST_F(FinalSiete, QuienCantaNoTomaLaBancaSiSoloElTieneFondos) {
-    for (Integer asiento : {1, 2, 4})
+    for (const Integer asiento : std::initializer_list<Integer>{1, 2, 4})
         Tiene(asiento, 0);
     Tiene(2, 15);
     TieneLaBanca(kSeis);
