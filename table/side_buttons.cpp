@@ -18,10 +18,6 @@ constexpr int kMitadMazo = 56, kMitadMazoAlto = 84;
 constexpr int kMitadApuesta = 49; // of the chips that lie in the middle before the seat
 constexpr Fuente kLetraBoton{.alto = 12, .negrita = true, .tope = 84};
 
-bool EsBanca(int asiento) {
-    return estado.JuegoConBanca && asiento == estado.JugadorBanca;
-}
-
 // A control of ancho by alto on the inner side of the seat's zone, a lo largo pixels along its edge.
 Rectangulo JuntoAlAsiento(int asiento, int a_lo_largo, int adentro, int ancho, int alto) {
     const Rectangulo zona = ZonaDe(asiento);
@@ -61,8 +57,7 @@ bool EsBanca(int asiento) {
 }
 
 bool TieneMazoDelante(int asiento) {
-    return EsBanca(asiento) ||
-           (JuegoEnMesa().pintura.mazos_a_los_lados && AsientoLateral(asiento));
+    return EsBanca(asiento) || (JuegoEnMesa().pintura.mazos_a_los_lados && AsientoLateral(asiento));
 }
 
 // Along the zone's edge to Pic_BotSuperior(index): the two stand on both sides of the zone's middle.
