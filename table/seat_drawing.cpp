@@ -220,8 +220,6 @@ void RedibujarAsiento(int asiento) {
 
 void ResaltarAsiento() {
     Traza("ResaltarAsiento");
-    if (estado.JuegoConBanca)
-        MostrarPuntos(estado.JugadorActual);
     for (int vez = 0; vez < 2; ++vez) {
         if (plataforma().HayPantalla()) {
             LimpiaZona(estado.JugadorActual);

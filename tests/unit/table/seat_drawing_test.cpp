@@ -123,7 +123,8 @@ TEST_F(AsientoEnMesa, ResaltarEnsenaLosTantosSoloConBanca) {
     EXPECT_TRUE(TrazaDe("MostrarPuntos").empty());
     Juega(kSieteYMedia);
     ResaltarAsiento();
-    EXPECT_EQ(TrazaDe("MostrarPuntos"), (std::vector<std::string>{"MostrarPuntos(1)"}));
+    EXPECT_EQ(TrazaDe("MostrarPuntos"),
+              (std::vector<std::string>{"MostrarPuntos(1)", "MostrarPuntos(1)"}));
 }
 
 TEST_F(AsientoEnMesa, LosNombresSonLosDeQuienJuega) {

@@ -105,6 +105,7 @@ TEST_F(BotonesDeAsiento, UnMarcoTieneDosExtremosYSuTira) {
 }
 
 TEST_F(BotonesDeAsiento, LaPlacaDeTantosSoloSaleDondeSeCuenta) {
+    PonMano(4, {{kOros, 5}});
     MostrarPuntos(4);
     EXPECT_TRUE(p.EstaVisible(Control::Pic_Tantos, 4));
     Juega(kCinquillo);
@@ -112,7 +113,37 @@ TEST_F(BotonesDeAsiento, LaPlacaDeTantosSoloSaleDondeSeCuenta) {
     EXPECT_FALSE(p.EstaVisible(Control::Pic_Tantos, 3));
 }
 
+TEST_F(BotonesDeAsiento, SinTantosYParaLaBancaSinTurnoNoHayPlaca) {
+    Juega(kBlackJack);
+    estado.JugadorBanca = 2;
+    estado.JugadorActual = 4;
+    PonMano(2, {{kOros, 5}});
+    for (const int asiento : {2, 4}) {
+        MostrarPuntos(asiento);
+        EXPECT_FALSE(p.EstaVisible(Control::Pic_Tantos, asiento)) << "asiento " << asiento;
+    }
+    estado.JugadorActual = 2;
+    MostrarPuntos(2);
+    EXPECT_TRUE(p.EstaVisible(Control::Pic_Tantos, 2));
+    PonMano(2, {});
+    MostrarPuntos(2);
+    EXPECT_FALSE(p.EstaVisible(Control::Pic_Tantos, 2));
+}
+
+TEST_F(BotonesDeAsiento, FueraDeSuTurnoUnAsientoEnsenaSuUltimaSerie) {
+    Juega(kBlackJack);
+    estado.JugadorActual = 4;
+    estado.SeriesJugador(1) = 3;
+    estado.SeriesJugador(4) = 3;
+    estado.SerieActual = 2;
+    EXPECT_EQ(SerieALaVista(1), 3);
+    EXPECT_EQ(SerieALaVista(4), 2);
+    Juega(kPoker);
+    EXPECT_EQ(SerieALaVista(1), estado.SerieActual);
+}
+
 TEST_F(BotonesDeAsiento, ConOtroTamanoLaPlacaDeTantosSigueAsuAsiento) {
+    PonMano(3, {{kOros, 5}});
     MostrarPuntos(3);
     const Rectangulo antes = Donde(Control::Pic_Tantos, 3);
     p.Mide(1000, 700);
