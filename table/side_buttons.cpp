@@ -18,10 +18,6 @@ constexpr int kMitadMazo = 56, kMitadMazoAlto = 84;
 constexpr int kMitadApuesta = 49; // of the chips that lie in the middle before the seat
 constexpr Fuente kLetraBoton{.alto = 12, .negrita = true, .tope = 84};
 
-bool EsBanca(int asiento) {
-    return estado.JuegoConBanca && asiento == estado.JugadorBanca;
-}
-
 // A control of ancho by alto on the inner side of the seat's zone, a lo largo pixels along its edge.
 Rectangulo JuntoAlAsiento(int asiento, int a_lo_largo, int adentro, int ancho, int alto) {
     const Rectangulo zona = ZonaDe(asiento);
