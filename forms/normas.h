@@ -15,6 +15,7 @@ namespace normas {
 
 // Opening: remembers the game in force and marks its line.
 void Abre();
+// Between Abre and Cierra or Deja.
 bool Abierta();
 
 // The exit button: every spin is brought into its range.
@@ -31,6 +32,7 @@ Integer JuegoMarcado();
 
 // The selectors and spins of the active game, in their order from the top of the form.
 std::vector<int> Controles();
+// It is one of them.
 bool SeVe(int control);
 
 // A press on a selector: sound 6, the next value, and what that entails.

@@ -19,6 +19,7 @@ inline constexpr int kLetrasNombre = 9;
 
 // Opening: remembers which seats are active.
 void Abre();
+// Between Abre and Cierra or Deja.
 bool Abierta();
 
 // The exit button: asks what is to be asked, brings the seats into force and the table up to date. False: the
@@ -37,9 +38,11 @@ bool SeEscribeNombre(Integer asiento);
 void PulsaSelector(int control);
 // A click on a check box: the setting is inverted, sound 25.
 void PulsaBuleano(int control);
+// Whether it is checked.
 bool Buleano(int control);
 // The knob of a slider stands at valor, brought into 0..100.
 void Desliza(int control, int valor);
+// Where it stands.
 int Potenciometro(int control);
 // What the slider shows: a level as 0.0 to 10.0, the speed as a whole number.
 std::string TextoPotenciometro(int control);

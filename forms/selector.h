@@ -15,6 +15,7 @@ inline constexpr int kSelEstado = 10, kSelCartas = 20, kSelControl = 24, kSelCar
 inline constexpr int kSelReparto = 1, kSelLey = 2, kSelComodines = 3, kSelModalidad = 4,
                      kSelBaraja = 5, kSelSentido = 8, kSelVentana = 9;
 
+// Some form has a selector of that number.
 bool EsSelector(int control);
 // kSelEstado, ... of a seat's selector, the control itself of any other.
 int ClaseDe(int control);

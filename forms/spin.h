@@ -16,6 +16,7 @@ struct SpinDeTrabajo {
 };
 extern SpinDeTrabajo spin;
 
+// 21..24, the numbers of the spins.
 bool EsSpin(int indice);
 // "Resto inicial...:" and so on; empty for an index that is none.
 const char* RotuloSpin(int indice);

@@ -176,7 +176,8 @@ public:
     virtual void Ayuda(int tema) = 0; // 0 opens the help at its start
     virtual void Minimiza() = 0;
 
-    // False where nobody will ever go on with a match: it is then not written between hands.
+    // False where nobody will ever go on with a match, and where another copy of the program keeps its own in the same
+    // files: nothing is then written to them.
     virtual bool GuardaPartidas() const { return true; }
 
     // False where the game goes on without the data files that come with the program.

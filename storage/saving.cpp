@@ -20,25 +20,26 @@ void CuentaFallo(const std::string& fichero) {
     Mensaje("Error al guardar los datos", texto, LineasDe(texto), 1);
 }
 
-bool GuardaGeneral() {
-    const bool hecho = GrabarIniGeneral() == ErrorArchivo::Ninguno;
+bool Guarda(ErrorArchivo (*graba)(), const std::string& fichero) {
+    if (!plataforma().GuardaPartidas())
+        return true;
+    const bool hecho = graba() == ErrorArchivo::Ninguno;
     if (!hecho)
-        CuentaFallo(kIniGeneral);
+        CuentaFallo(fichero);
     return hecho;
 }
 
+bool GuardaGeneral() {
+    return Guarda(GrabarIniGeneral, kIniGeneral);
+}
+
 bool GuardaJuego() {
-    const bool hecho = GrabarIniJuego() == ErrorArchivo::Ninguno;
-    if (!hecho)
-        CuentaFallo(NombreIniJuego(estado.JuegoActivo));
-    return hecho;
+    return Guarda(GrabarIniJuego, NombreIniJuego(estado.JuegoActivo));
 }
 
 } // namespace
 
 bool GuardarPartida() {
-    if (!plataforma().GuardaPartidas())
-        return true;
     const bool general = GuardaGeneral();
     return GuardaJuego() && general;
 }

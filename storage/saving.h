@@ -11,5 +11,5 @@ bool GuardarPartida();
 void AnulaMano();
 
 // Another game: the file of the one that is left is written, JuegoActivo takes the new id, the general file is
-// written. Failures are told as above.
+// written. Failures are told as above; a platform that keeps no matches writes neither.
 void GuardarYCambiar(Integer juego);

@@ -96,6 +96,8 @@ void Rehaz(const std::string& nombre, const std::string& rotulo, int error,
            ErrorArchivo (*graba)()) {
     estado.FicheroNuevo = true;
     Avisa(nombre, rotulo, error);
+    if (!plataforma().GuardaPartidas())
+        return;
     ApartaDanado(nombre, error);
     // Where nothing can be written the next save says so; here one message is enough.
     static_cast<void>(graba());

@@ -11,6 +11,7 @@ void PintaColumna();
 // A main button 1..8: enabled with the pointer ManoIndice, or disabled with the no-drop pointer. A button
 // whose form is missing stays disabled.
 void HabilitaBoton(int indice, bool habilitado);
+// Whether it is enabled.
 bool BotonHabilitado(int indice);
 
 // Pic_BotContinuar with its caption, kind 1 up or 2 pressed, and hidden. They write EsperandoJugada.

@@ -27,11 +27,12 @@ inline constexpr int kCreceFicha = kGruesoFicha * (kFichasALaVista - 1);
 // The areas of PosFicha: 0 the stack of seat 1, 8 the chips that it has bet, and so on for the others; 13 the pot.
 inline constexpr int kAreaRestos = 0, kAreaApuestas = 8, kAreaBote = 13;
 
-// Where the seat's played card lands in the centre.
+// A place on the table, in pixels from its upper left corner.
 struct Punto {
     int x = 0, y = 0;
     friend bool operator==(const Punto&, const Punto&) = default;
 };
+// Where the seat's played card lands in the centre: its upper left corner.
 Punto LugarCentro(int asiento);
 
 // Seats 1 and 3 sit at the sides: their cards lie, their words stand in columns.

@@ -57,8 +57,7 @@ bool EsBanca(int asiento) {
 }
 
 bool TieneMazoDelante(int asiento) {
-    return EsBanca(asiento) ||
-           (JuegoEnMesa().pintura.mazos_a_los_lados && AsientoLateral(asiento));
+    return EsBanca(asiento) || (JuegoEnMesa().pintura.mazos_a_los_lados && AsientoLateral(asiento));
 }
 
 // Along the zone's edge to Pic_BotSuperior(index): the two stand on both sides of the zone's middle.

@@ -5,6 +5,7 @@
 
 inline constexpr int kPasoColumna = 29, kHuecoReparto = 3;
 
+// From one row to the next. Reads AltoMiniCarta.
 inline int PasoFila() {
     return estado.AltoMiniCarta + 2;
 }

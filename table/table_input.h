@@ -7,8 +7,12 @@
 // True when place CartaBajoCursor of JugadorActual may be played now.
 bool CartaLegal();
 
+// The pointer moves over the table, in its pixels: what lies under it takes its shape, what is dragged follows.
 void Form_MouseMove(int x, int y);
+// A button (1 left, 2 right) goes down. The left one does what the pointer's shape says: takes a card of a manual deal
+// or of a hand that is put in order, or chooses one to play. Writes RatonX, RatonY, BotonRaton.
 void Form_MouseDown(int boton, int x, int y);
+// It comes up: a card of a hand is laid down where it is, one of a manual deal that no seat has taken goes back.
 void Form_MouseUp();
 // The click that a release ends in. It is where the button went down (RatonX, RatonY, BotonRaton), wherever the pointer
 // has gone since.

@@ -9,4 +9,5 @@ struct Consejo {
     const char* texto; // 145 characters
 };
 
+// All of them, by indice.
 const std::vector<Consejo>& Consejos();

@@ -17,7 +17,9 @@ inline bool HayTraza();
 
 namespace traza_detalle {
 extern bool activa;
+// Hands a finished line to who listens.
 void Emite(const std::string& linea);
+// Adds an argument as it is told: a text in quotes, a number bare.
 void Pon(std::string& linea, std::string_view texto);
 void Pon(std::string& linea, long long numero);
 inline void Pon(std::string& linea, const char* texto) {

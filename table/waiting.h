@@ -3,8 +3,9 @@
 
 #include "platform/platform.h"
 
-// Who handles an event: set once by the match driver.
+// Who handles an event.
 using Despacho = void (*)(const Evento&);
+// Set once, by whoever starts the program.
 void RegistraDespacho(Despacho despacho);
 
 // Asks for the exit when the window was closed while it was disabled and it is enabled by now.

@@ -3,4 +3,5 @@
 
 struct FilaJuego;
 
+// Black Jack, for the list in games/game_rows.cpp.
 const FilaJuego& FilaBlackJack();

@@ -3,4 +3,5 @@
 
 struct FilaJuego;
 
+// Cinquillo, for the list in games/game_rows.cpp.
 const FilaJuego& FilaCinquillo();

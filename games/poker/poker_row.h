@@ -3,4 +3,5 @@
 
 struct FilaJuego;
 
+// Póker, for the list in games/game_rows.cpp.
 const FilaJuego& FilaPoker();

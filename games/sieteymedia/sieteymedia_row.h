@@ -3,4 +3,5 @@
 
 struct FilaJuego;
 
+// Siete y media, for the list in games/game_rows.cpp.
 const FilaJuego& FilaSieteYMedia();

@@ -45,6 +45,7 @@ struct VistaTurno {
     Integer asiento_mejor = 0;
     Currency puntos_rivales, puntos_pareja; // on the table
 };
+// What JugadorActual sees now. Reads the state only.
 VistaTurno MiraTurno();
 
 // The card of JugadorActual at a place of the hand, and at a place of CartasJugables.

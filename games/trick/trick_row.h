@@ -3,5 +3,6 @@
 
 struct FilaJuego;
 
+// Tute and Brisca, for the list in games/game_rows.cpp.
 const FilaJuego& FilaTute();
 const FilaJuego& FilaBrisca();

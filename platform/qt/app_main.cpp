@@ -11,6 +11,7 @@
 #include <cstdio>
 #include <cstring>
 #include <exception>
+#include <string>
 #ifdef __GLIBC__
 #include <malloc.h>
 #endif
@@ -18,10 +19,12 @@
 #include "forms/normas_view.h"
 #include "forms/personal_view.h"
 #include "platform/qt/demo.h"
+#include "platform/qt/folder_lock.h"
 #include "platform/qt/places.h"
 #include "platform/qt/platform_qt.h"
 #include "platform/qt/termination.h"
 #include "session/entry.h"
+#include "table/messages.h"
 
 namespace {
 
@@ -89,12 +92,27 @@ bool QuiereDemo(const QApplication& programa) {
     return opciones.isSet(QString::fromLatin1(kOpcionDemo));
 }
 
+// Another table stands open on the same files: two would write over each other's matches.
+bool QuiereJugarSinGuardar(const QString& carpeta) {
+    const std::string texto =
+        "Zovin ya está en uso en la carpeta\r\n" + carpeta.toStdString() +
+        "\r\nPulse Aceptar para jugar en esta otra mesa sin guardar nada de lo "
+        "que haga en ella, o Cancelar para salir.";
+    return PreguntaAceptar("Zovin ya está en uso", texto, LineasDe(texto));
+}
+
 int JuegaEnVentana(const QString& carpeta) {
+    const CerrojoCarpeta cerrojo(carpeta);
     PlataformaQt escritorio(carpeta);
     UsaPlataforma(escritorio);
     escritorio.PonForma(Forma::Personal, AbreVistaPersonal);
     escritorio.PonForma(Forma::Normas, AbreVistaNormas);
     const AvisoDeFin fin([&escritorio] { escritorio.PideTermina(); });
+    if (cerrojo.EnUso()) {
+        if (!QuiereJugarSinGuardar(carpeta))
+            return 0;
+        escritorio.JuegaSinGuardar();
+    }
     return ArrancaPrograma();
 }
 

@@ -30,6 +30,8 @@ public:
 
     // The form's view; a form without one is not on offer.
     void PonForma(Forma forma, AbreForma abre);
+    // Nothing of this run is kept: settings and matches stay on the disk as they are.
+    void JuegaSinGuardar() { guarda_ = false; }
     // The desktop session or a signal ends the program: open boxes close unanswered and the game is told.
     void PideTermina();
     VentanaPrincipal& Ventana() { return *ventana_; }
@@ -72,6 +74,8 @@ public:
     void Ayuda(int tema) override;
     void Minimiza() override;
 
+    bool GuardaPartidas() const override { return guarda_; }
+
     Archivos& LosArchivos() override { return archivos_; }
     std::string CarpetaDelPrograma() const override { return carpeta_.toStdString(); }
     std::string CarpetaUsuario() const override;
@@ -103,4 +107,5 @@ private:
     std::unique_ptr<VistaAyuda> ayuda_;
     std::unique_ptr<Altavoz> altavoz_;
     bool termina_ = false;
+    bool guarda_ = true;
 };

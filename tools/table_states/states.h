@@ -14,4 +14,5 @@ struct Estampa {
     Rectangulo (*trozo)(int) = nullptr;
 };
 
+// All that the tool can paint.
 const std::vector<Estampa>& Estampas();

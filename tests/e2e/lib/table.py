@@ -73,9 +73,14 @@ class Table:
     def wait_for_window(self, seconds=10):
         def found():
             expect(self.process.poll() is None, "the program has ended")
-            return xdotool("search", "--onlyvisible", "--name", "^Zovin · ")
-        self.window = wait_for(found, seconds, "the table").split()[0]
+            return self.windows()
+        self.window = wait_for(found, seconds, "the table")[0]
         return self.window
+
+    @staticmethod
+    def windows():
+        """The windows of all tables that stand open."""
+        return xdotool("search", "--onlyvisible", "--name", "^Zovin · ").split()
 
     def begin_empty(self):
         """Starts the program for the first time and comes to the empty table."""

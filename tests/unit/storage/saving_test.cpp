@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "core/session_state.h"
+#include "storage/settings.h"
 #include "tests/support/live_table.h"
 
 using namespace prueba;
@@ -21,6 +22,10 @@ struct Guardado : MesaViva {
     void YaSePuede() { p.EnMemoria().de_solo_lectura.clear(); }
 };
 
+struct MesaSinGuardar : PlataformaSinPantalla {
+    bool GuardaPartidas() const override { return false; }
+};
+
 } // namespace
 
 TEST_F(Guardado, EscribeLosDosFicheros) {
@@ -36,6 +41,32 @@ TEST_F(Guardado, LoQueNoSePuedeEscribirSeDiceUnaVez) {
     EXPECT_FALSE(GuardarPartida());
     EXPECT_THAT(Titulos(), ElementsAre("Error al guardar los datos"));
     EXPECT_THAT(p.mensajes[0].texto, HasSubstr("ZOV31.INI"));
+}
+
+// Another copy of the program keeps its match in the same files.
+TEST_F(Guardado, QuienJuegaSinGuardarNoEscribeNada) {
+    MesaSinGuardar sin_guardar;
+    UsaPlataforma(sin_guardar);
+    EXPECT_TRUE(GuardarPartida());
+    GuardarYCambiar(kTute);
+    EXPECT_EQ(estado.JuegoActivo, kTute);
+    LeerIniGeneral();
+    LeerIniJuego();
+    GuardarYSalir();
+    UsaPlataforma(p);
+    EXPECT_EQ(sesion.estado_salida, 0);
+    EXPECT_THAT(sin_guardar.EnMemoria().contenidos, IsEmpty());
+}
+
+TEST_F(Guardado, QuienJuegaSinGuardarDejaElFicheroDanadoDondeEsta) {
+    MesaSinGuardar sin_guardar;
+    UsaPlataforma(sin_guardar);
+    sin_guardar.EnMemoria().contenidos["./ZOV7031.INI"] = "nada";
+    LeerIniJuego();
+    UsaPlataforma(p);
+    EXPECT_TRUE(estado.FicheroNuevo);
+    EXPECT_EQ(sin_guardar.EnMemoria().contenidos.size(), 1U);
+    EXPECT_EQ(sin_guardar.EnMemoria().contenidos["./ZOV7031.INI"], "nada");
 }
 
 TEST_F(Guardado, DespuesDeDecirloSeSigueIntentando) {
