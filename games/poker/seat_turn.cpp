@@ -13,10 +13,6 @@ bool TieneCartas(Integer asiento) {
     return estado.NumCartas(asiento, kSeriePoker) > 0;
 }
 
-bool EsManual(Integer asiento) {
-    return estado.ControlJugador(asiento) == kManual;
-}
-
 void CuentaJugadoresEnMano() {
     estado.JugadoresEnMano = 0;
     for (Integer asiento = 1; asiento <= 4; ++asiento)

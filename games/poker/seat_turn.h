@@ -8,7 +8,6 @@
 #include "games/common/card_turn.h"
 
 bool TieneCartas(Integer asiento);
-bool EsManual(Integer asiento);
 
 // JugadoresEnMano: the seats that hold cards.
 void CuentaJugadoresEnMano();
