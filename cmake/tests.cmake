@@ -83,7 +83,7 @@ if(gui_sources AND TARGET zovin_qt)
   find_package(Qt6 REQUIRED COMPONENTS Test)
   foreach(source IN LISTS gui_sources)
     cmake_path(GET source STEM name)
-    add_executable(gui_${name} "${source}")
+    add_executable(gui_${name} "${source}" "${CMAKE_SOURCE_DIR}/tests/gui/all_games.cpp")
     set_target_properties(gui_${name} PROPERTIES
       AUTOMOC ON RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
     target_link_libraries(gui_${name} PRIVATE zovin_qt Qt6::Test)

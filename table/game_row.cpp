@@ -15,7 +15,8 @@ struct Registro {
     std::array<const FilaJuego*, kUltimoJuego + 1> por_numero{};
 };
 
-Registro registro;
+// Whoever fills it may do so before main begins.
+constinit Registro registro;
 
 void Exige(bool cumple, const FilaJuego& fila, const char* falta) {
     if (!cumple) {

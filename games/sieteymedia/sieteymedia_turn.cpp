@@ -68,9 +68,10 @@ void CierraApuestas() {
 
 [[nodiscard]] bool ApuestaEnSerie() {
     AbreApuestas();
-    const bool sigue = ApuestaLaSerie(kApuesta);
+    if (!ApuestaLaSerie(kApuesta))
+        return false;
     CierraApuestas();
-    return sigue;
+    return true;
 }
 
 int TipDelPaso() {
@@ -103,11 +104,12 @@ void EmpiezaPaso() {
 [[nodiscard]] bool EsperaOrden(bool primer_paso) {
     if (!EsManual() && !(estado.PausaEntreJugadas && primer_paso))
         return true;
-    const bool sigue = EsperaContinuar();
+    if (!EsperaContinuar())
+        return false;
     estado.EligeCarta = false;
     HabilitaBoton(kBotonTutor, false);
     estado.SerieActual = estado.SerieEnJuego;
-    return sigue;
+    return true;
 }
 
 // The caption is that of the first serie, whichever sings: on purpose.
@@ -229,10 +231,11 @@ bool Pide() {
 bool TurnoDeAsiento() {
     const Integer asiento = estado.JugadorActual;
     series.PuedeCambiarCuatro = OfreceCambiarCuatro(asiento);
-    const bool sigue = JueganSusSeries(asiento);
+    if (!JueganSusSeries(asiento))
+        return false;
     PonEnJuego(asiento, 1);
     RedibujarAsiento(asiento);
-    return sigue;
+    return true;
 }
 
 bool TurnoDeLaBanca() {
@@ -242,7 +245,8 @@ bool TurnoDeLaBanca() {
     series.PuedeCambiarCuatro = OfreceCambiarCuatro(banca);
     CuentaManosVivas();
     DestapaSerie(banca, 1);
-    const bool sigue = estado.JugadoresEnMano <= 1 || JuegaSerie();
+    if (estado.JugadoresEnMano > 1 && !JuegaSerie())
+        return false;
     RetiraOfertas();
-    return sigue;
+    return true;
 }

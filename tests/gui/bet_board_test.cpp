@@ -54,7 +54,6 @@ class PruebaApostadora : public QObject {
 private Q_SLOTS:
     void initTestCase() {
         QStandardPaths::setTestModeEnabled(true);
-        UsaJuegos(LosJuegos());
         QVERIFY(BarajaDeColores(13).save(carpeta_.filePath("Baraja01.bmp")));
         QVERIFY(BarajaDeColores(12).save(carpeta_.filePath("Baraja02.bmp")));
     }

@@ -22,10 +22,6 @@
 
 namespace {
 
-struct Carta {
-    Integer palo, valor;
-};
-
 void Reparte(Integer asiento, std::initializer_list<Carta> cartas) {
     int lugar = 0;
     for (const Carta& carta : cartas)
