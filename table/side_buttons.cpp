@@ -52,6 +52,10 @@ void Pon(Control control, int indice, const Rectangulo& donde, const lamina::Rec
     p.Repinta();
 }
 
+bool EsBanca(int asiento) {
+    return estado.JuegoConBanca && asiento == estado.JugadorBanca;
+}
+
 bool TieneMazoDelante(int asiento) {
     return EsBanca(asiento) || (JuegoEnMesa().pintura.mazos_a_los_lados && AsientoLateral(asiento));
 }
