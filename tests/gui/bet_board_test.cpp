@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <memory>
 
+#include "core/default_settings.h"
 #include "betting/bet_state.h"
 #include "betting/chips.h"
 #include "betting/phases.h"
