@@ -38,11 +38,13 @@ struct MesaDeApuestas : MesaViva {
             lista.push_back(apuestas.FichasPuestas(asiento, estado.SerieActual, i));
         return lista;
     }
-    // What the table was asked for, but for the frames of flights and the places of cards.
+    // What the table was asked for, but for the frames of flights, the places of cards and the plates that follow every
+    // redraw of a seat.
     std::vector<std::string> Pasos() const {
         std::vector<std::string> pasos;
         for (const std::string& linea : traza) {
-            if (linea != "Pausa(12)" && !linea.starts_with("ColocarCarta"))
+            if (linea != "Pausa(12)" && !linea.starts_with("ColocarCarta") &&
+                !linea.starts_with("MostrarPuntos"))
                 pasos.push_back(linea);
         }
         return pasos;
