@@ -38,7 +38,8 @@ struct MesaDeApuestas : MesaViva {
             lista.push_back(apuestas.FichasPuestas(asiento, estado.SerieActual, i));
         return lista;
     }
-    // What the table was asked for, but for the frames of flights, the places of cards and the score plates.
+    // What the table was asked for, but for the frames of flights, the places of cards and the plates that follow every
+    // redraw of a seat.
     std::vector<std::string> Pasos() const {
         std::vector<std::string> pasos;
         for (const std::string& linea : traza) {

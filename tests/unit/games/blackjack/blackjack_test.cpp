@@ -333,12 +333,15 @@ TEST_F(ManoDeBlackJack, ElAsAbiertoRecibeUnaCartaYNoMas) {
     EXPECT_EQ(Registro().Texto1(4), "13     14      ");
 }
 
-TEST_F(ManoDeBlackJack, EnLasApuestasNoSeVeLaEstadisticaYEnElJuegoSi) {
+TEST_F(ManoDeBlackJack, EnLasApuestasNoHayEstadistica) {
     p.formas.insert(Forma::Estadis);
-    Mazo({{kOros, 10}, {kCopas, 10}, {kBastos, 7}});
     JuegaLaPartida(); // left in the bets
     EXPECT_EQ(p.PunteroDe(Control::Pic_Boton, 8), Puntero::Prohibido);
-    estado.JuegosJugados = 0;
+}
+
+TEST_F(ManoDeBlackJack, EnElJuegoHayEstadistica) {
+    p.formas.insert(Forma::Estadis);
+    Mazo({{kOros, 10}, {kCopas, 10}, {kBastos, 7}});
     ApuestaCinco();
     JuegaLaPartida(); // left in play
     EXPECT_EQ(p.PunteroDe(Control::Pic_Boton, 8), Puntero::ManoIndice);
