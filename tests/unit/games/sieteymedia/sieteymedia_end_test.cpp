@@ -268,7 +268,7 @@ TEST_F(FinalSiete, ElRegistroGuardaDosSeriesPorTexto) {
     Tiene(3, 192);
     Cierra();
     const RegistroJuego& registro = estado.Juegos(1);
-    EXPECT_EQ(registro.Texto1(3), "7 y 1/2Media  ");
+    EXPECT_EQ(registro.Texto1(3), "7 y 1/2Media   ");
     EXPECT_EQ(registro.Texto2(3), "Se pasó        ");
     EXPECT_EQ(registro.Texto1(4), "4              ");
     EXPECT_EQ(registro.Texto2(4), std::string(15, ' '));

@@ -234,8 +234,8 @@ TEST_F(TurnoSiete, ConPausaEntreJugadasCadaSerieEsperaUnaVezPorSuApuestaYUnaPorS
         {{kOros, 1}, {kOros, 6}, {kOros, 7}, {kCopas, 6}, {kCopas, 1}, {kEspadas, 1}, {kBastos, 7}},
         Azares(10, 0.5));
     JuegaUnaMano();
-    // Three seats twice, the bank once.
-    EXPECT_THAT(TrazaDe("PedirContinuar"), Contains("PedirContinuar(1)").Times(7));
+    // Three seats twice, the bank once, and the wait for the next hand.
+    EXPECT_THAT(TrazaDe("PedirContinuar"), Contains("PedirContinuar(1)").Times(8));
 }
 
 TEST_F(TurnoDePersona, LaTapadaSeVuelveYLaSiguienteVieneTapada) {
@@ -291,7 +291,7 @@ TEST_F(TurnoDePersona, ElCuatroSeCambiaConUnClicMientrasSeApuesta) {
 }
 
 TEST_F(TurnoDePersona, EnElJuegoElCuatroYaNoSeCambia) {
-    Saldra({{kOros, 5}, {kOros, 6}, {kOros, 5}, {kCopas, 6}}, Azares(2, 0.5));
+    Saldra({{kOros, 5}, {kOros, 6}, {kBastos, 5}, {kCopas, 6}}, Azares(2, 0.5));
     Verde();
     ClicEnLaCarta();
     Juega();
@@ -344,7 +344,7 @@ TEST_F(TurnoDePersona, LaBancaDeUnaPersonaCambiaSuCuatroEnSuTurno) {
 }
 
 TEST_F(TurnoDePersona, ElBotonVerdeJuegaPorElla) {
-    Saldra({{kOros, 5}, {kOros, 6}, {kOros, 5}, {kCopas, 6}}, Azares(7, 0.5));
+    Saldra({{kOros, 5}, {kOros, 6}, {kBastos, 5}, {kCopas, 6}}, Azares(7, 0.5));
     Verde();
     Verde();
     Juega();
@@ -353,7 +353,7 @@ TEST_F(TurnoDePersona, ElBotonVerdeJuegaPorElla) {
 }
 
 TEST_F(TurnoDePersona, LosClicsDeNadaNoCambianNada) {
-    Saldra({{kOros, 5}, {kOros, 6}, {kOros, 5}, {kCopas, 6}}, Azares(2, 0.5));
+    Saldra({{kOros, 5}, {kOros, 6}, {kBastos, 5}, {kCopas, 6}}, Azares(2, 0.5));
     ClicEnLaCarta(); // in the bets: no Four
     Pide();
     SePlanta();
@@ -366,54 +366,70 @@ TEST_F(TurnoDePersona, LosClicsDeNadaNoCambianNada) {
     EXPECT_FALSE(series.OrdenServido);
 }
 
-TEST_F(TurnoDePersona, LosConsejosDeLasApuestas) {
-    for (const auto& [azar, tip] :
-         std::vector<std::pair<double, std::string>>{{0.25, "MostrarSugerencia(31)"},
-                                                     {0.5, "MostrarSugerencia(15)"},
-                                                     {0.75, "MostrarSugerencia(49)"}}) {
-        estado.PartidaEnCurso = true;
-        Saldra({{kOros, 5}}, {azar});
-        Juega();
-        EXPECT_THAT(TrazaDe("MostrarSugerencia"), ElementsAre(tip)) << azar;
-    }
+TEST_F(TurnoDePersona, ElConsejoDeComoSeApuesta) {
+    Saldra({{kOros, 5}}, {0.25});
+    Juega();
+    EXPECT_THAT(TrazaDe("MostrarSugerencia"), ElementsAre("MostrarSugerencia(31)"));
 }
 
-TEST_F(TurnoDePersona, LosConsejosDelJuego) {
-    for (const auto& [azar, tip] :
-         std::vector<std::pair<double, std::string>>{{0.125, "MostrarSugerencia(50)"},
-                                                     {0.5, "MostrarSugerencia(35)"},
-                                                     {0.75, "MostrarSugerencia(34)"}}) {
-        estado.PartidaEnCurso = true;
-        Saldra({{kOros, 5}}, {0.5, azar});
-        Verde();
-        Juega();
-        EXPECT_EQ(TrazaDe("MostrarSugerencia").back(), tip) << azar;
-    }
+TEST_F(TurnoDePersona, ElConsejoDeLasReglasAlApostar) {
+    Saldra({{kOros, 5}}, {0.5});
+    Juega();
+    EXPECT_THAT(TrazaDe("MostrarSugerencia"), ElementsAre("MostrarSugerencia(15)"));
 }
 
-TEST_F(TurnoDePersona, LosConsejosDeLasMediasYDeLaSieteYMedia) {
+TEST_F(TurnoDePersona, ElConsejoDelTutorAlApostar) {
+    Saldra({{kOros, 5}}, {0.75});
+    Juega();
+    EXPECT_THAT(TrazaDe("MostrarSugerencia"), ElementsAre("MostrarSugerencia(49)"));
+}
+
+TEST_F(TurnoDePersona, ElConsejoDelTutorAlJugar) {
+    Saldra({{kOros, 5}}, {0.5, 0.125});
+    Verde();
+    Juega();
+    EXPECT_THAT(TrazaDe("MostrarSugerencia"), Contains("MostrarSugerencia(50)"));
+}
+
+TEST_F(TurnoDePersona, ElConsejoDePlantarse) {
+    Saldra({{kOros, 5}}, {0.5, 0.5});
+    Verde();
+    Juega();
+    EXPECT_THAT(TrazaDe("MostrarSugerencia"), Contains("MostrarSugerencia(35)"));
+}
+
+TEST_F(TurnoDePersona, ElConsejoDeLaTapada) {
+    Saldra({{kOros, 5}}, {0.5, 0.75});
+    Verde();
+    Juega();
+    EXPECT_THAT(TrazaDe("MostrarSugerencia"), Contains("MostrarSugerencia(34)"));
+}
+
+TEST_F(TurnoDePersona, ElConsejoDeLasMedias) {
     Saldra({{kOros, kSota}, {kOros, 6}, {kOros, 5}, {kCopas, 6}, {kCopas, kRey}}, Azares(3, 0.75));
     Verde();
     Pide();
     Juega();
-    EXPECT_EQ(TrazaDe("MostrarSugerencia").back(), "MostrarSugerencia(33)");
-    estado.PartidaEnCurso = true;
+    EXPECT_THAT(TrazaDe("MostrarSugerencia"), Contains("MostrarSugerencia(33)"));
+}
+
+TEST_F(TurnoDePersona, ElConsejoDeCantar) {
     Saldra({{kOros, 7}, {kOros, 6}, {kOros, 5}, {kCopas, 6}, {kCopas, kRey}}, Azares(3, 0.75));
     Verde();
     Pide();
     Juega();
-    EXPECT_EQ(TrazaDe("MostrarSugerencia").back(), "MostrarSugerencia(36)");
+    EXPECT_THAT(TrazaDe("MostrarSugerencia"), Contains("MostrarSugerencia(36)"));
 }
 
 TEST_F(TurnoDePersona, ElConsejoDelCuatroEsParaLaBanca) {
     estado.JugadorBanca = 4;
     Saldra({{kOros, 5}, {kOros, 6}, {kOros, 7}, {kCopas, 4}}, Azares(7, 0.75));
     Juega();
-    EXPECT_EQ(TrazaDe("MostrarSugerencia").back(), "MostrarSugerencia(32)");
+    EXPECT_THAT(TrazaDe("MostrarSugerencia"), Contains("MostrarSugerencia(32)"));
 }
 
 TEST_F(TurnoDePersona, LaPartidaQueSeDejaNoSigue) {
-    Saldra({{kOros, 5}, {kOros, 6}, {kOros, 5}, {kCopas, 6}}, Azares(2, 0.5));
+    Saldra({{kOros, 5}, {kOros, 6}, {kBastos, 5}, {kCopas, 6}}, Azares(2, 0.5));
     Verde();
     Juega();
     EXPECT_FALSE(estado.PartidaEnCurso);
