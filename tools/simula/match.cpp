@@ -151,16 +151,27 @@ MesaSimulada::MesaSimulada(void (*al_acabar_mano)(), void (*al_pasar)())
 
 Boton MesaSimulada::Pregunta(const CajaMensaje& caja) {
     // Some games have more to say at the end of a hand, under the same title. A hand of Póker that is void is over
-    // without a showdown.
+    // without a showdown, and one of Tute can be over before an event has passed.
+    const bool sin_contar = mano_en_curso_ || estado.JuegosJugados != juego_contado_;
     if (caja.titulo == "Fin de la mano") {
-        mano_en_curso_ = false;
-        ++manos;
-    } else if (mano_en_curso_ && !estado.ManoEnCurso && caja.titulo == "Final de la mano") {
-        mano_en_curso_ = false;
-        ++manos;
+        CuentaMano();
+    } else if (sin_contar && !estado.ManoEnCurso && caja.titulo == "Final de la mano") {
+        CuentaMano();
         al_acabar_mano_();
     }
     return caja.modo == 2 ? Boton::No : Boton::Salir;
+}
+
+void MesaSimulada::Empieza() {
+    manos = 0;
+    mano_en_curso_ = false;
+    juego_contado_ = 0;
+}
+
+void MesaSimulada::CuentaMano() {
+    mano_en_curso_ = false;
+    juego_contado_ = estado.JuegosJugados;
+    ++manos;
 }
 
 std::optional<Evento> MesaSimulada::SiguienteEvento(Pase pase) {
@@ -258,7 +269,7 @@ Totales Simulacion::Juega(std::int64_t n) {
     PreparaPartida(n);
     firma_ = {};
     firma_.Anade(n);
-    mesa_.manos = 0;
+    mesa_.Empieza();
     NuevaPartida();
     Exige(!sesion.sin_eventos, "una espera se quedó sin eventos");
     if (opciones_.revisa)

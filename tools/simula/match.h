@@ -18,6 +18,9 @@ public:
     // Whoever plays by hand presses anything, by chance, before the wait goes on.
     bool caprichos = false;
 
+    // The hands of a new match are counted from the first.
+    void Empieza();
+
     Boton Pregunta(const CajaMensaje& caja) override;
     std::optional<Evento> SiguienteEvento(Pase pase) override;
     bool GuardaPartidas() const override { return false; }
@@ -26,6 +29,9 @@ private:
     void (*al_acabar_mano_)();
     void (*al_pasar_)();
     bool mano_en_curso_ = false; // a hand has been seen under way that has not ended yet
+    Integer juego_contado_ = 0;  // number of the last game that was counted
+
+    void CuentaMano();
 };
 
 class Simulacion {
