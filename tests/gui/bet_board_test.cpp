@@ -57,6 +57,7 @@ private Q_SLOTS:
         QStandardPaths::setTestModeEnabled(true);
         QVERIFY(BarajaDeColores(13).save(carpeta_.filePath("Baraja01.bmp")));
         QVERIFY(BarajaDeColores(12).save(carpeta_.filePath("Baraja02.bmp")));
+        QVERIFY(PonTablaDeDescartes(carpeta_.path()));
     }
 
     // Póker, seat 4 by hand and on turn in its first round, with 100 points.
@@ -72,6 +73,7 @@ private Q_SLOTS:
         PonValoresPorDefecto();
         estado.JuegoActivo = kPoker;
         estado.VelocidadJuego = 100;
+        estado.LeyApertura = 14; // anybody may open
         estado.SaltoLinea = "\r\n";
         estado.CarpetaPrograma = estado.CarpetaTrabajo = carpeta_.path().toStdString();
         CalcularMesa();

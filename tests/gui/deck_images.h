@@ -2,6 +2,7 @@
 // Deck images for the tests: every card is one colour that tells it from all others.
 
 #include <QColor>
+#include <QFile>
 #include <QImage>
 #include <QPainter>
 #include <QString>
@@ -22,4 +23,10 @@ inline QImage BarajaDeColores(int columnas, int k = 1) {
                        kAltoCarta * k, ColorDeCarta(palo, valor));
     }
     return baraja;
+}
+
+// The odds of the draw of Póker: a table without any, which is enough to play.
+inline bool PonTablaDeDescartes(const QString& carpeta) {
+    QFile tabla(carpeta + QStringLiteral("/PkFDes.ZOV"));
+    return tabla.open(QIODevice::WriteOnly);
 }

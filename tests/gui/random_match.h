@@ -29,12 +29,13 @@ inline void PonAjustes() {
     estado.CarpetaPrograma = estado.CarpetaTrabajo = carpeta;
     std::vector<Integer> juegos;
     for (const FilaJuego* fila : FilasDeJuegos()) {
-        if (fila->driver != nullptr && !fila->dinero.hay)
+        if (SePuedeJugar(*fila))
             juegos.push_back(fila->id);
     }
     estado.JuegoActivo = UnoDe(juegos);
     estado.VelocidadJuego = UnoDe(std::vector<Integer>{100, 100, 99, 96, 50, 0});
-    const int activos = estado.JuegoActivo == kCinquillo ? 4 : 2 + Hasta(2);
+    const AsientosDeJuego& asientos = FilaDe(estado.JuegoActivo)->asientos;
+    const int activos = asientos.minimo + Hasta(4 - asientos.minimo);
     for (int asiento = 1; asiento <= 4; ++asiento) {
         const bool juega = asiento > 4 - activos;
         estado.EstadoJugador(asiento) = juega ? kActivado : kDesactivado;
@@ -45,7 +46,7 @@ inline void PonAjustes() {
     }
     CuentaJugadores();
     estado.ModalidadJuego =
-        activos == 4 && estado.JuegoActivo != kCinquillo && DeCada(2) ? kDosParejas : kIndividual;
+        activos == 4 && !asientos.sin_parejas && DeCada(2) ? kDosParejas : kIndividual;
     estado.SistemaReparto = DeCada(3) ? kRepartoManual : kRepartoAutomatico;
     estado.PausaEntreJugadas = DeCada(2);
     estado.SentidoJuego = DeCada(2) ? kInverso : kDirecto;

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <string>
 
+#include "betting/bet_state.h"
 #include "core/game_state.h"
 #include "core/session_state.h"
 #include "games/common/trick_state.h"
@@ -55,8 +56,38 @@ inline Recuento CuentaCartas() {
     return veces;
 }
 
+// In the games with money: no card is in two places, no seat owes chips. A shoe that is mixed anew in the middle of a
+// hand has the cards of the table once more.
+inline std::string FalloEnMesaConDinero() {
+    Tabla<int, kComodin, 92> veces; // palo, valor
+    for (int asiento = 1; asiento <= 4; ++asiento) {
+        for (int serie = 1; serie <= 4; ++serie) {
+            for (int lugar = 1; lugar <= estado.NumCartas(asiento, serie); ++lugar)
+                ++veces(estado.Mano(asiento, serie, lugar, kPalo),
+                        estado.Mano(asiento, serie, lugar, kValor));
+        }
+    }
+    for (int i = 0; i < estado.CartasEnMazo && !JuegoEnMesa().baraja.seguida; ++i)
+        ++veces(estado.Baraja(estado.PosicionMazo + i, 1),
+                estado.Baraja(estado.PosicionMazo + i, 2));
+    for (int palo = kOros; palo <= kComodin; ++palo) {
+        for (int valor = 1; valor <= 92; ++valor) {
+            if (veces(palo, valor) > 2 * estado.MazosBaraja - 1)
+                return "la carta " + std::to_string(valor) + " del palo " + std::to_string(palo) +
+                       " está " + std::to_string(veces(palo, valor)) + " veces";
+        }
+    }
+    for (const Integer fichas : apuestas.Fichas) {
+        if (fichas < 0)
+            return "alguien debe fichas";
+    }
+    return "";
+}
+
 // Empty, or what does not hold. A card in the air is nowhere: en_espera says that none may be.
 inline std::string FalloDeCartas(bool en_espera) {
+    if (JuegoEnMesa().dinero.hay)
+        return estado.RepartoEnCurso ? "" : FalloEnMesaConDinero();
     const Recuento veces = CuentaCartas();
     for (int palo = kOros; palo <= kBastos; ++palo) {
         for (int valor = 1; valor <= 12; ++valor) {

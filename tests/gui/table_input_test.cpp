@@ -141,6 +141,7 @@ private Q_SLOTS:
         QStandardPaths::setTestModeEnabled(true);
         QVERIFY(BarajaDeColores(13).save(carpeta_.filePath("Baraja01.bmp")));
         QVERIFY(BarajaDeColores(12).save(carpeta_.filePath("Baraja02.bmp")));
+        QVERIFY(PonTablaDeDescartes(carpeta_.path()));
     }
 
     void init() {

@@ -55,15 +55,21 @@ class Table:
         self.count = 0
         self.folder = pathlib.Path.home() / "juego"
         self.folder.mkdir(exist_ok=True)
-        for piece in ("zovin", "Baraja01.bmp", "Baraja02.bmp", "ayuda"):
+        for piece in ("zovin", "Baraja01.bmp", "Baraja02.bmp", "PkFDes.ZOV", "ayuda"):
             link = self.folder / piece
             if not link.is_symlink():
                 link.symlink_to(programs / piece)
         for made in (programs.parent / "ajustes").glob("*.INI"):
             if not (self.folder / made.name).exists():
                 shutil.copy(made, self.folder)
+        self.begin_with("70")
         self.process = None
         self.window = None
+
+    def begin_with(self, game):
+        """The table comes up with this game; a first start would bring Póker."""
+        general = self.folder / "ZOV31.INI"
+        general.write_bytes(game.encode() + general.read_bytes()[2:])
 
     # The program.
 
