@@ -182,7 +182,9 @@ void PintaDinero(int asiento) {
     if (!JuegoEnMesa().dinero.hay)
         return;
     PintarFichas(asiento, kAreaRestos + asiento - 1);
-    RedibujaApuesta(EnteroDe(asiento));
+    // In a manual deal the spread lies where the bets will.
+    if (!estado.RepartoEnCurso)
+        RedibujaApuesta(EnteroDe(asiento));
     if (estado.JuegoConBanca && estado.SerieTerminada(asiento, SerieALaVista(asiento))) {
         const Rectangulo zona = ZonaDe(asiento);
         const lamina::Recorte& marca = lamina::kMarcaSerieTerminada;
