@@ -67,9 +67,13 @@ std::vector<Integer> AsientosEnRueda() {
 }
 
 void PonEnJuego(Integer asiento, Integer serie) {
+    const Integer anterior = estado.JugadorActual;
     estado.JugadorActual = asiento;
     estado.SerieActual = serie;
     estado.SerieEnJuego = serie;
+    // Out of its turn a seat shows its last serie, whichever was looked at in it.
+    if (anterior != 0 && anterior != asiento && estado.SeriesJugador(anterior) > 1)
+        RedibujarAsiento(anterior);
 }
 
 void Rotula(const std::string& texto, Long color, Integer parpadeos) {

@@ -23,7 +23,7 @@ namespace {
             continue;
         if (!AtiendeAlPaso())
             return false;
-        estado.JugadorActual = asiento;
+        PonEnJuego(asiento, 1);
         if (!TurnoDeAsiento())
             return false;
     }
