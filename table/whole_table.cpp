@@ -113,8 +113,8 @@ void RedibujarMesa() {
     const FilaJuego* juego = FilaDe(estado.JuegoActivo);
     if (juego != nullptr && juego->pintura.centro != nullptr)
         juego->pintura.centro();
-    if (juego != nullptr && juego->dinero.reglas.bote)
-        RedibujaBote();
+    if (juego != nullptr && juego->dinero.reglas.bote && !estado.RepartoEnCurso)
+        RedibujaBote(); // in a manual deal the spread lies in its place
     // What a finished match has left on the table stays there until the next one.
     const bool hay_asientos = estado.PartidaEnCurso || vista.nombres;
     for (int asiento = 1; asiento <= 4 && hay_asientos; ++asiento) {

@@ -7,10 +7,12 @@
 #include "core/session_state.h"
 #include "storage/saving.h"
 #include "table/button_column.h"
+#include "table/chips.h"
 #include "table/controls.h"
 #include "table/deal.h"
 #include "table/game_row.h"
 #include "table/manual_deal.h"
+#include "table/layout.h"
 #include "table/messages.h"
 #include "table/pending_rules.h"
 #include "table/seat_drawing.h"
@@ -89,6 +91,8 @@ void PonMesaDeMano() {
     for (Integer asiento = 1; asiento <= 4; ++asiento) {
         if (SeVeAlEmpezar(asiento))
             RedibujarAsiento(asiento);
+        else if (JuegoEnMesa().dinero.hay && TieneResto(asiento))
+            PintarFichas(asiento, kAreaRestos + asiento - 1);
     }
 }
 
