@@ -7,10 +7,10 @@
 #include <algorithm>
 #include <memory>
 
-#include "core/default_settings.h"
 #include "betting/bet_state.h"
 #include "betting/chips.h"
 #include "betting/phases.h"
+#include "core/default_settings.h"
 #include "games/game_rows.h"
 #include "platform/qt/platform_qt.h"
 #include "session/main_buttons.h"
