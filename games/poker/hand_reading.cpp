@@ -307,7 +307,7 @@ void Lectura::CartasDeProyectoDeColor() {
     RegistroJugada& registro = Registro(poker.ProyColor);
     int sitio = 1;
     for (Rangos quedan = r_.palos[static_cast<std::size_t>(registro.PaloJugada)]; quedan != 0;) {
-        const int fuerza = std::bit_width(quedan) - 1;
+        const int fuerza = static_cast<int>(std::bit_width(quedan)) - 1;
         quedan ^= Rangos{1} << fuerza;
         registro.Cartas(sitio++) = ValorDeFuerza(fuerza);
     }

@@ -12,7 +12,7 @@ constexpr int kBitsCuenta = 4;
 
 void HazGrupos(Recuento& recuento, Cuentas cuentas) {
     for (Rangos quedan = recuento.rangos; quedan != 0;) {
-        const int fuerza = std::bit_width(quedan) - 1;
+        const int fuerza = static_cast<int>(std::bit_width(quedan)) - 1;
         quedan ^= Rangos{1} << fuerza;
         recuento.grupos[static_cast<std::size_t>(recuento.num_grupos++)] = {
             .fuerza = fuerza, .cartas = static_cast<int>(cuentas >> (kBitsCuenta * fuerza) & 0xF)};

@@ -47,6 +47,7 @@ def play(table):
     table.start()
     table.wait_for_window()
     table.answer(FIRST_TIME, 1, count=2)
+    Normas(table).choose("Tute")
     table.press_main("salir")
     expect(table.wait_for_end() == 0, "a good end")
     expect(files(table) != before, "the first table saves")
