@@ -114,7 +114,7 @@ def fast(settings):
 
 
 def no_litter(folder):
-    known = {"zovin", "ayuda", "ZOV31.INI"}
+    known = {"zovin", "ayuda", "ZOV31.INI", "PkFDes.ZOV"}
     litter = [path.name for path in folder.iterdir()
               if path.name not in known and not path.name.endswith((".bmp", "31.INI", ".HIS"))]
     expect(len(litter) <= 2, f"what was half written piles up: {litter}")
@@ -144,6 +144,9 @@ def kill_often(table, game):
         before = after
     fast_table.begin(before.on)
     seen = fast_table.play(1.5)
+    for _ in range(15): # a busy machine may not have finished a hand yet
+        if not seen.records:
+            seen = fast_table.play(3)
     fast_table.end_well()
     expect(fast_table.read().goes_on_from(seen) or not seen.on, "a signal loses no finished hand")
     expect(len(fast_table.read().records) > 0, "hands were played")
