@@ -26,7 +26,7 @@ enum class Regla {
 
 // A selector of the form "Personal" that the game does not let the player change, and what is said then.
 struct Candado {
-    enum class Ajuste { Estado, Cartas } ajuste;
+    enum class Ajuste { Estado, Cartas } ajuste = Ajuste::Estado;
     Integer asiento = 0; // 0: of any seat
     const char* aviso = "";
 };
