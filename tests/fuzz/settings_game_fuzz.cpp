@@ -5,10 +5,16 @@
 #include <cstdlib>
 #include <iterator>
 
+#include "games/game_rows.h"
 #include "tests/support/settings_files.h"
 #include "tests/support/valid_settings.h"
 
 namespace {
+
+// The repair of a file asks the row of its game.
+struct ConJuegos {
+    ConJuegos() { UsaJuegos(LosJuegos()); }
+};
 
 constexpr Integer kJuegos[]{kPoker, kBlackJack, kTute, kBrisca, kSieteYMedia, kCinquillo};
 
@@ -28,6 +34,7 @@ void ExigeEstadoValido(std::size_t avisos, prueba::SesionConArchivos& mesa) {
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t n) {
+    static const ConJuegos juegos;
     static prueba::SesionConArchivos mesa;
     if (n == 0)
         return 0;
