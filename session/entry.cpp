@@ -1,7 +1,7 @@
 #include "session/entry.h"
 
-#include <array>
 #include <string>
+#include <vector>
 
 #include "core/game_state.h"
 #include "core/text.h"
@@ -20,10 +20,16 @@ namespace {
 constexpr int kAnchoNecesario = 800;
 constexpr const char* kPrueba = "CSCD.WRK";
 
-constexpr std::array kFicheros{"ZOV31.INI",   "ZOV0131.INI",  "ZOV3131.INI",  "ZOV5131.INI",
-                               "ZOV5831.INI", "ZOV6531.INI",  "ZOV7031.INI",  "ZOV0131.HIS",
-                               "ZOV3131.HIS", "ZOV5131.HIS",  "ZOV5831.HIS",  "ZOV6531.HIS",
-                               "ZOV7031.HIS", "Baraja01.bmp", "Baraja02.bmp", "PkFDes.ZOV"};
+// What a player's own folder begins with: the settings, each game's file and its history, and what is shipped as data.
+std::vector<std::string> LosFicheros() {
+    std::vector<std::string> ficheros{kIniGeneral, "Baraja01.bmp", "Baraja02.bmp",
+                                      "PkFDes.ZOV"};
+    for (const FilaJuego* fila : FilasDeJuegos()) {
+        ficheros.push_back(NombreIniJuego(fila->id));
+        ficheros.push_back(NombreHisJuego(fila->id));
+    }
+    return ficheros;
+}
 
 bool SePuedeEscribir(const std::string& carpeta) {
     Archivos& archivos = plataforma().LosArchivos();
@@ -37,7 +43,7 @@ bool SePuedeEscribir(const std::string& carpeta) {
 // What is missing at the source is passed over.
 void CopiaFicheros() {
     Archivos& archivos = plataforma().LosArchivos();
-    for (const char* nombre : kFicheros) {
+    for (const std::string& nombre : LosFicheros()) {
         const Lectura lectura = archivos.Lee(estado.CarpetaPrograma + "/" + nombre);
         if (lectura.error == ErrorArchivo::Ninguno)
             archivos.Escribe(estado.CarpetaTrabajo + "/" + nombre, lectura.contenido);

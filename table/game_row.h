@@ -11,6 +11,9 @@
 #include "core/tabla.h"
 #include "platform/platform.h"
 
+struct ProcedimientoConNombre; // table/procedure_call.h
+using ListaDeProcedimientos = std::vector<ProcedimientoConNombre>;
+
 // What the form "Normas" can set.
 enum class Regla {
     Reparto,
@@ -151,6 +154,16 @@ struct NormasDeJuego {
     std::vector<Regla> reglas{}; // from the top of the form
 };
 
+// What must hold, told apart from the code that played it. InvarianteRoto when something does not.
+struct RevisionDeJuego {
+    // At any moment of a match. Empty: nothing.
+    void (*paso)() = nullptr;
+    // The cards and the points of the hand that has just ended. Every game that is played has one.
+    void (*mano)() = nullptr;
+    // The records and the result of the match that has just ended after so many hands. Every game that is played has one.
+    void (*partida)(int manos) = nullptr;
+};
+
 struct FilaJuego {
     Integer id = 0;
     const char* nombre = "";
@@ -169,6 +182,9 @@ struct FilaJuego {
     ManoDeJuego mano{};
     PartidaDeJuego partida{};
     NormasDeJuego normas{};
+    RevisionDeJuego revision{};
+    // What the line console can call by name of this game alone. Empty: nothing.
+    const ListaDeProcedimientos& (*procedimientos)() = nullptr;
 };
 
 // The games of the table, in the order of their numbers (1 to 99). std::invalid_argument, with nothing taken, when

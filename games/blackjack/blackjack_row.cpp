@@ -6,7 +6,9 @@
 #include "betting/stakes.h"
 #include "core/game_state.h"
 #include "games/blackjack/blackjack.h"
+#include "games/blackjack/blackjack_console.h"
 #include "games/blackjack/blackjack_input.h"
+#include "games/blackjack/blackjack_invariants.h"
 #include "games/blackjack/blackjack_tutor.h"
 #include "games/common/money_hands.h"
 #include "games/common/series.h"
@@ -94,6 +96,10 @@ const FilaJuego& FilaBlackJack() {
                     .acabada = AcabadaBlackJack,
                     .texto_final = TextoFinalBlackJack},
         .normas = {.reglas = {Regla::RestoInicial, Regla::ApuestaMaxima}},
+        .revision = {.paso = RevisaPasoBlackJack,
+                     .mano = RevisaManoBlackJack,
+                     .partida = RevisaPartidaBlackJack},
+        .procedimientos = ProcedimientosDeBlackJack,
     };
     return kFila;
 }

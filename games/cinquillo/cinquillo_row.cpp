@@ -4,6 +4,8 @@
 #include "core/text.h"
 #include "games/cinquillo/cinquillo.h"
 #include "games/cinquillo/cinquillo_choice.h"
+#include "games/cinquillo/cinquillo_console.h"
+#include "games/cinquillo/cinquillo_invariants.h"
 #include "games/cinquillo/cinquillo_table.h"
 #include "games/common/hands.h"
 #include "games/common/trick_state.h"
@@ -49,6 +51,8 @@ const FilaJuego& FilaCinquillo() {
         .mano = {.limpia = BorraBazas},
         .partida = {.nueva = OlvidaBazas},
         .normas = {.reglas = {Regla::Reparto, Regla::Limite}},
+        .revision = {.mano = RevisaManoCinquillo, .partida = RevisaPartidaCinquillo},
+        .procedimientos = ProcedimientosDeCinquillo,
     };
     return kFila;
 }

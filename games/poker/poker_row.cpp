@@ -15,7 +15,9 @@
 #include "games/poker/hand_order.h"
 #include "games/poker/hand_tables.h"
 #include "games/poker/opening_law.h"
+#include "games/poker/poker_console.h"
 #include "games/poker/poker_driver.h"
+#include "games/poker/poker_invariants.h"
 #include "games/poker/poker_tutor.h"
 #include "table/deck_setup.h"
 #include "table/game_row.h"
@@ -106,6 +108,10 @@ const FilaJuego& FilaPoker() {
         .normas = {.encabezado = "Baraja Francesa",
                    .reglas = {Regla::Reparto, Regla::Baraja, Regla::Comodines, Regla::Ley,
                               Regla::RestoInicial, Regla::ApuestaSalida, Regla::ApuestaMaxima}},
+        .revision = {.paso = RevisaPasoPoker,
+                     .mano = RevisaManoPoker,
+                     .partida = RevisaPartidaPoker},
+        .procedimientos = ProcedimientosDePoker,
     };
     return kFila;
 }

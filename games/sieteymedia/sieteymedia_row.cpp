@@ -4,12 +4,15 @@
 #include "core/game_state.h"
 #include "core/numeric.h"
 #include "games/common/bank_buttons.h"
+#include "games/common/bank_invariants.h"
 #include "games/common/money_hands.h"
 #include "games/common/series.h"
 #include "games/common/series_view.h"
 #include "games/sieteymedia/sieteymedia.h"
 #include "games/sieteymedia/sieteymedia_cards.h"
+#include "games/sieteymedia/sieteymedia_console.h"
 #include "games/sieteymedia/sieteymedia_input.h"
+#include "games/sieteymedia/sieteymedia_invariants.h"
 #include "games/sieteymedia/sieteymedia_tutor.h"
 #include "table/deck_setup.h"
 #include "table/game_row.h"
@@ -105,6 +108,10 @@ const FilaJuego& FilaSieteYMedia() {
         .mano = {.pasa_la_mano = PasaLaBancaYElMazo, .limpia = LimpiaManoConDinero},
         .partida = {.nueva = OlvidaSeries, .acabada = QuedaUnoSolo},
         .normas = {.reglas = {Regla::Reparto, Regla::RestoInicial, Regla::ApuestaMaxima}},
+        .revision = {.paso = RevisaDineroDeBanca,
+                     .mano = RevisaManoSiete,
+                     .partida = RevisaPartidaSiete},
+        .procedimientos = ProcedimientosDeSiete,
     };
     return kFila;
 }

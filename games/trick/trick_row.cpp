@@ -11,7 +11,9 @@
 #include "games/trick/exchange.h"
 #include "games/trick/stock.h"
 #include "games/trick/trick_choice.h"
+#include "games/trick/trick_console.h"
 #include "games/trick/trick_driver.h"
+#include "games/trick/trick_invariants.h"
 #include "games/trick/trick_view.h"
 #include "table/deck_setup.h"
 #include "table/game_row.h"
@@ -80,6 +82,8 @@ FilaJuego FilaDeBazas(Integer id, const char* nombre, void (*prepara)(), void (*
         .mano = {.limpia = BorraBazas, .descubre = DescubreTriunfo},
         .partida = {.nueva = OlvidaBazas},
         .normas = {.reglas = {Regla::Reparto, Regla::Modalidad, Regla::Limite}},
+        .revision = {.mano = RevisaManoBazas, .partida = RevisaPartidaBazas},
+        .procedimientos = ProcedimientosDeBazas,
     };
 }
 

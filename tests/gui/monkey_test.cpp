@@ -28,6 +28,7 @@
 #include "session/main_buttons.h"
 #include "session/match_driver.h"
 #include "storage/settings.h"
+#include "table/button_column.h"
 #include "table/layout.h"
 #include "table/waiting.h"
 #include "table/whole_table.h"
@@ -449,6 +450,13 @@ class PruebaMono : public QObject {
         return mano_.eventos >= (manos_ > 0 ? kEventos : 10 * kEventos);
     }
 
+    // Between two hands the exit is not on offer: the wish is kept until the next one is dealt.
+    void Deja() {
+        mesa_->Ventana().close();
+        if (!BotonHabilitado(kBotonSalir))
+            Clic(PuntoDe(Control::Pic_BotContinuar, 0), Qt::LeftButton);
+    }
+
     void Paso() {
         ++acciones_;
         if (YaBasta())
@@ -460,10 +468,8 @@ class PruebaMono : public QObject {
             AnteLaCaja(caja);
         if (acciones_ > kAccionesPorSesion + kPaciencia)
             return Falla("la sesión no acaba (" + DiMomento() + ")");
-        if (gesto_.empty() && acciones_ > kAccionesPorSesion) {
-            mesa_->Ventana().close();
-            return;
-        }
+        if (gesto_.empty() && acciones_ > kAccionesPorSesion)
+            return Deja();
         if (gesto_.empty() && (caja == nullptr || DeCada(6)))
             NuevoGesto();
         if (gesto_.empty())

@@ -2,40 +2,18 @@
 
 #include <algorithm>
 
+#include "core/game_state.h"
+#include "core/invariant.h"
 #include "games/common/hands.h"
-#include "session/state_blocks.h"
-#include "tools/simula/bank_invariants.h"
-#include "tools/simula/blackjack_invariants.h"
-#include "tools/simula/cinquillo_invariants.h"
-#include "tools/simula/poker_invariants.h"
-#include "tools/simula/sieteymedia_invariants.h"
-#include "tools/simula/trick_invariants.h"
+#include "table/game_row.h"
 
 namespace {
 
-struct Revision {
-    Integer juego;
-    void (*mano)();
-    void (*partida)(int manos);
-    void (*paso)() = nullptr; // nothing to look at meanwhile
-};
-
-constexpr Revision kRevisiones[] = {
-    {kPoker, RevisaManoPoker, RevisaPartidaPoker, RevisaPasoPoker},
-    {kBlackJack, RevisaManoBlackJack, RevisaPartidaBlackJack, RevisaPasoBlackJack},
-    {kTute, RevisaManoBazas, RevisaPartidaBazas},
-    {kBrisca, RevisaManoBazas, RevisaPartidaBazas},
-    {kSieteYMedia, RevisaManoSiete, RevisaPartidaSiete, RevisaDineroDeBanca},
-    {kCinquillo, RevisaManoCinquillo, RevisaPartidaCinquillo},
-};
-
-const Revision& RevisionDelJuego() {
-    const auto* fin = std::end(kRevisiones);
-    const auto* esta = std::find_if(std::begin(kRevisiones), fin, [](const Revision& r) {
-        return r.juego == estado.JuegoActivo;
-    });
-    Exige(esta != fin, "nadie revisa el juego {}", estado.JuegoActivo);
-    return *esta;
+const RevisionDeJuego& RevisionDelJuego() {
+    const RevisionDeJuego& revision = JuegoEnMesa().revision;
+    Exige(revision.mano != nullptr && revision.partida != nullptr, "nadie revisa el juego {}",
+          estado.JuegoActivo);
+    return revision;
 }
 
 } // namespace

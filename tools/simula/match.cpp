@@ -7,6 +7,7 @@
 
 #include "betting/chips.h"
 #include "core/default_settings.h"
+#include "core/invariant.h"
 #include "core/random.h"
 #include "games/game_rows.h"
 #include "session/main_buttons.h"

@@ -5,7 +5,7 @@
 #include <unordered_map>
 
 #include "session/main_buttons.h"
-#include "tools/sonda/literal.h"
+#include "core/literal.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "tools/sonda/literal.h"
+#include "core/literal.h"
 
 // One part of the path to a field: Jugadas(4,8).Cartas has two.
 struct Tramo {

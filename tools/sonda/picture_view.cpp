@@ -8,7 +8,7 @@
 #include "session/state_blocks.h"
 #include "table/whole_table.h"
 #include "tools/common/program_files.h"
-#include "tools/sonda/literal.h"
+#include "core/literal.h"
 
 namespace {
 

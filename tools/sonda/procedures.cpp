@@ -7,37 +7,10 @@
 #include "betting/stakes.h"
 #include "core/game_state.h"
 #include "forms/spin.h"
-#include "games/blackjack/blackjack.h"
-#include "games/blackjack/blackjack_decision.h"
-#include "games/cinquillo/cinquillo.h"
-#include "games/cinquillo/cinquillo_choice.h"
 #include "games/common/bank_hands.h"
 #include "games/common/hand_queries.h"
 #include "games/common/hands.h"
 #include "games/common/series.h"
-#include "games/poker/bet_choice.h"
-#include "games/poker/combinations.h"
-#include "games/poker/discard_choice.h"
-#include "games/poker/hand_layout.h"
-#include "games/poker/hand_order.h"
-#include "games/poker/hand_reading.h"
-#include "games/poker/hand_tables.h"
-#include "games/poker/hand_text.h"
-#include "games/poker/hand_value.h"
-#include "games/poker/opening_law.h"
-#include "games/poker/poker_driver.h"
-#include "games/poker/rivals.h"
-#include "games/sieteymedia/sieteymedia.h"
-#include "games/sieteymedia/sieteymedia_cards.h"
-#include "games/sieteymedia/sieteymedia_decision.h"
-#include "games/trick/card_rules.h"
-#include "games/trick/choice_brisca.h"
-#include "games/trick/choice_tute.h"
-#include "games/trick/exact_search.h"
-#include "games/trick/exchange.h"
-#include "games/trick/hand_end.h"
-#include "games/trick/stock.h"
-#include "games/trick/trick_driver.h"
 #include "session/initial_draw.h"
 #include "session/main_buttons.h"
 #include "session/match_driver.h"
@@ -49,6 +22,7 @@
 #include "table/deck.h"
 #include "table/drawing.h"
 #include "table/flight.h"
+#include "table/game_row.h"
 #include "table/hit_tests.h"
 #include "table/layout.h"
 #include "table/messages.h"
@@ -129,8 +103,8 @@ void DevuelveLaApuesta(Integer asiento, Integer destino, Integer modo) {
     DevuelveApuesta(asiento, destino, modo);
 }
 
-// One line a procedure that the console knows.
-const std::unordered_map<std::string, Llamada>& LaTabla() { // NOLINT(readability-function-size)
+// One line a procedure that every game shares.
+const std::unordered_map<std::string, Llamada>& LosComunes() { // NOLINT(readability-function-size)
     static const std::unordered_map<std::string, Llamada> kTabla{
         // State and match.
         {"SiguienteAsiento", Llama(&SiguienteAsiento)},
@@ -213,11 +187,6 @@ const std::unordered_map<std::string, Llamada>& LaTabla() { // NOLINT(readabilit
         {"RepartePremios", Llama(&RepartePremios)},
         {"PuntosSerie", Llama(&PuntosSerie)},
         {"AbreSerie", Llama(&AbreSerie)},
-        {"DecideBlackJack", Llama(&DecideBlackJack)},
-        {"DecideSiete", Llama(&DecideSiete)},
-
-        // Matches of Black Jack.
-        {"ManoBlackJack", Llama(&ManoBlackJack)},
         {"DestellaBust", Llama(&DestellaBust)},
 
         // Chips on the table and the bet board.
@@ -231,64 +200,37 @@ const std::unordered_map<std::string, Llamada>& LaTabla() { // NOLINT(readabilit
         {"PagaDeBanca", Llama(&PagaLaBanca)},
         {"DevuelveApuesta", Llama(&DevuelveLaApuesta)},
 
-        // Hands of the games of laying cards.
+        // Hands, and the tutor of the game in play.
         {"ExaminaMano", Llama(&ExaminaMano)},
         {"CuentaPalo", Llama(&CuentaPalo)},
         {"BuscaCarta", Llama(&BuscaCarta)},
         {"PotenciaCarta", Llama(&PotenciaCarta)},
         {"IniciarJuego", LlamaPasos(&IniciarJuego)},
         {"FinalPartida", Llama(&FinalPartida)},
-        {"ManoCinquillo", Llama(&ManoCinquillo)},
-        {"EligeCartaCinquillo", Llama(&EligeCartaCinquillo)},
-
-        // Tute and Brisca.
-        {"ManoTute", Llama(&ManoTute)},
-        {"ManoBrisca", Llama(&ManoBrisca)},
-        {"EligeCartaTute", Llama(&EligeCartaTute)},
-        {"EligeCartaBrisca", Llama(&EligeCartaBrisca)},
-        {"ExploraBazas", Llama(&ExploraBazas)},
-        {"ValoraExploracion", Llama(&ValoraExploracion)},
-        {"ResuelveBaza", Llama(&ResuelveBaza)},
-        {"RobaCartas", Llama(&RobaCartas)},
-        {"CambiaTriunfo", Llama(&CambiaTriunfo)},
-        {"FinalMano", LlamaPasos(&FinalMano)},
-
-        // Hands of Póker.
-        {"CargaTablasPoker", Llama(&CargaTablasPoker)},
-        {"AnalizaJugada", Llama(&AnalizaJugada)},
-        {"OrdenaJugada", Llama(&OrdenaJugada)},
-        {"ValorJugada", Llama(&ValorJugada)},
-        {"TextoJugada", Llama(&TextoJugada)},
-        {"EsFigura", Llama(&EsFigura)},
-        {"Combinaciones", Llama(&Combinaciones)},
-        {"TieneComodin", Llama(&TieneComodin)},
-        {"OrdenaCartasSeat", Llama(&OrdenaCartasSeat)},
-
-        // Bets and discards of Póker, and the tutor of the game in play.
-        {"CalculaApuesta", Llama(&CalculaApuesta)},
-        {"ActitudMesa", Llama(&ActitudMesa)},
-        {"LeyAperturaCumplida", Llama(&LeyAperturaCumplida)},
-        {"RivalesSinResto", Llama(&RivalesSinResto)},
-        {"DecideDescarte", Llama(&DecideDescarte)},
         {"ConsejoTutor", Llama(&PideConsejo)},
-
-        // Matches of Póker.
-        {"ManoPoker", Llama(&ManoPoker)},
         {"IniciaMano", LlamaPasos(&IniciarJuego)},
-
-        // Siete y media.
-        {"ManoSieteYMedia", Llama(&ManoSieteYMedia)},
-        {"DestapaSerie", Llama(&DestapaSerie)},
-        {"CambiaCuatro", Llama(&CambiaCuatro)},
     };
     return kTabla;
+}
+
+// ... and those that the games in use have of their own.
+std::unordered_map<std::string, Llamada> ConLosDeLosJuegos() {
+    std::unordered_map<std::string, Llamada> tabla = LosComunes();
+    for (const FilaJuego* fila : FilasDeJuegos()) {
+        if (fila->procedimientos == nullptr)
+            continue;
+        for (const ProcedimientoConNombre& uno : fila->procedimientos())
+            tabla.emplace(uno.nombre, uno.llamada);
+    }
+    return tabla;
 }
 
 } // namespace
 
 const Llamada& Procedimiento(const std::string& nombre) {
-    const auto sitio = LaTabla().find(nombre);
-    if (sitio == LaTabla().end())
+    static const std::unordered_map<std::string, Llamada> kTabla = ConLosDeLosJuegos();
+    const auto sitio = kTabla.find(nombre);
+    if (sitio == kTabla.end())
         throw ErrorConsola("el procedimiento " + nombre + " no existe");
     return sitio->second;
 }

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "tools/sonda/procedure_call.h"
+#include "table/procedure_call.h"
 
 // The call of a name. ErrorConsola when no procedure has it.
 const Llamada& Procedimiento(const std::string& nombre);

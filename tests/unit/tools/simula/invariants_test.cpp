@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include "core/invariant.h"
+
 #include "session/state_blocks.h"
 
 namespace {

@@ -1,4 +1,4 @@
-#include "tools/simula/sieteymedia_invariants.h"
+#include "games/sieteymedia/sieteymedia_invariants.h"
 
 #include <algorithm>
 #include <string>
@@ -6,11 +6,11 @@
 
 #include "betting/bet_state.h"
 #include "betting/chips.h"
+#include "core/game_state.h"
+#include "core/invariant.h"
 #include "core/text.h"
+#include "games/common/bank_invariants.h"
 #include "games/common/series_state.h"
-#include "session/state_blocks.h"
-#include "tools/simula/bank_invariants.h"
-#include "tools/simula/invariants.h"
 
 namespace {
 

@@ -11,12 +11,18 @@
 #include <vector>
 
 #include "platform/platform.h"
-#include "tools/sonda/literal.h"
+#include "core/literal.h"
 
 using Argumentos = std::vector<Literal>;
 
 // Answers the value of a function, or of the argument that a procedure changes; nothing for any other.
 using Llamada = std::function<std::optional<std::string>(const Argumentos&)>;
+
+struct ProcedimientoConNombre {
+    const char* nombre;
+    Llamada llamada;
+};
+using ListaDeProcedimientos = std::vector<ProcedimientoConNombre>;
 
 namespace llamada_detalle {
 

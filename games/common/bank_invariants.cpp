@@ -1,4 +1,4 @@
-#include "tools/simula/bank_invariants.h"
+#include "games/common/bank_invariants.h"
 
 #include <string>
 
@@ -6,9 +6,9 @@
 #include "betting/chips.h"
 #include "betting/phases.h"
 #include "core/game_state.h"
+#include "core/invariant.h"
 #include "core/text.h"
 #include "games/common/series.h"
-#include "tools/simula/invariants.h"
 
 namespace {
 

@@ -1,11 +1,11 @@
-#include "tools/simula/trick_invariants.h"
+#include "games/trick/trick_invariants.h"
 
 #include <algorithm>
 #include <vector>
 
+#include "core/game_state.h"
+#include "core/invariant.h"
 #include "games/common/trick_state.h"
-#include "session/state_blocks.h"
-#include "tools/simula/invariants.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "tools/sonda/procedure_call.h"
+#include "table/procedure_call.h"
 
 #include <gtest/gtest.h>
 

@@ -1,15 +1,15 @@
 // A hand that was really played passes; each thing that may not happen is then made to have happened.
 
 #include "games/common/trick_state.h"
-#include "tools/simula/trick_invariants.h"
+#include "games/trick/trick_invariants.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
 #include <utility>
 
+#include "core/invariant.h"
 #include "session/state_blocks.h"
-#include "tools/simula/invariants.h"
 #include "tools/simula/match.h"
 
 namespace {

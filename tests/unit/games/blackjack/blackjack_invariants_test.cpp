@@ -1,15 +1,15 @@
 // What is looked at in Black Jack finds what is wrong. Seat 4 has 18 in two cards and has bet 5 of its 100, the bank
 // stands at 17 in two.
 
-#include "tools/simula/blackjack_invariants.h"
+#include "games/blackjack/blackjack_invariants.h"
 
 #include <gtest/gtest.h>
 
 #include "betting/bet_state.h"
 #include "betting/chips.h"
 #include "core/game_state.h"
+#include "core/invariant.h"
 #include "tests/support/bank_table.h"
-#include "tools/simula/invariants.h"
 
 using namespace prueba;
 

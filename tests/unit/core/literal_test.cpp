@@ -1,4 +1,4 @@
-#include "tools/sonda/literal.h"
+#include "core/literal.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
-#include "tools/simula/cinquillo_invariants.h"
+#include "games/cinquillo/cinquillo_invariants.h"
 
 #include <string>
 
+#include "core/game_state.h"
+#include "core/invariant.h"
 #include "games/common/trick_state.h"
-#include "session/state_blocks.h"
-#include "tools/simula/invariants.h"
 
 namespace {
 

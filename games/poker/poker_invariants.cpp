@@ -1,12 +1,12 @@
-#include "tools/simula/poker_invariants.h"
+#include "games/poker/poker_invariants.h"
 
 #include <algorithm>
 
 #include "betting/bet_state.h"
 #include "betting/chips.h"
+#include "core/game_state.h"
+#include "core/invariant.h"
 #include "core/text.h"
-#include "session/state_blocks.h"
-#include "tools/simula/invariants.h"
 
 namespace {
 

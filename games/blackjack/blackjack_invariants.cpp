@@ -1,4 +1,4 @@
-#include "tools/simula/blackjack_invariants.h"
+#include "games/blackjack/blackjack_invariants.h"
 
 #include <algorithm>
 #include <optional>
@@ -6,8 +6,8 @@
 #include "betting/bet_state.h"
 #include "betting/chips.h"
 #include "core/game_state.h"
-#include "tools/simula/bank_invariants.h"
-#include "tools/simula/invariants.h"
+#include "core/invariant.h"
+#include "games/common/bank_invariants.h"
 
 namespace {
 

@@ -1,0 +1,7 @@
+#pragma once
+// Tute and Brisca at the line console.
+
+#include "table/procedure_call.h"
+
+// What can be called by name.
+const ListaDeProcedimientos& ProcedimientosDeBazas();
