@@ -22,8 +22,7 @@ constexpr const char* kPrueba = "CSCD.WRK";
 
 // What a player's own folder begins with: the settings, each game's file and its history, and what is shipped as data.
 std::vector<std::string> LosFicheros() {
-    std::vector<std::string> ficheros{kIniGeneral, "Baraja01.bmp", "Baraja02.bmp",
-                                      "PkFDes.ZOV"};
+    std::vector<std::string> ficheros{kIniGeneral, "Baraja01.bmp", "Baraja02.bmp", "PkFDes.ZOV"};
     for (const FilaJuego* fila : FilasDeJuegos()) {
         ficheros.push_back(NombreIniJuego(fila->id));
         ficheros.push_back(NombreHisJuego(fila->id));

@@ -10,8 +10,8 @@
 #include <type_traits>
 #include <vector>
 
-#include "platform/platform.h"
 #include "core/literal.h"
+#include "platform/platform.h"
 
 using Argumentos = std::vector<Literal>;
 

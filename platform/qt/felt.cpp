@@ -143,9 +143,9 @@ void Tapete::mouseMoveEvent(QMouseEvent* evento) {
     Avisa(TipoEvento::RatonMueve, *evento);
 }
 
-// A press that waits in the queue when a dialog opens has its release swallowed: without this its card would hang on
-// the pointer until the next move.
-void Tapete::TrasUnDialogo() {
+// A dialog that opens between a press and its release swallows the release, and a second one may come and go while the
+// button is down: without this the card would hang on the pointer until the next move over the felt.
+void Tapete::NotaSueltaCallada() {
     if (!apretado_ || (QGuiApplication::mouseButtons() & kBotones) != Qt::NoButton)
         return;
     apretado_ = false;

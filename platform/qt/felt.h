@@ -42,8 +42,8 @@ public:
     CapaVuelo& ElVuelo() { return vuelo_; }
     void PonPuntero(Puntero puntero);
     Puntero ElPuntero() const { return puntero_; }
-    // A dialog stood before the table: what was let go over it is told now.
-    void TrasUnDialogo();
+    // A button was let go and nobody told the felt, as when a dialog stood before it: it is told now.
+    void NotaSueltaCallada();
     // Called, outside of painting, when the screen has another pixel ratio than the pictures.
     std::function<void()> al_cambiar_ratio;
 

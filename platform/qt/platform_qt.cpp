@@ -76,6 +76,7 @@ void PlataformaQt::PideTermina() {
 void PlataformaQt::Bombea() {
     mesa_->update(Sucio());
     QCoreApplication::processEvents();
+    mesa_->NotaSueltaCallada();
 }
 
 std::optional<Evento> PlataformaQt::SiguienteEvento(Pase) {
@@ -84,8 +85,10 @@ std::optional<Evento> PlataformaQt::SiguienteEvento(Pase) {
 
 bool PlataformaQt::EsperaEvento() {
     mesa_->update(Sucio());
-    while (cola_.Vacia())
+    while (cola_.Vacia()) {
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        mesa_->NotaSueltaCallada();
+    }
     return true;
 }
 
@@ -294,7 +297,7 @@ Boton PlataformaQt::Pregunta(const CajaMensaje& caja) {
                            : pantalla;
     dialogo.CentraEn(caja.centrada ? pantalla : mesa);
     const Boton respuesta = dialogo.Responde();
-    mesa_->TrasUnDialogo();
+    mesa_->NotaSueltaCallada();
     return respuesta;
 }
 
@@ -304,7 +307,7 @@ void PlataformaQt::Abre(Forma forma) {
         return;
     mesa_->update(Sucio());
     abre->second(Padre());
-    mesa_->TrasUnDialogo();
+    mesa_->NotaSueltaCallada();
 }
 
 bool PlataformaQt::TieneForma(Forma forma) const {

@@ -1,6 +1,7 @@
 // The pointer over every kind of place on the real table, and what a click, a drag or the pop-up does there.
 
 #include <QApplication>
+#include <QDialog>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
@@ -19,6 +20,7 @@
 #include "table/waiting.h"
 #include "table/whole_table.h"
 #include "tests/gui/deck_images.h"
+#include "tests/gui/random_hand.h"
 
 namespace {
 
@@ -395,6 +397,27 @@ private Q_SLOTS:
         QVERIFY(!estado.ArrastraCarta);
         QCOMPARE(Valores(4).size(), 3u);
         QVERIFY(Vista(Control::Pic_Mover) == nullptr);
+    }
+
+    // A box that comes and goes between the press and the release has the release swallowed.
+    void UnaSueltaTragadaPorUnDialogoPosaLaCarta() {
+        PonCinquillo();
+        estado.ModoOrdenar = true;
+        QWindow* ventana = mesa_->Ventana().windowHandle();
+        const QPoint carta = Tapete()->mapTo(&mesa_->Ventana(), EnLaCarta(4, 2));
+        prueba::Mano raton;
+        raton.Aprieta(ventana, carta, Qt::LeftButton);
+        {
+            QDialog caja(&mesa_->Ventana());
+            caja.setModal(true);
+            caja.show();
+            QCoreApplication::processEvents();
+        }
+        Pasa();
+        QVERIFY(estado.ArrastraCarta);
+        raton.Suelta(ventana, carta, Qt::LeftButton);
+        Pasa();
+        QVERIFY(!estado.ArrastraCarta);
     }
 
     void UnaCartaDelRepartoEntraEnLaZonaSinSoltarla() {

@@ -4,8 +4,8 @@
 
 #include <unordered_map>
 
-#include "session/main_buttons.h"
 #include "core/literal.h"
+#include "session/main_buttons.h"
 
 namespace {
 

@@ -4,11 +4,11 @@
 
 #include <algorithm>
 
+#include "core/literal.h"
 #include "platform/qt/picture_platform.h"
 #include "session/state_blocks.h"
 #include "table/whole_table.h"
 #include "tools/common/program_files.h"
-#include "core/literal.h"
 
 namespace {
 
