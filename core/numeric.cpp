@@ -1,5 +1,7 @@
 #include "core/numeric.h"
 
+#include <array>
+#include <charconv>
 #include <cmath>
 #include <limits>
 
@@ -29,6 +31,14 @@ T Cabe(double valor) {
 
 Integer Redondea(double valor) {
     return Cabe<Integer>(std::nearbyint(valor)); // the processor's own rounding: halves to the even
+}
+
+double EnDecimal(float valor) {
+    std::array<char, 64> escrito{};
+    const auto fin = std::to_chars(escrito.data(), escrito.data() + escrito.size(), valor).ptr;
+    double decimal = valor;
+    std::from_chars(escrito.data(), fin, decimal);
+    return decimal;
 }
 
 Long ParteEntera(double valor) {

@@ -12,6 +12,10 @@ struct Desbordamiento : std::range_error {
 // The nearest whole number, halves to the even neighbour. Desbordamiento outside 16 bits.
 Integer Redondea(double valor);
 
+// The decimal number that a single one is written as: 0.7F is 0.7 and not the 0.69999998 that it holds, so that chance
+// that meets a bound meets it.
+double EnDecimal(float valor);
+
 // The largest whole number not above valor. Desbordamiento outside 32 bits.
 Long ParteEntera(double valor);
 

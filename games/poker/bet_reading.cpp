@@ -149,7 +149,7 @@ LecturaApuesta LeeApuesta() {
                            .fase = apuestas.FaseApuesta,
                            .caracter = estado.CaracterJugador(asiento),
                            .nivel = NivelQueDecide(asiento),
-                           .azar = estado.AzarTurno,
+                           .azar = EnDecimal(estado.AzarTurno),
                            .tope = poker.TopeApuesta,
                            .puesto = ApuestaEnFase(asiento, apuestas.FaseApuesta),
                            .actitud = ActitudMesa()};

@@ -87,6 +87,14 @@ def set_column(table, column, text):
     path.write_bytes(data)
 
 
+def set_speed(table, speed):
+    """VelocidadJuego, from 0 to 100."""
+    path = table.folder / "ZOV31.INI"
+    data = bytearray(path.read_bytes())
+    data[4:7] = b"%03d" % speed
+    path.write_bytes(data)
+
+
 def begin_match(table):
     table.start()
     table.wait_for_window()
@@ -167,6 +175,8 @@ def play(table):
     player = CinquilloPlayer(table)
     begin_match(table)
     leave_in_the_middle(table, player)
+    # The first half goes at the pace of a first start; who plays on likes it quicker.
+    set_speed(table, 80)
     go_on(table)
     finish_match(table, player)
     play_more(table, player)

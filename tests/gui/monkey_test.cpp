@@ -144,6 +144,7 @@ class PruebaMono : public QObject {
     std::deque<std::function<void()>> gesto_; // what is left of the gesture under way
     QString fallo_;
     int esperas_ = 0, pausas_ = 0, manos_ = 0, sesiones_ = 0, partidas_ = 0;
+    int colgadas_ = 0;   // waits in a row with a card on the pointer of a mouse that holds none
     int acciones_ = 0;   // in this session
     int pasos_caja_ = 0; // since the box on the screen came up
     QWidget* caja_ = nullptr;
@@ -171,7 +172,7 @@ class PruebaMono : public QObject {
         ++esperas_;
         CuentaManosJugadas();
         std::string fallo = prueba::FalloDeEspera();
-        if (fallo.empty() && mano_.EstaQuieta() && (estado.ArrastraCarta || estado.ArrastraReparto))
+        if (fallo.empty() && QuedaColgada())
             fallo = "una carta se queda colgada del puntero";
         // The marks of a serie that has gone bust and the series that are browsed are not painted anew the same: that
         // is held for the games without chips only.
@@ -180,6 +181,15 @@ class PruebaMono : public QObject {
             fallo = FalloDePintura();
         if (!fallo.empty())
             Falla(fallo + " (en espera, " + DiMomento() + ")");
+    }
+
+    // A wait begins with what came during the last pause still in the queue, the release among it: only a card that
+    // hangs on over several waits was forgotten.
+    bool QuedaColgada() {
+        constexpr int kEsperas = 3;
+        const bool colgada = mano_.EstaQuieta() && (estado.ArrastraCarta || estado.ArrastraReparto);
+        colgadas_ = colgada ? colgadas_ + 1 : 0;
+        return colgadas_ >= kEsperas;
     }
 
     // What stands on the felt, bit by bit painted, is what painting all of it anew gives: nothing was left behind and

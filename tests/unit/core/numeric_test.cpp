@@ -73,4 +73,12 @@ TEST(RedondeaA, UnNumeroInmensoQuedaComoEsta) {
     EXPECT_EQ(RedondeaA(1e17, 2), 1e17);
 }
 
+TEST(EnDecimal, UnNumeroSencilloValeLoQueDice) {
+    EXPECT_NE(static_cast<double>(0.7F), 0.7);
+    EXPECT_EQ(EnDecimal(0.7F), 0.7);
+    EXPECT_EQ(EnDecimal(0.45F), 0.45);
+    EXPECT_EQ(EnDecimal(0.3984375F), 0.3984375);
+    EXPECT_EQ(EnDecimal(0), 0);
+}
+
 } // namespace

@@ -9,6 +9,7 @@
 #include "core/game_state.h"
 #include "platform/headless/headless_platform.h"
 #include "storage/settings.h"
+#include "table/game_row.h"
 #include "tests/support/live_table.h"
 
 using testing::ElementsAre;
@@ -39,16 +40,18 @@ struct AjustesQueVienen : prueba::MesaViva {
 
 } // namespace
 
-TEST_F(AjustesQueVienen, SonSieteYSeLeenSinDecirNada) {
+TEST_F(AjustesQueVienen, SonElGeneralYUnoPorJuegoYSeLeenSinDecirNada) {
+    std::vector<std::string> esperados{"ZOV31.INI"};
+    for (const FilaJuego* fila : FilasDeJuegos())
+        esperados.push_back(NombreIniJuego(fila->id));
     Pon();
-    EXPECT_THAT(puestos, ElementsAre("ZOV31.INI", "ZOV0131.INI", "ZOV3131.INI", "ZOV5131.INI",
-                                     "ZOV5831.INI", "ZOV6531.INI", "ZOV7031.INI"));
+    EXPECT_EQ(puestos, esperados);
     LeerIniGeneral();
     EXPECT_FALSE(estado.FicheroNuevo);
-    for (const Integer juego : {kPoker, kBlackJack, kTute, kBrisca, kSieteYMedia, kCinquillo}) {
-        estado.JuegoActivo = juego;
+    for (const FilaJuego* fila : FilasDeJuegos()) {
+        estado.JuegoActivo = fila->id;
         LeerIniJuego();
-        EXPECT_FALSE(estado.FicheroNuevo) << juego;
+        EXPECT_FALSE(estado.FicheroNuevo) << fila->nombre;
     }
     EXPECT_THAT(p.mensajes, IsEmpty());
 }
