@@ -15,7 +15,6 @@
 namespace {
 
 constexpr int kTope = 13; // position of the As
-constexpr int kSota9 = 9; // positions above are figures
 
 struct Mesa {
     const RegistroJugada& j;
