@@ -1,13 +1,11 @@
 #include "table/manual_deal.h"
 
-#include "betting/stakes.h"
 #include "core/game_state.h"
 #include "core/numeric.h"
 #include "core/random.h"
 #include "core/session_state.h"
 #include "table/button_column.h"
 #include "table/controls.h"
-#include "table/game_row.h"
 #include "table/manual_spread.h"
 #include "table/messages.h"
 #include "table/seat_drawing.h"
@@ -54,6 +52,14 @@ int Repartidas() {
 // The deal was broken off by a change of the rules.
 bool RepartoRoto() {
     return estado.SistemaReparto == kRepartoAutomatico || estado.TotalBaraja != total_al_empezar;
+}
+
+// Everyone who may take cards is dealt a whole hand, also who is in with a bet of before and has no chips left.
+Integer CuantosReciben() {
+    int cuantos = 0;
+    for (Integer asiento = 1; asiento <= 4; ++asiento)
+        cuantos += RecibeAMano(asiento) ? 1 : 0;
+    return EnteroDe(cuantos);
 }
 
 void DescubreManos() {
@@ -107,7 +113,7 @@ bool RepartirAMano() {
     MostrarNombres();
     HabilitaBoton(kBotonNueva, true);
     HabilitaBoton(kBotonNormas, true);
-    estado.JugadoresEnMano = JuegoEnMesa().dinero.hay ? CuentaConResto() : estado.NumJugadores;
+    estado.JugadoresEnMano = CuantosReciben();
     estado.UltimoRecibe = 0;
     if (!EsperaHasta([] { return RepartoRoto() || RepartoCompleto(); })) {
         estado.RepartoEnCurso = false;

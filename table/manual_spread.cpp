@@ -22,11 +22,7 @@ int ColumnaDe(Integer palo, Integer valor) {
 }
 
 bool Admite(Integer asiento) {
-    if (estado.NumCartas(asiento, 1) >= estado.CartasReparto)
-        return false;
-    const FilaJuego& juego = JuegoEnMesa();
-    return juego.reparto.recibe != nullptr ? juego.reparto.recibe(asiento, true)
-                                           : estado.EstadoJugador(asiento) == kActivado;
+    return estado.NumCartas(asiento, 1) < estado.CartasReparto && RecibeAMano(asiento);
 }
 
 int PrimerLugarLibre(Integer asiento) {
@@ -43,6 +39,12 @@ void SueltaColgada() {
 }
 
 } // namespace
+
+bool RecibeAMano(Integer asiento) {
+    const FilaJuego& juego = JuegoEnMesa();
+    return juego.reparto.recibe != nullptr ? juego.reparto.recibe(asiento, true)
+                                           : estado.EstadoJugador(asiento) == kActivado;
+}
 
 Carta CartaDelReparto(int fila, int columna) {
     return {EnteroDe(fila), EnteroDe(fila == kComodin ? kValorComodin + columna : columna)};

@@ -12,6 +12,9 @@ void PintaLugarDelReparto(int fila, int columna);
 template <class F>
 void PorElReparto(F&& visita);
 
+// The seat (1..4) gets cards in this hand.
+bool RecibeAMano(Integer asiento);
+
 // The card of a place: the fifth row holds the jokers.
 Carta CartaDelReparto(int fila, int columna);
 // The deck has a card for the place.

@@ -381,6 +381,18 @@ TEST_F(RepartoAMano, EnElPokerRecibeQuienTieneResto) {
     EXPECT_EQ(estado.NumCartas(3, 1), 1);
 }
 
+// A void hand has left the ante of seat 1, its last chips, in the pot: it is in with that, and wants all its cards.
+TEST_F(RepartoAMano, EnElPokerTambienRecibeQuienEstaConSuRestoEnElBote) {
+    Juega(kPoker);
+    apuestas.Apuesta(1, 1, 2) = 3;
+    apuestas.Fichas(3, 4) = 2;
+    apuestas.Fichas(4, 4) = 2;
+    Extendido();
+    EXPECT_EQ(estado.JugadoresEnMano, 3);
+    Da({kOros, 1}, 1);
+    EXPECT_EQ(estado.NumCartas(1, 1), 1);
+}
+
 TEST_F(RepartoAMano, EnSieteYMediaLaCartaSeDaTapada) {
     Juega(kSieteYMedia);
     apuestas.Fichas(3, 4) = 2;

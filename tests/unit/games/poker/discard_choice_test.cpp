@@ -237,6 +237,28 @@ TEST_F(EleccionDeDescarte, CuatroSeguidas) {
             {con_hueco, kAgresivo, 50, "....5"}});
 }
 
+// 5, 6 and 7 alone would be played for; with the 9 they are four, and who does not play for four keeps a high card.
+TEST_F(EleccionDeDescarte, CuatroConHuecoQuitanDeEnMedioATresSeguidas) {
+    const char* mano = "5o 6c 7e 9b Ko";
+    Espera({{mano, kConservador, 49, "1234."},
+            {mano, kConservador, 100, "1234."},
+            {mano, kMedio, 49, "1234."},
+            {mano, kMedio, 100, "1234."},
+            {mano, kAgresivo, 49, kTodas},
+            {mano, kAgresivo, 50, "....5"}});
+}
+
+TEST_F(EleccionDeDescarte, CuatroDelPaloQuitanDeEnMedioATresSeguidas) {
+    const char* mano = "5o 6o 7o Ko 2c";
+    Espera({{mano, kConservador, 100, "123.5"},
+            {mano, kMedio, 49, "123.5"},
+            {mano, kMedio, 59, "123.5"},
+            {mano, kMedio, 60, "....5"},
+            {mano, kAgresivo, 49, kTodas},
+            {mano, kAgresivo, 59, kTodas},
+            {mano, kAgresivo, 60, "....5"}});
+}
+
 TEST_F(EleccionDeDescarte, ElProyectoDeColorPideNivel60) {
     const char* mano = "Ko 9o 7o 3o 2c";
     Espera({{mano, kMedio, 60, "....5"},
@@ -251,6 +273,15 @@ TEST_F(EleccionDeDescarte, AlProyectoDeEscaleraDeColorLeBastaNivel25) {
             {mano, kMedio, 24, kTodas},
             {mano, kAgresivo, 25, "....5"},
             {mano, kAgresivo, 24, kTodas}});
+}
+
+TEST_F(EleccionDeDescarte, CuatroDeEscaleraDeColorQuitanDeEnMedioATresSeguidas) {
+    const char* mano = "5o 6o 7o 9o Kc";
+    Espera({{mano, kConservador, 100, "1234."},
+            {mano, kMedio, 24, "1234."},
+            {mano, kMedio, 25, "....5"},
+            {mano, kAgresivo, 24, kTodas},
+            {mano, kAgresivo, 25, "....5"}});
 }
 
 TEST_F(EleccionDeDescarte, ConUnAsElMedioNoPersigueUnaEscaleraDeColorConHueco) {
