@@ -8,6 +8,7 @@
 #include "table/controls.h"
 #include "table/manual_spread.h"
 #include "table/messages.h"
+#include "table/pile.h"
 #include "table/seat_drawing.h"
 #include "table/waiting.h"
 #include "table/whole_table.h"
@@ -96,6 +97,9 @@ void CierraReparto() {
     estado.CartasEnMazo = EnteroDe(estado.CartasEnMazo - repartidas);
     estado.PosicionMazo = EnteroDe(estado.TotalBaraja - estado.CartasEnMazo + 1);
     HazBaraja(repartidas);
+    // Cards will fly from there, as after a deal by the program.
+    if (estado.CartasEnMazo > 0)
+        DibujarMazo(estado.MazoX, estado.MazoY, estado.CartasEnMazo);
 }
 
 } // namespace

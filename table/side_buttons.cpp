@@ -17,6 +17,7 @@ constexpr int kLargoZona = 250;
 constexpr int kMitadMazo = 56, kMitadMazoAlto = 84;
 constexpr int kMitadApuesta = 49; // of the chips that lie in the middle before the seat
 constexpr Fuente kLetraBoton{.alto = 12, .negrita = true, .tope = 84};
+constexpr Fuente kLetraDosLineas{.alto = 9, .negrita = true, .tope = 84};
 
 // A control of ancho by alto on the inner side of the seat's zone, a lo largo pixels along its edge.
 Rectangulo JuntoAlAsiento(int asiento, int a_lo_largo, int adentro, int ancho, int alto) {
@@ -33,6 +34,21 @@ Rectangulo JuntoAlAsiento(int asiento, int a_lo_largo, int adentro, int ancho, i
     }
 }
 
+// Two words that stand apart are too long for one line.
+void Rotula(Lienzo& boton, const Rectangulo& donde, const std::string& texto) {
+    const auto escribe = [&](const std::string& linea, int y, const Fuente& letra) {
+        boton.Texto(donde.ancho / 2, y, linea, letra, color::kBlanco, Alineacion::Centro);
+    };
+    const std::size_t hueco = texto.find("  ");
+    if (hueco == std::string::npos) {
+        escribe(texto, (donde.alto - kLetraBoton.alto) / 2 - 1, kLetraBoton);
+        return;
+    }
+    const int medio = donde.alto / 2;
+    escribe(texto.substr(0, hueco), medio - kLetraDosLineas.alto - 2, kLetraDosLineas);
+    escribe(Recorta(texto.substr(hueco)), medio - 2, kLetraDosLineas);
+}
+
 void Pon(Control control, int indice, const Rectangulo& donde, const lamina::Recorte& recorte,
          const std::string& texto, std::string_view nombre) {
     Plataforma& p = plataforma();
@@ -45,10 +61,8 @@ void Pon(Control control, int indice, const Rectangulo& donde, const lamina::Rec
     Lienzo& lienzo = p.LienzoDe(control, indice);
     lienzo.Fieltro({0, 0, donde.ancho, donde.alto});
     lienzo.Lamina(0, 0, recorte);
-    if (!texto.empty()) {
-        lienzo.Texto(donde.ancho / 2, (donde.alto - kLetraBoton.alto) / 2 - 1, Recorta(texto),
-                     kLetraBoton, color::kBlanco, Alineacion::Centro);
-    }
+    if (!texto.empty())
+        Rotula(lienzo, donde, Recorta(texto));
     p.Repinta();
 }
 

@@ -2,17 +2,14 @@
 
 #include <algorithm>
 
-#include "betting/phases.h"
 #include "core/game_state.h"
 #include "games/poker/discard_target.h"
 #include "games/poker/hand_layout.h"
 #include "games/poker/hand_reading.h"
+#include "games/poker/hand_tally.h"
 #include "games/poker/poker_state.h"
 
 namespace {
-
-constexpr int kCartasMano = 5;
-constexpr Integer kRey = 13;
 
 struct CartaEnMano {
     Integer palo, valor;
@@ -23,8 +20,8 @@ CartaEnMano CartaDe(Integer asiento, int lugar) {
             estado.Mano(asiento, kSeriePoker, lugar, kValor)};
 }
 
-// Marks the cards of which se_va(valor, comodin_guardado) is true. The first joker is kept whatever it says; a second
-// one is a card like any other.
+// Marks the cards of which se_va(valor) is true. The first joker is kept whatever it says; a second one is a card like
+// any other.
 template <class SeVa>
 void MarcaGuardandoComodin(Integer asiento, SeVa se_va) {
     bool comodin_guardado = false;
@@ -33,22 +30,18 @@ void MarcaGuardandoComodin(Integer asiento, SeVa se_va) {
         if (carta.palo == kComodin && !comodin_guardado)
             comodin_guardado = true;
         else
-            poker.MarcaDescarte(lugar) = se_va(carta.valor, comodin_guardado) ? 1 : 0;
+            poker.MarcaDescarte(lugar) = se_va(carta.valor) ? 1 : 0;
     }
 }
 
-const RegistroJugada& JugadaBuscada(Integer asiento) {
-    return poker.Jugadas(asiento, poker.JugadaObjetivo);
+void MarcaFueraDelGrupo(Integer asiento, Integer categoria) {
+    const Integer grupo = poker.Jugadas(asiento, categoria).Cartas(1);
+    MarcaGuardandoComodin(asiento, [grupo](Integer valor) { return valor != grupo; });
 }
 
-void MarcaFueraDelGrupo(Integer asiento) {
-    const Integer grupo = JugadaBuscada(asiento).Cartas(1);
-    MarcaGuardandoComodin(asiento, [&](Integer valor, bool) { return valor != grupo; });
-}
-
-void MarcaFueraDeLasParejas(Integer asiento) {
-    const RegistroJugada& jugada = JugadaBuscada(asiento);
-    MarcaGuardandoComodin(asiento, [&](Integer valor, bool) {
+void MarcaFueraDeLasParejas(Integer asiento, Integer categoria) {
+    const RegistroJugada& jugada = poker.Jugadas(asiento, categoria);
+    MarcaGuardandoComodin(asiento, [&jugada](Integer valor) {
         return valor != jugada.Cartas(1) && valor != jugada.Cartas(2);
     });
 }
@@ -59,18 +52,22 @@ bool MereceGuardarse(Integer valor, Integer caracter) {
     case kConservador:
         return EsFigura(valor);
     case kMedio:
-        return valor == kAs || valor == kRey;
+        return valor == kValorAs || valor == kValorRey;
     default:
-        return valor == kAs;
+        return valor == kValorAs;
     }
 }
 
-void MarcaTodasMenosLaMayor(Integer asiento) {
-    const Integer mayor = JugadaBuscada(asiento).Cartas(1);
-    const Integer caracter = estado.CaracterJugador(asiento);
-    MarcaGuardandoComodin(asiento, [&](Integer valor, bool comodin_guardado) {
-        return valor != mayor || (!comodin_guardado && !MereceGuardarse(valor, caracter));
-    });
+// A lone high card goes too when it is not high enough for the seat, unless a joker lies before it in the hand.
+void SueltaLaMayor(Integer asiento) {
+    const Integer mayor = poker.Jugadas(asiento, poker.CartaMayor).Cartas(1);
+    for (int lugar = 1; lugar <= kCartasMano; ++lugar) {
+        const CartaEnMano carta = CartaDe(asiento, lugar);
+        if (carta.palo == kComodin)
+            return;
+        if (carta.valor == mayor && !MereceGuardarse(mayor, estado.CaracterJugador(asiento)))
+            poker.MarcaDescarte(lugar) = 1;
+    }
 }
 
 bool EsClave(const CartaEnMano& carta) {
@@ -83,8 +80,8 @@ bool EsClave(const CartaEnMano& carta) {
     return false;
 }
 
-void MarcaFueraDelProyecto(Integer asiento) {
-    OrdenaJugada(asiento, poker.JugadaObjetivo);
+void MarcaFueraDelProyecto(Integer asiento, Integer categoria) {
+    OrdenaJugada(asiento, categoria);
     for (int lugar = 1; lugar <= kCartasMano; ++lugar)
         poker.MarcaDescarte(lugar) = EsClave(CartaDe(asiento, lugar)) ? 0 : 1;
 }
@@ -92,14 +89,14 @@ void MarcaFueraDelProyecto(Integer asiento) {
 // How the cards that go are found, by the category played for. With any other the seat is served.
 struct FilaMarca {
     Integer EstadoPoker::*objetivo;
-    void (*marca)(Integer asiento);
+    void (*marca)(Integer asiento, Integer categoria);
 };
 constexpr FilaMarca kMarcas[] = {
     {&EstadoPoker::Poker, MarcaFueraDelGrupo},
     {&EstadoPoker::Trio, MarcaFueraDelGrupo},
     {&EstadoPoker::Pareja, MarcaFueraDelGrupo},
     {&EstadoPoker::DoblePareja, MarcaFueraDeLasParejas},
-    {&EstadoPoker::CartaMayor, MarcaTodasMenosLaMayor},
+    {&EstadoPoker::CartaMayor, MarcaFueraDelGrupo},
     {&EstadoPoker::ProyFiguras, MarcaFueraDelProyecto},
     {&EstadoPoker::ProyEscalera, MarcaFueraDelProyecto},
     {&EstadoPoker::ProyColor, MarcaFueraDelProyecto},
@@ -110,13 +107,19 @@ constexpr FilaMarca kMarcas[] = {
 
 } // namespace
 
+void MarcaLoQueSobra(Integer asiento, Integer categoria) {
+    poker.MarcaDescarte.Borra();
+    const auto* fila = std::ranges::find_if(
+        kMarcas, [=](const FilaMarca& f) { return poker.*f.objetivo == categoria; });
+    if (fila != std::end(kMarcas))
+        fila->marca(asiento, categoria);
+}
+
 void DecideDescarte() {
     const Integer asiento = estado.JugadorActual;
     AnalizaJugada(asiento);
     poker.JugadaObjetivo = CategoriaParaJugar();
-    poker.MarcaDescarte.Borra();
-    const auto* fila = std::ranges::find_if(
-        kMarcas, [](const FilaMarca& f) { return poker.*f.objetivo == poker.JugadaObjetivo; });
-    if (fila != std::end(kMarcas))
-        fila->marca(asiento);
+    MarcaLoQueSobra(asiento, poker.JugadaObjetivo);
+    if (poker.JugadaObjetivo == poker.CartaMayor)
+        SueltaLaMayor(asiento);
 }

@@ -1,10 +1,11 @@
 """A deal by hand and the order of a hand by mouse: what is given, given back and refused, the pop-up, cards
 moved within the hand."""
 
+from lib.dealer import ME, OPPONENT
 from lib.forms import Normas, Personal, sit_two
 from lib.table import expect, run, wait_for, xdotool
-from lib.trick_player import (AS, BASTOS, CABALLO, COPAS, ESPADAS, ME, OPPONENT, OROS, RANKS, REY,
-                              SOTA, STRENGTH, TrickPlayer)
+from lib.trick_player import (AS, BASTOS, CABALLO, COPAS, ESPADAS, OROS, RANKS, REY, SOTA, STRENGTH,
+                              TrickPlayer)
 
 MINE = [(BASTOS, 3), (OROS, 2), (COPAS, REY), (OROS, AS), (ESPADAS, SOTA), (COPAS, 7)]
 ONE_TOO_MANY = (ESPADAS, CABALLO)

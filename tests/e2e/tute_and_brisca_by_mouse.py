@@ -1,10 +1,10 @@
 """Matches of Tute and Brisca by mouse and picture: cards dealt by hand, the turned card exchanged, a cante;
 from one game to the other and back in the middle of their matches."""
 
+from lib.dealer import ME, OPPONENT
 from lib.forms import Normas, Personal, sit_two
 from lib.table import expect, run, wait_for
-from lib.trick_player import (AS, BASTOS, CABALLO, COPAS, ESPADAS, ME, OPPONENT, OROS, POINTS, REY,
-                              TrickPlayer)
+from lib.trick_player import (AS, BASTOS, CABALLO, COPAS, ESPADAS, OROS, POINTS, REY, TrickPlayer)
 
 ANOTHER_MATCH = "Abandonar la partida en curso"
 SLOW = 60  # slow enough for cards that stand out of the hand for a moment to be seen

@@ -1,84 +1,34 @@
 // The bet board on the real table: shown, pressed by the mouse and by the keyboard, hidden; a chip on its way.
 
-#include <QApplication>
-#include <QStandardPaths>
-#include <QTemporaryDir>
 #include <QTest>
-#include <algorithm>
-#include <memory>
 
 #include "betting/bet_state.h"
 #include "betting/chips.h"
 #include "betting/phases.h"
-#include "core/default_settings.h"
 #include "games/game_rows.h"
-#include "platform/qt/platform_qt.h"
-#include "session/main_buttons.h"
-#include "session/match_driver.h"
-#include "session/state_blocks.h"
 #include "table/bet_board.h"
 #include "table/deck.h"
 #include "table/layout.h"
 #include "table/trace.h"
-#include "table/waiting.h"
-#include "table/whole_table.h"
-#include "tests/gui/deck_images.h"
+#include "tests/gui/live_window.h"
 
-class PruebaApostadora : public QObject {
+class PruebaApostadora : public QObject, private prueba::VentanaViva {
     Q_OBJECT
 
-    QTemporaryDir carpeta_;
-    std::unique_ptr<PlataformaQt> mesa_;
-
-    QWidget* Tapete() { return mesa_->Ventana().widget(); }
-    VistaControl* Vista(Control control) {
-        const auto vistas = Tapete()->findChildren<VistaControl*>();
-        const auto vista = std::ranges::find_if(
-            vistas, [control](VistaControl* una) { return una->Cual() == control; });
-        return vista == vistas.end() ? nullptr : *vista;
-    }
-    bool SeVe(Control control) {
-        VistaControl* vista = Vista(control);
-        return vista != nullptr && vista->isVisible();
-    }
-    void Pasa() { PaseDeEventos(Pase::DeEspera); }
     void Pulsa(Control control) {
         QTest::mouseClick(Vista(control), Qt::LeftButton);
         Pasa();
     }
     QPoint SobreFicha(int d) { return {estado.PosFichaX(3, d) + 16, estado.PosFichaY(3, d) + 16}; }
-    void ClicEnFicha(int d) {
-        QTest::mouseClick(Tapete(), Qt::LeftButton, {}, SobreFicha(d));
-        Pasa();
-    }
+    void ClicEnFicha(int d) { Clic(SobreFicha(d)); }
 
 private Q_SLOTS:
-    void initTestCase() {
-        QStandardPaths::setTestModeEnabled(true);
-        QVERIFY(BarajaDeColores(13).save(carpeta_.filePath("Baraja01.bmp")));
-        QVERIFY(BarajaDeColores(12).save(carpeta_.filePath("Baraja02.bmp")));
-        QVERIFY(PonTablaDeDescartes(carpeta_.path()));
-    }
+    void initTestCase() { QVERIFY(PonFicheros()); }
 
     // Póker, seat 4 by hand and on turn in its first round, with 100 points.
     void init() {
-        mesa_ = std::make_unique<PlataformaQt>(carpeta_.path());
-        UsaPlataforma(*mesa_);
-        RegistraDespacho(DespachaEvento);
-        mesa_->Ventana().resize(800, 600);
-        mesa_->Ventana().show();
-        QVERIFY(QTest::qWaitForWindowActive(&mesa_->Ventana()));
-        BorraEstado();
-        sesion = {};
-        PonValoresPorDefecto();
-        estado.JuegoActivo = kPoker;
-        estado.VelocidadJuego = 100;
+        QVERIFY(Abre(kPoker));
         estado.LeyApertura = 14; // anybody may open
-        estado.SaltoLinea = "\r\n";
-        estado.CarpetaPrograma = estado.CarpetaTrabajo = carpeta_.path().toStdString();
-        CalcularMesa();
-        LimpiarMesa();
-        IniciarTablas();
         estado.PartidaEnCurso = estado.ManoEnCurso = estado.EsperandoJugada = true;
         estado.JugadorActual = 4;
         estado.SerieActual = estado.SerieEnJuego = 1;
@@ -95,7 +45,7 @@ private Q_SLOTS:
     }
     void cleanup() {
         EscuchaTraza({});
-        mesa_.reset();
+        Cierra();
     }
 
     void SeMuestraConLosBotonesQueTocan() {
@@ -165,7 +115,7 @@ private Q_SLOTS:
     }
 
     void ConOtroTamanoSigueEnSuEsquina() {
-        mesa_->Ventana().resize(1100, 760);
+        Mesa().Ventana().resize(1100, 760);
         QVERIFY(QTest::qWaitFor([this] {
             Pasa();
             return estado.AltoMesa == 760;

@@ -1,25 +1,14 @@
 // The pointer over every kind of place on the real table, and what a click, a drag or the pop-up does there.
 
-#include <QApplication>
 #include <QDialog>
-#include <QStandardPaths>
-#include <QTemporaryDir>
 #include <QTest>
-#include <memory>
 
-#include "core/default_settings.h"
 #include "games/common/trick_state.h"
-#include "platform/qt/platform_qt.h"
-#include "session/main_buttons.h"
-#include "session/match_driver.h"
-#include "session/state_blocks.h"
 #include "table/button_column.h"
 #include "table/deck.h"
 #include "table/layout.h"
 #include "table/seat_drawing.h"
-#include "table/waiting.h"
-#include "table/whole_table.h"
-#include "tests/gui/deck_images.h"
+#include "tests/gui/live_window.h"
 #include "tests/gui/random_hand.h"
 
 namespace {
@@ -57,42 +46,16 @@ QPoint EnLaZona(int asiento) {
 
 } // namespace
 
-class PruebaEntrada : public QObject {
+class PruebaEntrada : public QObject, private prueba::VentanaViva {
     Q_OBJECT
 
-    QTemporaryDir carpeta_;
-    std::unique_ptr<PlataformaQt> mesa_;
-
-    QWidget* Tapete() { return mesa_->Ventana().widget(); }
-    VistaControl* Vista(Control control, int indice = 0) {
+    // The control that shows, by its index.
+    VistaControl* Visible(Control control, int indice = 0) {
         for (auto* vista : Tapete()->findChildren<VistaControl*>()) {
             if (vista->Cual() == control && vista->isVisible() && indice-- <= 1)
                 return vista;
         }
         return nullptr;
-    }
-    void Pasa() { PaseDeEventos(Pase::DeEspera); }
-
-    void MueveSobre(QWidget* que, const QPoint& donde, Qt::MouseButtons botones = Qt::NoButton) {
-        QMouseEvent evento(QEvent::MouseMove, donde, que->mapToGlobal(donde), Qt::NoButton, botones,
-                           Qt::NoModifier);
-        QApplication::sendEvent(que, &evento);
-        Pasa();
-    }
-    void Mueve(const QPoint& donde, Qt::MouseButtons botones = Qt::NoButton) {
-        MueveSobre(Tapete(), donde, botones);
-    }
-    void Aprieta(const QPoint& donde, Qt::MouseButton boton = Qt::LeftButton) {
-        QTest::mousePress(Tapete(), boton, {}, donde);
-        Pasa();
-    }
-    void Suelta(const QPoint& donde, Qt::MouseButton boton = Qt::LeftButton) {
-        QTest::mouseRelease(Tapete(), boton, {}, donde);
-        Pasa();
-    }
-    void Clic(const QPoint& donde, Qt::MouseButton boton = Qt::LeftButton) {
-        Aprieta(donde, boton);
-        Suelta(donde, boton);
     }
     void Arrastra(const QPoint& desde, const QPoint& hasta) {
         Aprieta(desde);
@@ -100,7 +63,7 @@ class PruebaEntrada : public QObject {
         Mueve(hasta, Qt::LeftButton);
         Suelta(hasta);
     }
-    Puntero ElPuntero() { return mesa_->PunteroDe(Control::Mesa, 0); }
+    Puntero ElPuntero() { return Mesa().PunteroDe(Control::Mesa, 0); }
     Puntero PunteroEn(const QPoint& donde) {
         Mueve(donde);
         return ElPuntero();
@@ -139,33 +102,9 @@ class PruebaEntrada : public QObject {
     }
 
 private Q_SLOTS:
-    void initTestCase() {
-        QStandardPaths::setTestModeEnabled(true);
-        QVERIFY(BarajaDeColores(13).save(carpeta_.filePath("Baraja01.bmp")));
-        QVERIFY(BarajaDeColores(12).save(carpeta_.filePath("Baraja02.bmp")));
-        QVERIFY(PonTablaDeDescartes(carpeta_.path()));
-    }
-
-    void init() {
-        mesa_ = std::make_unique<PlataformaQt>(carpeta_.path());
-        UsaPlataforma(*mesa_);
-        RegistraDespacho(DespachaEvento);
-        mesa_->Ventana().resize(800, 600);
-        mesa_->Ventana().show();
-        QVERIFY(QTest::qWaitForWindowActive(&mesa_->Ventana()));
-        BorraEstado();
-        sesion = {};
-        PonValoresPorDefecto();
-        estado.JuegoActivo = kCinquillo;
-        estado.VelocidadJuego = 100;
-        estado.SaltoLinea = "\r\n";
-        estado.CarpetaPrograma = estado.CarpetaTrabajo = carpeta_.path().toStdString();
-        CalcularMesa();
-        LimpiarMesa();
-        IniciarTablas();
-        Pasa();
-    }
-    void cleanup() { mesa_.reset(); }
+    void initTestCase() { QVERIFY(PonFicheros()); }
+    void init() { QVERIFY(Abre(kCinquillo)); }
+    void cleanup() { Cierra(); }
 
     // Shapes.
 
@@ -249,17 +188,17 @@ private Q_SLOTS:
 
     void LosBotonesTienenLosSuyos() {
         for (const int boton : {1, 6, 7})
-            QVERIFY(mesa_->PunteroDe(Control::Pic_Boton, boton) == Puntero::ManoIndice);
+            QVERIFY(Mesa().PunteroDe(Control::Pic_Boton, boton) == Puntero::ManoIndice);
         for (const int boton : {2, 3, 4, 5, 8}) // their forms are not there, or no hand is on
-            QVERIFY(mesa_->PunteroDe(Control::Pic_Boton, boton) == Puntero::Prohibido);
+            QVERIFY(Mesa().PunteroDe(Control::Pic_Boton, boton) == Puntero::Prohibido);
         PedirContinuar(1);
-        QVERIFY(mesa_->PunteroDe(Control::Pic_BotContinuar, 0) == Puntero::ManoIndice);
+        QVERIFY(Mesa().PunteroDe(Control::Pic_BotContinuar, 0) == Puntero::ManoIndice);
     }
 
     void SobreLaColumnaLaMesaOlvidaSuPuntero() {
         PonCinquillo();
         QVERIFY(PunteroEn(EnLaCarta(4, 1)) == Puntero::ManoVerde);
-        MueveSobre(Vista(Control::Pic_Botonera), {70, 580});
+        MueveSobre(Visible(Control::Pic_Botonera), {70, 580});
         QVERIFY(ElPuntero() == Puntero::Flecha);
         QCOMPARE(estado.CursorTabla, 0);
     }
@@ -267,12 +206,12 @@ private Q_SLOTS:
     void MientrasUnBotonActuaSeEspera() {
         static Puntero visto;
         static PlataformaQt* mesa;
-        mesa = mesa_.get();
+        mesa = &Mesa();
         visto = Puntero::Flecha;
-        mesa_->PonForma(Forma::Marcador,
+        Mesa().PonForma(Forma::Marcador,
                         [](QWidget*) { visto = mesa->PunteroDe(Control::Mesa, 0); });
         HabilitaBoton(kBotonMarcador, true);
-        QTest::mouseClick(Vista(Control::Pic_Boton, kBotonMarcador), Qt::LeftButton);
+        QTest::mouseClick(Visible(Control::Pic_Boton, kBotonMarcador), Qt::LeftButton);
         Pasa();
         QVERIFY(visto == Puntero::RelojArena);
         QVERIFY(ElPuntero() == Puntero::Flecha);
@@ -302,21 +241,21 @@ private Q_SLOTS:
         PonCinquillo();
         estado.CartasJugador(1) = kOcultas;
         Clic(EnLaZona(1), Qt::RightButton);
-        QVERIFY(Vista(Control::Pic_SelOpciones) == nullptr);
+        QVERIFY(Visible(Control::Pic_SelOpciones) == nullptr);
         Clic({355, 300}, Qt::RightButton);
-        QVERIFY(Vista(Control::Pic_SelOpciones) == nullptr);
+        QVERIFY(Visible(Control::Pic_SelOpciones) == nullptr);
         Clic(EnLaZona(4), Qt::RightButton);
-        QVERIFY(Vista(Control::Pic_SelOpciones) != nullptr);
+        QVERIFY(Visible(Control::Pic_SelOpciones) != nullptr);
         QCOMPARE(estado.NumOpciones, 2);
-        QCOMPARE(Vista(Control::Pic_SelOpciones)->height(), 2 * 18 + 4);
+        QCOMPARE(Visible(Control::Pic_SelOpciones)->height(), 2 * 18 + 4);
         Clic({355, 300});
-        QVERIFY(Vista(Control::Pic_SelOpciones) == nullptr);
+        QVERIFY(Visible(Control::Pic_SelOpciones) == nullptr);
     }
 
     void ElMenuCabeSiempreEnLaMesa() {
         PonCinquillo();
         Clic({EnLaZona(4).x(), 598}, Qt::RightButton);
-        VistaControl* menu = Vista(Control::Pic_SelOpciones);
+        VistaControl* menu = Visible(Control::Pic_SelOpciones);
         QVERIFY(menu != nullptr);
         QVERIFY(QRect(0, 0, estado.AnchoMesa, estado.AltoMesa).contains(menu->geometry()));
     }
@@ -325,7 +264,7 @@ private Q_SLOTS:
         PonCinquillo();
         for (const bool puesto : {true, false}) {
             Clic(EnLaZona(4), Qt::RightButton);
-            VistaControl* menu = Vista(Control::Pic_SelOpciones);
+            VistaControl* menu = Visible(Control::Pic_SelOpciones);
             MueveSobre(menu, {40, 10});
             QCOMPARE(estado.OpcionResaltada, 1);
             QTest::mouseClick(menu, Qt::LeftButton, {}, {40, 10});
@@ -338,7 +277,7 @@ private Q_SLOTS:
         PonCinquillo();
         Reparte(4, {{kOros, 6}, {kOros, 5}, {kBastos, 12}});
         Clic(EnLaZona(4), Qt::RightButton);
-        VistaControl* menu = Vista(Control::Pic_SelOpciones);
+        VistaControl* menu = Visible(Control::Pic_SelOpciones);
         MueveSobre(menu, {40, 30});
         QTest::mouseClick(menu, Qt::LeftButton, {}, {40, 30});
         Pasa();
@@ -362,7 +301,7 @@ private Q_SLOTS:
         Arrastra(EnLaCarta(4, 1), EnLaCarta(4, 3) + QPoint(40, 40));
         QCOMPARE(Valores(4), (std::vector<Integer>{6, 12, 5}));
         QVERIFY(!estado.ArrastraCarta);
-        QVERIFY(Vista(Control::Pic_Mover) == nullptr);
+        QVERIFY(Visible(Control::Pic_Mover) == nullptr);
     }
 
     void SoltadaEnSuSitioNoCambiaNada() {
@@ -378,12 +317,12 @@ private Q_SLOTS:
         Aprieta(EnLaCarta(4, 2));
         for (const QPoint donde : {QPoint(-50, -50), QPoint(355, 300), QPoint(900, 700)}) {
             Mueve(donde, Qt::LeftButton);
-            const QPoint centro = Vista(Control::Pic_Mover)->geometry().center();
+            const QPoint centro = Visible(Control::Pic_Mover)->geometry().center();
             const Rectangulo zona = ZonaDe(4);
             QVERIFY(QRect(zona.x, zona.y, zona.ancho, zona.alto).contains(centro));
         }
         Suelta({355, 300});
-        QVERIFY(Vista(Control::Pic_Mover) == nullptr);
+        QVERIFY(Visible(Control::Pic_Mover) == nullptr);
     }
 
     // The button is let go over another window: the first move without it lays the card down.
@@ -396,19 +335,19 @@ private Q_SLOTS:
         Mueve({10, 10});
         QVERIFY(!estado.ArrastraCarta);
         QCOMPARE(Valores(4).size(), 3u);
-        QVERIFY(Vista(Control::Pic_Mover) == nullptr);
+        QVERIFY(Visible(Control::Pic_Mover) == nullptr);
     }
 
     // A box that comes and goes between the press and the release has the release swallowed.
     void UnaSueltaTragadaPorUnDialogoPosaLaCarta() {
         PonCinquillo();
         estado.ModoOrdenar = true;
-        QWindow* ventana = mesa_->Ventana().windowHandle();
-        const QPoint carta = Tapete()->mapTo(&mesa_->Ventana(), EnLaCarta(4, 2));
+        QWindow* ventana = Mesa().Ventana().windowHandle();
+        const QPoint carta = Tapete()->mapTo(&Mesa().Ventana(), EnLaCarta(4, 2));
         prueba::Mano raton;
         raton.Aprieta(ventana, carta, Qt::LeftButton);
         {
-            QDialog caja(&mesa_->Ventana());
+            QDialog caja(&Mesa().Ventana());
             caja.setModal(true);
             caja.show();
             QCoreApplication::processEvents();
@@ -423,11 +362,11 @@ private Q_SLOTS:
     void UnaCartaDelRepartoEntraEnLaZonaSinSoltarla() {
         PonReparto();
         Aprieta(EnLugarDelReparto(kCopas, 3));
-        QVERIFY(Vista(Control::Pic_Mover) != nullptr);
+        QVERIFY(Visible(Control::Pic_Mover) != nullptr);
         Mueve(EnLaZona(1), Qt::LeftButton);
         QCOMPARE(Valores(1), std::vector<Integer>{3});
         QVERIFY(!estado.ArrastraReparto && !estado.CartaEnReparto(kCopas, 3));
-        QVERIFY(Vista(Control::Pic_Mover) == nullptr);
+        QVERIFY(Visible(Control::Pic_Mover) == nullptr);
         Suelta(EnLaZona(1));
         QCOMPARE(Valores(1), std::vector<Integer>{3});
     }
@@ -460,18 +399,18 @@ private Q_SLOTS:
         HabilitaBoton(kBotonAyuda, true);
         Aprieta(EnLugarDelReparto(kOros, 2));
         QVERIFY(estado.ArrastraReparto);
-        mesa_->PonForma(Forma::Marcador, [](QWidget*) {});
+        Mesa().PonForma(Forma::Marcador, [](QWidget*) {});
         HabilitaBoton(kBotonMarcador, true);
-        Vista(Control::Pic_Boton, kBotonMarcador)->Pulsa();
+        Visible(Control::Pic_Boton, kBotonMarcador)->Pulsa();
         Pasa();
         QVERIFY(!estado.ArrastraReparto && estado.CartaEnReparto(kOros, 2));
-        QVERIFY(Vista(Control::Pic_Mover) == nullptr);
+        QVERIFY(Visible(Control::Pic_Mover) == nullptr);
     }
 
     void OtroTamanoEnMedioDeUnArrastreNoPierdeLaCarta() {
         PonReparto();
         Aprieta(EnLugarDelReparto(kOros, 2));
-        mesa_->Ventana().resize(1200, 760);
+        Mesa().Ventana().resize(1200, 760);
         Pasa();
         QCOMPARE(estado.AnchoPantalla, 1200);
         Mueve(EnLaZona(3), Qt::LeftButton);
@@ -482,11 +421,11 @@ private Q_SLOTS:
 
     void EscapeYQMinimizan() {
         for (const char* letra : {"\x1b", "q", "Q"}) {
-            mesa_->Ventana().showNormal();
+            Mesa().Ventana().showNormal();
             QKeyEvent tecla(QEvent::KeyPress, Qt::Key_Q, Qt::NoModifier, letra);
             QApplication::sendEvent(Tapete(), &tecla);
             Pasa();
-            QVERIFY(mesa_->Ventana().isMinimized());
+            QVERIFY(Mesa().Ventana().isMinimized());
         }
     }
 

@@ -14,7 +14,7 @@
 #include "core/numeric.h"
 #include "core/text.h"
 #include "games/common/hands.h"
-#include "games/poker/hand_layout.h"
+#include "games/poker/discard_choice.h"
 #include "games/poker/hand_reading.h"
 #include "games/poker/hand_tally.h"
 #include "table/deck.h"
@@ -275,49 +275,13 @@ RegistroDescarte ResumeClase(const Mazo& mazo, const std::pair<Integer, Integer>
     return registro;
 }
 
-bool EsServida(Integer n) {
-    const EstadoPoker& p = poker;
-    return n == p.Repoker || n == p.EscaleraColor || n == p.Full || n == p.Color ||
-           n == p.Escalera || n == p.Figuras;
-}
-
-bool EstaEnLaClave(Integer palo, Integer valor) {
-    for (int i = 1; i <= poker.CartasClave; ++i) {
-        if (poker.JugadaOrdenada(i, 1) == palo && poker.JugadaOrdenada(i, 2) == valor)
-            return true;
-    }
-    return false;
-}
-
-// The category's rank, or its two ranks, and the first joker.
-void ConservaGrupo(std::vector<bool>& conserva, Integer categoria) {
-    const RegistroJugada& jugada = poker.Jugadas(kAsiento, categoria);
-    bool comodin_visto = false;
-    for (int lugar = 1; lugar <= kCartasMano; ++lugar) {
-        const Integer valor = estado.Mano(kAsiento, 1, lugar, kValor);
-        bool queda = valor == jugada.Cartas(1) ||
-                     (categoria == poker.DoblePareja && valor == jugada.Cartas(2));
-        if (estado.Mano(kAsiento, 1, lugar, kPalo) == kComodin && !comodin_visto)
-            queda = comodin_visto = true;
-        conserva[static_cast<std::size_t>(lugar)] = queda;
-    }
-}
-
 } // namespace
 
 std::vector<bool> Conserva(Integer categoria) {
-    std::vector<bool> conserva(kCartasMano + 1, true);
-    if (EsServida(categoria))
-        return conserva;
-    if (categoria >= poker.CartaMayor) {
-        ConservaGrupo(conserva, categoria);
-        return conserva;
-    }
-    OrdenaJugada(kAsiento, categoria);
-    for (int lugar = 1; lugar <= kCartasMano; ++lugar) {
-        conserva[static_cast<std::size_t>(lugar)] = EstaEnLaClave(
-            estado.Mano(kAsiento, 1, lugar, kPalo), estado.Mano(kAsiento, 1, lugar, kValor));
-    }
+    MarcaLoQueSobra(kAsiento, categoria);
+    std::vector<bool> conserva;
+    for (const Integer marca : poker.MarcaDescarte)
+        conserva.push_back(marca == 0);
     return conserva;
 }
 

@@ -4,9 +4,9 @@ from .table import Deck, hand_at_the_bottom, wait_for
 
 
 class Player:
-    def __init__(self, table):
+    def __init__(self, table, deck="Baraja02.bmp"):
         self.table = table
-        self.deck = Deck(table.folder / "Baraja02.bmp")
+        self.deck = Deck(table.folder / deck)
 
     def hand(self, picture):
         return hand_at_the_bottom(self.table, self.deck, picture)

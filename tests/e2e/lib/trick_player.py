@@ -1,16 +1,14 @@
 """A player of Tute and Brisca against one opponent, who sits at the top: deals by hand, finds the turned
 card and the cards of the trick in the picture, clicks cards and the pile."""
 
-from .player import Player
+from .dealer import Dealer
 from .screen import distance
-from .table import CARD_HEIGHT, CARD_WIDTH, COLUMN, expect, is_felt, wait_for, xdotool
+from .table import CARD_HEIGHT, CARD_WIDTH, expect, wait_for
 from . import screen
 
 OROS, COPAS, ESPADAS, BASTOS = 1, 2, 3, 4
 AS, SOTA, CABALLO, REY = 1, 10, 11, 12
 RANKS = (*range(1, 8), SOTA, CABALLO, REY)
-MINI_STEP, MINI_ROW, MINI_COLUMNS = 29, 48, 12
-ME, OPPONENT = 4, 2
 STRENGTH = {AS: 10, 3: 9, REY: 8, CABALLO: 7, SOTA: 6, 7: 5, 6: 4, 5: 3, 4: 2, 2: 1}
 POINTS = (AS, 3, REY, CABALLO, SOTA)
 
@@ -52,18 +50,14 @@ class TurnedCards:
         return best if distance(seen, self.indices[best]) < self.LIKENESS else None
 
 
-class TrickPlayer(Player):
+class TrickPlayer(Dealer):
+    RANKS = RANKS
+
     def __init__(self, table):
         super().__init__(table)
-        self.turned = TurnedCards(table.folder / "Baraja02.bmp")
-        self.cards = 0  # in a full hand
+        self.turned = TurnedCards(table.folder / self.DECK)
 
     # The table.
-
-    def felt(self):
-        """Corner and size of the felt."""
-        x, y, width, height = self.table.place()
-        return x, y, width - COLUMN, height
 
     def middle(self):
         x, y, width, height = self.felt()
@@ -87,56 +81,6 @@ class TrickPlayer(Player):
                 if card:
                     return card
         return None
-
-    # A deal by hand.
-
-    def mini_corner(self, card):
-        """The corner of a card's place in the spread."""
-        x, y, width, height = self.felt()
-        left = x + (width - MINI_COLUMNS * MINI_STEP) // 2
-        top = y + (height - 4 * MINI_ROW) // 2
-        return left + MINI_STEP * (card[1] - 1), top + MINI_ROW * (card[0] - 1)
-
-    def mini(self, card):
-        """A point of that place."""
-        x, y = self.mini_corner(card)
-        return x + 8, y + 40
-
-    def in_spread(self, card, picture):
-        return not is_felt(picture.pixel(*self.mini(card)))
-
-    def seat_place(self, seat):
-        """A point inside the seat's zone."""
-        x, y, width, height = self.felt()
-        return x + width // 2, y + (height - 90 if seat == ME else 90)
-
-    def is_spread(self, picture):
-        """Whether the whole deck lies there."""
-        return all(self.in_spread((suit, rank), picture) for suit in range(1, 5) for rank in RANKS)
-
-    def wait_for_spread(self):
-        wait_for(lambda: self.is_spread(self.table.shot()), 60, "the spread of a deal by hand")
-
-    def drag(self, card, seat):
-        """Takes a card of the spread to a seat and lets go."""
-        (x, y), (end_x, end_y) = self.mini(card), self.seat_place(seat)
-        xdotool("mousemove", x, y, "mousedown", 1, "mousemove", (x + end_x) // 2,
-                (y + end_y) // 2, "mousemove", end_x, end_y, "mouseup", 1)
-
-    def give(self, card, seat):
-        self.drag(card, seat)
-        wait_for(lambda: not self.in_spread(card, self.table.shot()), 20,
-                 f"card {card} to leave the spread")
-
-    def deal(self, mine, theirs):
-        """Gives the cards out; with the last one the deal is over."""
-        self.wait_for_spread()
-        self.cards = len(mine)
-        for card in theirs:
-            self.give(card, OPPONENT)
-        for card in mine[:-1]:
-            self.give(card, ME)
-        self.drag(mine[-1], ME)
 
     # A turn.
 

@@ -315,6 +315,15 @@ TEST_F(RepartoAMano, AlAcabarSeQuitaElRepartoYSeVuelvenAPintarLasManos) {
     EXPECT_EQ(cartas("palo 4 valor 3 cara 2"), 2);
 }
 
+TEST_F(RepartoAMano, ElMazoQuedaALaVistaConLoQueNoSeHaDado) {
+    EncolaRepartoDeBrisca();
+    EmpiezaTraza();
+    ASSERT_TRUE(RepartirAMano());
+    EXPECT_EQ(TrazaDe("DibujarMazo"),
+              std::vector<std::string>{"DibujarMazo(" + std::to_string(estado.MazoX) + ", " +
+                                       std::to_string(estado.MazoY) + ", 28)"});
+}
+
 TEST_F(RepartoAMano, LoDadoLlenaLosLugaresBajosYElRestoVaAlAzarPorEncima) {
     EncolaRepartoDeBrisca();
     // The first two cards left, the 4 and the 5 of oros, draw the same place of the 28: the 5 draws again.
