@@ -45,8 +45,8 @@ void Rotula(Lienzo& boton, const Rectangulo& donde, const std::string& texto) {
         return;
     }
     const int medio = donde.alto / 2;
-    escribe(texto.substr(0, hueco), medio - kLetraDosLineas.alto - 2, kLetraDosLineas);
-    escribe(Recorta(texto.substr(hueco)), medio - 2, kLetraDosLineas);
+    escribe(texto.substr(0, hueco), medio - kLetraDosLineas.alto, kLetraDosLineas);
+    escribe(Recorta(texto.substr(hueco)), medio, kLetraDosLineas);
 }
 
 void Pon(Control control, int indice, const Rectangulo& donde, const lamina::Recorte& recorte,

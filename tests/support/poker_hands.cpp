@@ -1,5 +1,8 @@
 #include "tests/support/poker_hands.h"
 
+#include <algorithm>
+#include <functional>
+
 #include "core/numeric.h"
 #include "games/poker/hand_tally.h"
 #include "table/deck.h"
@@ -25,13 +28,45 @@ BarajaDePoker::BarajaDePoker(Integer cartas_baraja, Integer comodines_juego) {
     estado.NumCartas(1, 1) = kCartasMano;
 }
 
-void BarajaDePoker::Pon(const std::array<int, 5>& cuales) const {
+void BarajaDePoker::Pon(const CartasElegidas& cuales) const {
     for (int lugar = 1; lugar <= kCartasMano; ++lugar) {
         const Carta& carta =
             cartas_[static_cast<std::size_t>(cuales[static_cast<std::size_t>(lugar - 1)])];
         estado.Mano(1, 1, lugar, kPalo) = carta.palo;
         estado.Mano(1, 1, lugar, kValor) = carta.valor;
     }
+}
+
+int BarajaDePoker::ManosComo(const CartasElegidas& cuales) const {
+    constexpr int kOrdenesDePalos = 24;
+    std::array<unsigned, 4> palos{};
+    for (const int cual : cuales) {
+        const Carta& carta = cartas_[static_cast<std::size_t>(cual)];
+        if (carta.palo != kComodin)
+            palos[static_cast<std::size_t>(carta.palo - 1)] |= 1U << carta.valor;
+    }
+    if (!std::ranges::is_sorted(palos, std::ranges::greater{}))
+        return 0;
+    // Suits with the same ranks may change places and give no other hand.
+    int manos = kOrdenesDePalos, iguales = 1;
+    for (std::size_t i = 1; i < palos.size(); ++i) {
+        iguales = palos[i] == palos[i - 1] ? iguales + 1 : 1;
+        manos /= iguales;
+    }
+    return manos;
+}
+
+ClaseDeMano LaClase() {
+    constexpr int kPrimerComodin = 90;
+    ClaseDeMano clase{};
+    for (int lugar = 1; lugar <= kCartasMano; ++lugar) {
+        const Integer palo = estado.Mano(1, 1, lugar, kPalo),
+                      valor = estado.Mano(1, 1, lugar, kValor);
+        clase[static_cast<std::size_t>(palo - 1)] |=
+            1U << (palo == kComodin ? valor - kPrimerComodin : valor);
+    }
+    std::ranges::sort(clase.begin(), clase.end() - 1);
+    return clase;
 }
 
 std::string ManoEscrita() {

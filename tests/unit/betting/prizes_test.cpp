@@ -29,6 +29,14 @@ struct PremiosTest : prueba::MesaConFichas {
             premios.push_back(apuestas.PremioJugador(i));
         return premios;
     }
+    // Seat 1, all in, shares the first rank with seats 2 and 3, who have bet more; seat 4 has folded.
+    static std::vector<int> UnCortoYDosPlenos(int corto, int pleno, int retirado) {
+        Juega(1, 0, corto);
+        Juega(2, 50, pleno);
+        Juega(3, 50, pleno);
+        SeRetira(4, 50, retirado);
+        return Premios({1, 1, 1, 0});
+    }
 };
 
 TEST_F(PremiosTest, ElUnicoGanadorSeLlevaElBote) {
@@ -60,28 +68,16 @@ TEST_F(PremiosTest, ElGanadorCortoCobraSoloSuCuotaYElPlenoTambienLoDemas) {
 
 // The part beyond is 3 for two: 2 each, and a point comes back from the first winner, short or not.
 TEST_F(PremiosTest, CuandoElRepartoRedondeaHaciaArribaElPrimeroCobraUnoMenos) {
-    Juega(1, 0, 10);
-    Juega(2, 50, 11);
-    Juega(3, 50, 11);
-    SeRetira(4, 50, 10);
-    EXPECT_THAT(Premios({1, 1, 1, 0}), ElementsAre(12, 15, 15, 0));
+    EXPECT_THAT(UnCortoYDosPlenos(10, 11, 10), ElementsAre(12, 15, 15, 0));
 }
 
 TEST_F(PremiosTest, QuienNoCobraNadaTampocoPierdeElPunto) {
-    Juega(1, 0, 0);
-    Juega(2, 50, 1);
-    Juega(3, 50, 1);
-    SeRetira(4, 50, 1);
-    EXPECT_THAT(Premios({1, 1, 1, 0}), ElementsAre(0, 1, 2, 0));
+    EXPECT_THAT(UnCortoYDosPlenos(0, 1, 1), ElementsAre(0, 1, 2, 0));
 }
 
 // The half of 5 is 2.5, to the even neighbour: 2, and the odd point goes to the first.
 TEST_F(PremiosTest, LaMitadRedondeaAlPar) {
-    Juega(1, 0, 10);
-    Juega(2, 50, 12);
-    Juega(3, 50, 12);
-    SeRetira(4, 50, 10);
-    EXPECT_THAT(Premios({1, 1, 1, 0}), ElementsAre(14, 15, 15, 0));
+    EXPECT_THAT(UnCortoYDosPlenos(10, 12, 10), ElementsAre(14, 15, 15, 0));
 }
 
 TEST_F(PremiosTest, TambienEsPlenoElQueConservaFichasAunqueUnRetiradoPusieraMas) {
