@@ -41,6 +41,15 @@ double EnDecimal(float valor) {
     return decimal;
 }
 
+Integer RedondeaCociente(long long dividendo, long long divisor) {
+    long long suelo = dividendo / divisor;
+    if (suelo * divisor > dividendo)
+        --suelo;
+    const long long dos_veces_resto = 2 * (dividendo - suelo * divisor);
+    const bool sube = dos_veces_resto > divisor || (dos_veces_resto == divisor && suelo % 2 != 0);
+    return EnteroDe(sube ? suelo + 1 : suelo);
+}
+
 Long ParteEntera(double valor) {
     return Cabe<Long>(std::floor(valor));
 }

@@ -16,6 +16,10 @@ Integer Redondea(double valor);
 // that meets a bound meets it.
 double EnDecimal(float valor);
 
+// The same of dividendo / divisor, reckoned in whole numbers: no half is met or missed by a rounding on the way.
+// divisor above 0.
+Integer RedondeaCociente(long long dividendo, long long divisor);
+
 // The largest whole number not above valor. Desbordamiento outside 32 bits.
 Long ParteEntera(double valor);
 

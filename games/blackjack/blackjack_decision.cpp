@@ -43,9 +43,11 @@ Integer ProponApuesta(const Criterio& quien) {
     const Integer maxima = estado.ApuestaMaxima;
     const bool holgado = quien.resto > quien.reserva && quien.nivel < kNivelPrudente;
     const int decimos = (holgado ? kDecimosConHolgura : kDecimosDeApuesta) + quien.caracter;
-    Integer apuesta = Redondea(maxima * decimos / 10.0);
-    if (quien.nivel < kNivelPrudente || quien.resto > 2 * quien.reserva)
-        apuesta = Redondea((quien.caracter * quien.azar + 1) * maxima / 10.0 + apuesta);
+    Integer apuesta = RedondeaCociente(maxima * decimos, 10);
+    if (quien.nivel < kNivelPrudente || quien.resto > 2 * quien.reserva) {
+        const long long decimo = (quien.caracter * quien.azar + kAzarEntero) * 1LL * maxima;
+        apuesta = RedondeaCociente(decimo + 10LL * kAzarEntero * apuesta, 10LL * kAzarEntero);
+    }
     return ApuestaAdmisible(apuesta, quien.resto);
 }
 
@@ -91,7 +93,7 @@ bool PideSegunTabla(const Jugada& mano) {
 }
 
 bool PierdeLosNervios(const Criterio& quien, const Jugada& mano) {
-    return 1 + ParteEntera(100 * quien.azar) > quien.nivel &&
+    return 1 + quien.azar / kAzarCentesima > quien.nivel &&
            mano.puntos >= quien.caracter + kSumaConNervios;
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 #include "betting/chips.h"
 #include "core/game_state.h"
@@ -17,13 +18,17 @@ constexpr Integer kMaximaConCincos = 30, kParteSinCincos = 5;
 
 Integer ReservaDe(Integer caracter) {
     const int decimos = kDecimosDeReserva.at(static_cast<std::size_t>(caracter));
-    return Redondea(estado.RestoInicial * decimos / 10.0);
+    return RedondeaCociente(estado.RestoInicial * decimos, 10);
+}
+
+int EnMillonesimas(float azar) {
+    return std::min(static_cast<int>(std::lround(EnDecimal(azar) * kAzarEntero)), kAzarEntero - 1);
 }
 
 } // namespace
 
 int Criterio::Dado() const {
-    return 1 + ParteEntera(3 * azar);
+    return 1 + 3 * azar / kAzarEntero;
 }
 
 Criterio CriterioDelTurno() {
@@ -34,7 +39,7 @@ Criterio CriterioDelTurno() {
             .caracter = caracter,
             .resto = RestoDe(asiento),
             .reserva = ReservaDe(caracter),
-            .azar = estado.AzarTurno};
+            .azar = EnMillonesimas(estado.AzarTurno)};
 }
 
 Integer ApuestaAdmisible(Integer apuesta, Integer resto) {

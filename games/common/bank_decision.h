@@ -3,6 +3,11 @@
 
 #include "core/tabla.h"
 
+// A number of chance is told in millionths, all that AzarTurno holds: reckoned with whole numbers a half is a half, and
+// a bound that chance meets is met.
+inline constexpr int kAzarEntero = 1'000'000, kAzarDecima = kAzarEntero / 10,
+                     kAzarCentesima = kAzarEntero / 100;
+
 // The seat on turn as its decision sees it. Amounts in points.
 struct Criterio {
     Integer asiento = 0;
@@ -10,7 +15,7 @@ struct Criterio {
     Integer caracter = 0; // kConservador, kMedio or kAgresivo
     Integer resto = 0;    // the seat's funds
     Integer reserva = 0;  // below this it feels short
-    double azar = 0;      // AzarTurno
+    int azar = 0;         // AzarTurno in millionths, below kAzarEntero
 
     // A number of chance, 1 to 3.
     int Dado() const;

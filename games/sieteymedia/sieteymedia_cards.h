@@ -1,17 +1,7 @@
 #pragma once
-// The cards of Siete y media: the covered one, the Four that may be changed, and what counts seven and a half.
+// The cards of Siete y media that lie covered, and the Four that may be changed.
 
 #include "core/tabla.h"
-
-// Seven and a half, and whether a seat's serie (1..4) stands there or beyond.
-inline constexpr float kSieteYMediaJusto = 7.5F;
-bool EsSieteYMedia(Integer asiento, Integer serie);
-bool SePasa(Integer asiento, Integer serie);
-// At seven and a half with no covered card: it is sung, or will be.
-bool EstaCantada(Integer asiento, Integer serie);
-
-// The points that everybody sees: the cards of the serie whose face shows.
-float PuntosDescubiertos(int asiento, int serie);
 
 // Turns every card of the seat's serie face up and uncovers it, draws the seat and pauses 220; of all four seats for
 // seat 0. A seat without cards there is left alone. Writes Mano.

@@ -12,18 +12,19 @@
 #include "games/common/bank_decision.h"
 #include "games/common/series.h"
 #include "games/common/trick_state.h"
+#include "games/sieteymedia/sieteymedia_serie.h"
 
 namespace {
 
-constexpr double kSieteYMediaJusto = 7.5;
 constexpr Integer kCuatro = 4, kCinco = 5;
 
 // The bluff: a strong bet on a weak card, and then to stand on it.
 constexpr Integer kNivelFarolCuatro = 50, kNivelFarolCinco = 35;
-constexpr double kAzarFarolCuatro = 0.8;
-constexpr std::array<double, 4> kAzarFarolCinco{0, 0, 0.1, 0.25}; // by character
+constexpr int kAzarFarolCuatro = 8 * kAzarDecima;
+constexpr std::array<int, 4> kAzarFarolCinco{0, 0, kAzarDecima,
+                                             25 * kAzarCentesima}; // by character
 constexpr Integer kNivelConserva = 65;
-constexpr double kAzarConserva = 0.2;
+constexpr int kAzarConserva = 2 * kAzarDecima;
 // The bet, in tenths of ApuestaMaxima: this much, and one more for each step of the card away from a Three.
 constexpr int kCartaMenorApuesta = 3, kDecimosDeApuesta = 2;
 constexpr Integer kFiguraComoCarta = 8;
@@ -31,14 +32,14 @@ constexpr Integer kFiguraComoCarta = 8;
 // Where a seat stands: half a point higher for each step of character, lower when others have sung or by chance.
 constexpr double kUmbral = 4.5, kMenosCantada = 0.5, kMenosAzar = 0.5;
 constexpr Integer kNivelCantada = 60, kNivelUmbralAzar = 70;
-constexpr double kAzarUmbral = 0.15;
+constexpr int kAzarUmbral = 15 * kAzarCentesima;
 // The peeks at the next card.
 constexpr Integer kNivelEspiaServido = 90, kNivelEspiaPedir = 80;
-constexpr double kAzarEspiaServido = 0.8, kAzarEspiaPedir = 0.3, kMinimoEspiaServido = 5;
-constexpr double kDivisorCantar = 3.5;
+constexpr int kAzarEspiaServido = 8 * kAzarDecima, kAzarEspiaPedir = 3 * kAzarDecima;
+constexpr double kMinimoEspiaServido = 5;
 
 // What the bank takes a hand for, when it does not see through it.
-constexpr double kAzarVeTodo = 130;
+constexpr int kAzarVeTodo = 130;
 constexpr double kPocoALaVista = 4, kMaximoEstimado = 7;
 
 double Puntos(int asiento, int serie) {
@@ -102,10 +103,10 @@ void DecideApuesta(const Criterio& quien) {
         series.ConservaCuatro ||
         (quien.nivel > kNivelConserva && carta == kCuatro && quien.azar < kAzarConserva);
     const int decimos = std::abs(carta - kCartaMenorApuesta) + kDecimosDeApuesta;
-    Integer apuesta =
-        Redondea((decimos + quien.azar * quien.caracter) * estado.ApuestaMaxima / 10.0);
+    const long long partes = decimos * kAzarEntero + quien.azar * quien.caracter;
+    Integer apuesta = RedondeaCociente(partes * estado.ApuestaMaxima, 10LL * kAzarEntero);
     if (series.ApuestaFuerte)
-        apuesta = Redondea(1.5 * apuesta);
+        apuesta = RedondeaCociente(3 * apuesta, 2);
     apuestas.ApuestaPropuesta = ApuestaAdmisible(apuesta, quien.resto);
 }
 
@@ -147,13 +148,15 @@ bool VuelveLaTapada(const Criterio& quien) {
     const int lugar = LugarTapada(quien.asiento, serie);
     if (lugar == 0 || series.ConservaCuatro)
         return false;
-    const Integer baja = Redondea((6 * quien.azar + 6 + quien.caracter) / 3);
+    // Twice the chance, two more and a third of the character.
+    const Integer baja =
+        RedondeaCociente(6 * quien.azar + (6 + quien.caracter) * kAzarEntero, 3 * kAzarEntero);
     return estado.ValorCarta(estado.Mano(quien.asiento, serie, lugar, kValor)) > Currency(baja);
 }
 
 bool Canta(const Criterio& quien, double puntos, bool cantada) {
     return puntos == kSieteYMediaJusto && !cantada && quien.resto > quien.reserva &&
-           quien.azar * kDivisorCantar < quien.caracter;
+           7 * quien.azar < 2 * quien.caracter * kAzarEntero; // chance x 3.5 below the character
 }
 
 void DecideAsiento(const Criterio& quien) {
@@ -182,7 +185,7 @@ double Estima(const Criterio& banca, Integer asiento, Integer serie) {
     const Integer caracter = estado.CaracterJugador(asiento);
     if (puntos == kSieteYMediaJusto && a_la_vista == kSieteYMediaJusto)
         return kSieteYMediaJusto;
-    if (banca.azar * kAzarVeTodo < banca.nivel)
+    if (banca.azar * kAzarVeTodo < banca.nivel * kAzarEntero)
         return puntos;
     if (estado.NumCartas(asiento, serie) == 1)
         return caracter + 4;

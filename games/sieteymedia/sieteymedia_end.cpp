@@ -12,6 +12,7 @@
 #include "games/common/money_hands.h"
 #include "games/common/series.h"
 #include "games/sieteymedia/sieteymedia_cards.h"
+#include "games/sieteymedia/sieteymedia_serie.h"
 #include "table/messages.h"
 
 namespace {

@@ -5,6 +5,7 @@
 #include "games/common/series.h"
 #include "games/common/series_view.h"
 #include "games/sieteymedia/sieteymedia_cards.h"
+#include "games/sieteymedia/sieteymedia_serie.h"
 #include "table/controls.h"
 #include "table/messages.h"
 #include "table/seat_drawing.h"

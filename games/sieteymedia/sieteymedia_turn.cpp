@@ -11,6 +11,7 @@
 #include "games/common/series.h"
 #include "games/sieteymedia/sieteymedia_cards.h"
 #include "games/sieteymedia/sieteymedia_decision.h"
+#include "games/sieteymedia/sieteymedia_serie.h"
 #include "platform/canvas.h"
 #include "table/button_column.h"
 #include "table/deal.h"

@@ -32,6 +32,22 @@ TEST(Redondea, LoQueNoCabeEn16BitsEsUnDesbordamiento) {
     EXPECT_THROW(Redondea(std::numeric_limits<double>::infinity()), Desbordamiento);
 }
 
+TEST(RedondeaCociente, VaAlEnteroMasCercanoYLasMitadesAlPar) {
+    EXPECT_EQ(RedondeaCociente(7, 3), 2);
+    EXPECT_EQ(RedondeaCociente(8, 3), 3);
+    EXPECT_EQ(RedondeaCociente(45, 10), 4);
+    EXPECT_EQ(RedondeaCociente(55, 10), 6);
+    EXPECT_EQ(RedondeaCociente(0, 10), 0);
+    EXPECT_EQ(RedondeaCociente(-5, 10), 0);
+    EXPECT_EQ(RedondeaCociente(-15, 10), -2);
+    EXPECT_EQ(RedondeaCociente(-26, 10), -3);
+}
+
+TEST(RedondeaCociente, LoQueNoCabeEn16BitsEsUnDesbordamiento) {
+    EXPECT_EQ(RedondeaCociente(32767LL * 1'000'000, 1'000'000), 32767);
+    EXPECT_THROW(RedondeaCociente(65535, 2), Desbordamiento);
+}
+
 TEST(ParteEntera, EsElMayorEnteroQueNoPasaDelNumero) {
     EXPECT_EQ(ParteEntera(2.99), 2);
     EXPECT_EQ(ParteEntera(-2.01), -3);

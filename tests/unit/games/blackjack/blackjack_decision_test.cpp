@@ -123,6 +123,16 @@ TEST_F(DecisionBlackJack, QuienTieneYJuegaPeorApuestaElDoble) {
     EXPECT_EQ(ApuestaCon(0), 12);
 }
 
+// Three tenths of 15 are four and a half. With 25 of 50 already, 1.9 tenths more make 34 and a half.
+TEST_F(DecisionBlackJack, LaMitadJustaVaAlPar) {
+    estado.ApuestaMaxima = 15;
+    Asiento(75, kConservador);
+    EXPECT_EQ(ApuestaCon(0), 4);
+    estado.ApuestaMaxima = 50;
+    Asiento(0, kAgresivo, 100);
+    EXPECT_EQ(ApuestaCon(0.3), 30);
+}
+
 TEST_F(DecisionBlackJack, ConMaximaDeVeinticincoNoSeRedondeaACincos) {
     Asiento(100, kConservador);
     EXPECT_EQ(ApuestaCon(0), 8);
@@ -344,6 +354,9 @@ TEST_F(DecisionBlackJack, LosNerviosDependenDelNivelYDelAzar) {
     EXPECT_TRUE(SePlanta());
     Asiento(51, kConservador);
     EXPECT_FALSE(SePlanta());
+    Azar(0.35);
+    Asiento(35, kConservador);
+    EXPECT_TRUE(SePlanta());
     Asiento(100, kConservador);
     Azar(0.999);
     EXPECT_FALSE(SePlanta());

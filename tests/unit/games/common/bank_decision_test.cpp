@@ -51,6 +51,15 @@ TEST_F(DecisionDeBanca, ElDadoVaDeUnoATres) {
     EXPECT_EQ(DadoCon(0.66), 2);
     EXPECT_EQ(DadoCon(0.67), 3);
     EXPECT_EQ(DadoCon(0.999), 3);
+    EXPECT_EQ(DadoCon(0.9999999), 3);
+}
+
+// Single precision holds 0.35 a trace below itself.
+TEST_F(DecisionDeBanca, ElAzarSeTomaEnMillonesimasJustas) {
+    Azar(0.35);
+    EXPECT_EQ(CriterioDelTurno().azar, 35 * kAzarCentesima);
+    Azar(0);
+    EXPECT_EQ(CriterioDelTurno().azar, 0);
 }
 
 TEST_F(DecisionDeBanca, DesdeTreintaDeMaximaSeApuestaDeCincoEnCinco) {

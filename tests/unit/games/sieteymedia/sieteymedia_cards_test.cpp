@@ -202,19 +202,3 @@ TEST_F(CartasSiete, SiSoloPuedenSalirCuatrosNadieCambiaPorCambiar) {
     CambiaCuatroSolo();
     EXPECT_EQ(EnMano(4), Carta(kOros, 4));
 }
-
-TEST_F(CartasSiete, LoQueVenTodosSonLasCartasDescubiertas) {
-    PonSerieTapada(3, 1, {{kOros, 7}, {kCopas, kSota}, {kCopas, 3}});
-    EXPECT_EQ(PuntosDescubiertos(3, 1), 3.5F);
-    estado.Mano(3, 1, 1, kCara) = kDescubierta; // covered, and its holder sees it
-    EXPECT_EQ(PuntosDescubiertos(3, 1), 10.5F);
-}
-
-TEST_F(CartasSiete, EstaCantadaQuienLaTieneDescubierta) {
-    PonSerieTapada(3, 1, {{kOros, 7}, {kCopas, kSota}});
-    EXPECT_TRUE(EsSieteYMedia(3, 1));
-    EXPECT_FALSE(EstaCantada(3, 1));
-    DestapaSerie(3, 1);
-    EXPECT_TRUE(EstaCantada(3, 1));
-    EXPECT_FALSE(SePasa(3, 1));
-}

@@ -99,6 +99,12 @@ TEST_F(ApuestaSiete, LaApuestaCreceConLaDistanciaAlTres) {
         EXPECT_EQ(ApuestaCon(figura, 0), 18) << figura;
 }
 
+// A figure and two tenths of chance twice over: 7.4 tenths of 25 are eighteen and a half.
+TEST_F(ApuestaSiete, LaMitadQueDaElAzarVaAlPar) {
+    Asiento(0, kMedio);
+    EXPECT_EQ(ApuestaCon(kSota, 0.2), 18);
+}
+
 TEST_F(ApuestaSiete, ConMaximaDeTreintaLaApuestaVaDeCincoEnCinco) {
     estado.ApuestaMaxima = 30;
     EXPECT_EQ(ApuestaCon(3, 0), 6);
