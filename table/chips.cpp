@@ -190,7 +190,20 @@ void RedibujaApuesta(Integer asiento) {
     } else if (asiento != estado.JugadorBanca) { // before the bank lies the pile
         PintaFila(asiento);
         PintaPlaca(asiento, PuntosEnApuesta(asiento));
+        if (estado.SerieTerminada(asiento, SerieALaVista(asiento)))
+            MarcaApuesta(asiento, lamina::kMarcaPasado);
     }
+    plataforma().Repinta();
+}
+
+void MarcaApuesta(Integer asiento, const lamina::Recorte& marca) {
+    if (!plataforma().HayPantalla())
+        return;
+    const Punto esquina = LugarDePila(AreaApuesta(asiento), 1);
+    const bool sin_fichas = EnFila(FichasEnApuesta(asiento)).empty();
+    const int margen =
+        sin_fichas ? (kAnchoArea - marca.ancho) / 2 : (kAnchoArea + kAnchoFila) / 2 - marca.ancho;
+    Mesa().Lamina(esquina.x + margen, esquina.y, marca);
     plataforma().Repinta();
 }
 

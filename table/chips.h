@@ -5,6 +5,7 @@
 #include "betting/moves.h"
 #include "core/tabla.h"
 #include "platform/canvas.h"
+#include "table/sheet_layout.h"
 
 // The seat's stacks of chips (0 the pot), at the chip places of an area.
 void PintarFichas(int asiento, int area);
@@ -13,6 +14,10 @@ void PintarFichas(int asiento, int area);
 // chips go into the pot the label stands alone, and only as long as there is a pot.
 void RedibujaBote();
 void RedibujaApuesta(Integer asiento);
+
+// A mark of 32 by 32 on the seat's bet place, in its middle or, where chips lie, at the end of their row, until the
+// place is drawn anew. The one of a serie that has gone over (SerieTerminada) is drawn with the place.
+void MarcaApuesta(Integer asiento, const lamina::Recorte& marca);
 
 // One chip flies from place to place; returns after the flight.
 void MueveFicha(const FichaMovida& ficha);

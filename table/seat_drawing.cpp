@@ -177,7 +177,8 @@ void PintaCartas(int asiento) {
     }
 }
 
-// In the games with money: the seat's chips, what it has bet, and the mark of a serie that has played.
+// In the games with money: the seat's chips and what it has bet, with the mark of a serie that has gone over; before
+// the bank lies no bet, and the mark is on its cards.
 void PintaDinero(int asiento) {
     if (!JuegoEnMesa().dinero.hay)
         return;
@@ -185,11 +186,13 @@ void PintaDinero(int asiento) {
     // In a manual deal the spread lies where the bets will.
     if (!estado.RepartoEnCurso)
         RedibujaApuesta(EnteroDe(asiento));
-    if (estado.JuegoConBanca && estado.SerieTerminada(asiento, SerieALaVista(asiento))) {
+    const bool banca_pasada =
+        estado.JuegoConBanca && asiento == estado.JugadorBanca && estado.SerieTerminada(asiento, 1);
+    if (banca_pasada) {
         const Rectangulo zona = ZonaDe(asiento);
-        const lamina::Recorte& marca = lamina::kMarcaSerieTerminada;
-        Mesa().Lamina(zona.x + zona.ancho - marca.ancho - kAltoRenglon,
-                      zona.y + zona.alto - marca.alto - kAltoRenglon, marca);
+        const lamina::Recorte& marca = lamina::kMarcaPasado;
+        Mesa().Lamina(zona.x + (zona.ancho - marca.ancho) / 2,
+                      zona.y + (zona.alto - marca.alto) / 2, marca);
     }
 }
 

@@ -9,6 +9,7 @@
 #include "games/blackjack/blackjack_serie.h"
 #include "games/blackjack/blackjack_settlement.h"
 #include "games/blackjack/blackjack_turn.h"
+#include "games/common/bank_bets.h"
 #include "games/common/bank_hands.h"
 #include "games/common/hands.h"
 #include "games/common/series.h"

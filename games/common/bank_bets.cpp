@@ -1,5 +1,4 @@
-#include "games/common/bank_hands.h"
-#include "games/common/card_turn.h"
+#include "games/common/bank_bets.h"
 
 #include "betting/bet_state.h"
 #include "betting/placing.h"

@@ -95,8 +95,8 @@ void ApuntaBanca() {
 
 void PierdeAlPasarse() {
     const Integer asiento = estado.JugadorActual;
-    estado.SerieTerminada(asiento, estado.SerieActual) = true;
     DestellaBust(asiento);
+    estado.SerieTerminada(asiento, estado.SerieActual) = true;
     DevuelveApuesta(asiento, estado.JugadorBanca, kSinSeguro);
 }
 

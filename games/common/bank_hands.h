@@ -1,12 +1,13 @@
 #pragma once
-// What a hand of the two games with a bank has in common: its walks round the table, its captions, the bets of a serie,
-// the steps of the settlement, its messages and its record. Seats 1..4, series 1..4, amounts in points. What is placed
+// What a hand of the two games with a bank has in common: its walks round the table, its captions, the steps of the
+// settlement, its messages and its record. Seats 1..4, series 1..4, amounts in points. What is placed
 // or moves is that of JugadorActual in SerieActual unless a seat is named.
 
 #include <string>
 #include <vector>
 
 #include "core/tabla.h"
+#include "games/common/bank_marks.h"
 
 // From JugadorMano round the table: the seats that come before the bank, or all four, whatever they hold.
 std::vector<Integer> AsientosAntesDeLaBanca();
@@ -23,29 +24,7 @@ void AnunciaSerie();
 // The bank's name goes into the record of the game that begins.
 void ApuntaBanca();
 
-// How a game asks for the bets of a serie.
-struct TurnoDeApuesta {
-    void (*decide)() = nullptr; // fills ApuestaPropuesta
-    // Tips, by AzarTurno: of an automatic seat below 0.2; of a manual one below each of the two bounds, and above.
-    int tip_automatico = 0, tip_manual = 0;
-    float hasta_tip_manual = 0, hasta_tip_reglas = 0;
-    int pausa = 0; // where nobody waits
-    // A seat that bets by itself: before it decides for good. Empty: nothing.
-    void (*antes_de_decidir)() = nullptr;
-};
-
-// The bets of SerieActual, in ModoApuesta and at the stage of the bets, which the caller sets: the board for a manual
-// seat, the tip, the wait; what was placed by hand and not closed comes back, and the seat bets ApuestaPropuesta.
-// Writes AzarTurno, JugadaHecha and what is placed. False when the match was left.
-[[nodiscard]] bool ApuestaLaSerie(const TurnoDeApuesta& turno);
-
-// The bet place of JugadorActual blinks twice.
-void ParpadeaApuesta();
-
-// The seat has gone over: twice the burst on its bet place, with sound 11; the burst stays.
-void DestellaBust(int asiento);
-
-// SerieTerminada of the serie, its flash, and the stake goes to the bank: all of it, or all but the insurance, which
+// The flash of the bust, SerieTerminada of the serie, which the table shows from then on, and the stake goes to the bank: all of it, or all but the insurance, which
 // waits for the settlement.
 void PierdeAlPasarse();
 

@@ -5,6 +5,7 @@
 #include "betting/stakes.h"
 #include "core/game_state.h"
 #include "core/random.h"
+#include "games/common/bank_bets.h"
 #include "games/common/bank_buttons.h"
 #include "games/common/bank_hands.h"
 #include "games/common/card_turn.h"
@@ -176,9 +177,10 @@ void TomaCarta() {
 
 void SePasaElAsiento() {
     const Integer asiento = estado.JugadorActual;
-    estado.SerieTerminada(asiento, estado.SerieActual) = true;
-    if (EsBanca())
+    if (EsBanca()) {
+        estado.SerieTerminada(asiento, estado.SerieActual) = true;
         return RedibujarAsiento(asiento);
+    }
     DestapaSerie(asiento, estado.SerieActual);
     PierdeAlPasarse();
 }

@@ -174,10 +174,7 @@ class PruebaMono : public QObject {
         std::string fallo = prueba::FalloDeEspera();
         if (fallo.empty() && QuedaColgada())
             fallo = "una carta se queda colgada del puntero";
-        // The marks of a serie that has gone bust and the series that are browsed are not painted anew the same: that
-        // is held for the games without chips only.
-        if (fallo.empty() && !JuegoEnMesa().dinero.hay && DeCada(20) && !estado.ArrastraCarta &&
-            !estado.ArrastraReparto)
+        if (fallo.empty() && DeCada(20) && !estado.ArrastraCarta && !estado.ArrastraReparto)
             fallo = FalloDePintura();
         if (!fallo.empty())
             Falla(fallo + " (en espera, " + DiMomento() + ")");

@@ -199,6 +199,31 @@ TEST_F(FichasEnLaMesa, LaBancaNoTieneSitioDeApuesta) {
     EXPECT_THAT(Cajas([] { RedibujaApuesta(estado.JugadorBanca); }), testing::IsEmpty());
 }
 
+// In the middle of an empty place; beside the chips that still lie there, which are of an insurance.
+TEST_F(FichasEnLaMesa, LaMarcaDeQuienSePasaEstaEnSuSitioDeApuesta) {
+    Apuestan(kBlackJack);
+    const int area = kAreaApuestas + 3;
+    const int medio = estado.PosFichaX(area, 1) + (38 + 33 - 32) / 2, y = estado.PosFichaY(area, 1);
+    const auto lamina = [y](int x) {
+        return "Lamina(" + std::to_string(x) + ", " + std::to_string(y) + ")";
+    };
+    EXPECT_THAT(Dibuja([] { RedibujaApuesta(4); }), Not(Contains(lamina(medio))));
+    estado.SerieTerminada(4, 1) = true;
+    EXPECT_THAT(Dibuja([] { RedibujaApuesta(4); }), Contains(lamina(medio)));
+    apuestas.FichasPuestas(4, 1, 1) = 3;
+    apuestas.NumFichasPuestas(4, 1) = 1;
+    EXPECT_THAT(Dibuja([] { RedibujaApuesta(4); }), Contains(lamina(medio + (97 - 32) / 2 + 1)));
+}
+
+TEST_F(FichasEnLaMesa, LaMarcaDeLaBancaQueSePasaEstaEnSusCartas) {
+    Apuestan(kBlackJack);
+    estado.SerieTerminada(2, 1) = true;
+    const Rectangulo zona = ZonaDe(2);
+    const std::string marca = "Lamina(" + std::to_string(zona.x + (zona.ancho - 32) / 2) + ", " +
+                              std::to_string(zona.y + (zona.alto - 32) / 2) + ")";
+    EXPECT_THAT(Dibuja([] { RedibujarAsiento(2); }), Contains(marca));
+}
+
 TEST_F(FichasEnLaMesa, LaEtiquetaCambiaCuandoLlegaLaFicha) {
     Apuestan(kSieteYMedia);
     apuestas.Apuesta(4, 1, kFaseApuestas) = 5;
