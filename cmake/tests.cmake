@@ -93,6 +93,13 @@ endif()
 # The real program in a real window on a screen of its own. Serial: a click belongs to the window
 # that has the focus, and two cores cannot keep two tables in time.
 if(TARGET zovin)
+  # The same program, with the cards known that it will deal.
+  add_executable(zovin_prepared platform/qt/app_main.cpp tests/e2e/prepared/chance.cpp)
+  set_target_properties(zovin_prepared PROPERTIES
+    AUTOMOC ON RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
+  target_compile_definitions(zovin_prepared PRIVATE ZOVIN_VERSION="${PROJECT_VERSION}")
+  target_link_libraries(zovin_prepared PRIVATE zovin_qt)
+
   file(GLOB e2e_scripts CONFIGURE_DEPENDS
     "${CMAKE_SOURCE_DIR}/tests/e2e/*.sh" "${CMAKE_SOURCE_DIR}/tests/e2e/*.py")
   foreach(script IN LISTS e2e_scripts)

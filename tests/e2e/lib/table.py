@@ -44,9 +44,9 @@ def xdotool(*words):
 
 class Table:
     """A game folder of its own with links to the program and its pictures and the settings of a first start, and the
-    program in it."""
+    program in it; or the program whose chance is prepared in its place."""
 
-    def __init__(self, name):
+    def __init__(self, name, prepared=False):
         programs = pathlib.Path(os.environ["ZOVIN_BIN"])
         self.shots = programs.parent / "e2e" / name
         self.shots.mkdir(parents=True, exist_ok=True)
@@ -55,6 +55,8 @@ class Table:
         self.count = 0
         self.folder = pathlib.Path.home() / "juego"
         self.folder.mkdir(exist_ok=True)
+        if prepared:
+            (self.folder / "zovin").symlink_to(programs.parent / "tests" / "zovin_prepared")
         for piece in ("zovin", "Baraja01.bmp", "Baraja02.bmp", "PkFDes.ZOV", "ayuda"):
             link = self.folder / piece
             if not link.is_symlink():
@@ -205,7 +207,7 @@ class Table:
         expect(len(buttons) > button, f"«{title}» shows {len(buttons)} buttons")
         expect(count is None or len(buttons) == count, f"«{title}»: {len(buttons)} buttons")
         self.click(*buttons[button])
-        wait_for(lambda: (self.box() or ("",))[0] != title, 5, f"«{title}» to close")
+        wait_for(lambda: self.box() != (title, window), 5, f"«{title}» to close")
 
 
 class Deck:
@@ -283,9 +285,9 @@ def _starts_here(picture, x, y):
     return paper and edge
 
 
-def run(play):
+def run(play, prepared=False):
     """Runs a test and tells its end."""
-    table = Table(pathlib.Path(sys.argv[0]).stem)
+    table = Table(pathlib.Path(sys.argv[0]).stem, prepared)
     try:
         play(table)
     except Failure as failure:
