@@ -6,41 +6,18 @@
 #include <string>
 #include <vector>
 
-#include "betting/bet_state.h"
-#include "betting/chips.h"
-#include "betting/phases.h"
-#include "table/button_column.h"
-#include "tests/support/bank_table.h"
-#include "tests/support/live_table.h"
+#include "tests/support/tutored_table.h"
 
 using namespace prueba;
 
 namespace {
 
-struct TutorBlackJack : MesaViva {
+struct TutorBlackJack : MesaConTutor {
     void SetUp() override {
-        Juega(kBlackJack);
-        estado.JugadorBanca = 2;
-        estado.RestoInicial = 200;
-        estado.ApuestaMaxima = 25;
-        for (Integer asiento = 1; asiento <= 4; ++asiento) {
-            estado.SeriesJugador(asiento) = 1;
-            AsignarResto(asiento, 200);
-        }
-        TocaJugar(4);
-        estado.NivelJugador(4) = 10;
-        estado.CaracterJugador(4) = kMedio;
-        apuestas.FaseApuesta = kFaseJuego;
-        estado.EsperandoJugada = true;
+        TocaA4(kBlackJack, 0.9);
         PonSerie(2, 1, {{kOros, 6}});
-        Azar(0.9);
     }
     void Mano(Integer una, Integer otra) { PonSerie(4, 1, {{kOros, una}, {kCopas, otra}}); }
-    void Aconseja() {
-        HabilitaBoton(kBotonTutor, true);
-        EmpiezaTraza();
-        PulsaBoton(kBotonTutor);
-    }
 };
 
 using Lineas = std::vector<std::string>;

@@ -5,12 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "betting/bet_state.h"
-#include "betting/chips.h"
-#include "betting/phases.h"
-#include "table/button_column.h"
-#include "tests/support/bank_table.h"
-#include "tests/support/live_table.h"
+#include "tests/support/tutored_table.h"
 
 using namespace prueba;
 
@@ -18,33 +13,15 @@ namespace {
 
 using Lineas = std::vector<std::string>;
 
-struct TutorSiete : MesaViva {
+struct TutorSiete : MesaConTutor {
     void SetUp() override {
-        Juega(kSieteYMedia);
-        estado.JugadorBanca = 2;
-        estado.RestoInicial = 200;
-        estado.ApuestaMaxima = 25;
-        for (Integer asiento = 1; asiento <= 4; ++asiento) {
-            estado.SeriesJugador(asiento) = 1;
-            AsignarResto(asiento, 200);
-        }
-        TocaJugar(4);
-        estado.NivelJugador(4) = 10;
-        estado.CaracterJugador(4) = kMedio;
-        apuestas.FaseApuesta = kFaseJuego;
-        estado.EsperandoJugada = true;
+        TocaA4(kSieteYMedia, 0.5);
         estado.PosicionMazo = 20;
         SiguienteDelMazo({kBastos, 3});
-        Azar(0.5);
     }
     static void Visible(const std::vector<Carta>& cartas) {
         PonSerieTapada(4, 1, cartas);
         estado.Mano(4, 1, 1, kCara) = kDescubierta;
-    }
-    void Aconseja() {
-        HabilitaBoton(kBotonTutor, true);
-        EmpiezaTraza();
-        PulsaBoton(kBotonTutor);
     }
     // The button that was pressed: 1 "Carta", 2 "Servido".
     bool Destella(int boton) const {
