@@ -13,7 +13,7 @@
 #include "core/game_state.h"
 #include "core/numeric.h"
 #include "core/text.h"
-#include "games/common/hands.h"
+#include "games/game_rows.h"
 #include "games/poker/discard_choice.h"
 #include "games/poker/hand_reading.h"
 #include "games/poker/hand_tally.h"
@@ -304,6 +304,7 @@ std::string EscribeRegistro(const RegistroDescarte& registro) {
 }
 
 void PonBarajaDePoker(Integer cartas_baraja, Integer comodines_juego) {
+    UsaJuegos(LosJuegos());
     estado.JuegoActivo = kPoker;
     estado.CartasBaraja = cartas_baraja;
     estado.ComodinesJuego = comodines_juego;

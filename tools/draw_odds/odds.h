@@ -31,7 +31,8 @@ std::vector<bool> Conserva(Integer categoria);
 // One line of the file, with its end.
 std::string EscribeRegistro(const RegistroDescarte& registro);
 
-// The deck of CartasBaraja 1..6 and ComodinesJuego 1..3 comes on the table. Takes the platform in use.
+// The deck of CartasBaraja 1..6 and ComodinesJuego 1..3 comes on the table, which has all its games then. Takes the
+// platform in use.
 void PonBarajaDePoker(Integer cartas_baraja, Integer comodines_juego);
 
 // The whole file, deck after deck; avisa after each with the records so far.

@@ -7,7 +7,6 @@
 #include <optional>
 
 #include "games/poker/hand_value.h"
-#include "tests/support/plain_poker.h"
 #include "tests/support/poker_hands.h"
 
 using namespace prueba;
@@ -227,21 +226,6 @@ TEST_F(LecturaDeMano, UnComodinSeVePorSuPalo) {
     PonMano(3, {{1, 1}, {2, 2}, {3, 3}, {4, 4}, kPrimerComodin});
     EXPECT_FALSE(TieneComodin(2));
     EXPECT_TRUE(TieneComodin(3));
-}
-
-// A sample of every deck; all hands are for the enumerations.
-TEST_F(LecturaDeMano, LaLecturaPorTablasEsLaDeLasReglasEnUnaMuestra) {
-    constexpr int kUnaDeCada = 20011;
-    for (Integer n = 1; n <= 6; ++n) {
-        const BarajaDePoker baraja(n, 3);
-        CadaMano(baraja, kUnaDeCada, [] {
-            AnalizaLlano(1);
-            const EstadoPoker llano = poker;
-            AnalizaJugada(1);
-            EXPECT_EQ(poker, llano) << ManoEscrita();
-            EXPECT_EQ(ValorJugada(Mejor(), 1), ValorLlano(Mejor(), 1)) << ManoEscrita();
-        });
-    }
 }
 
 TEST_F(LecturaDeMano, ConUnaBarajaQueNoExisteNoSeLee) {
