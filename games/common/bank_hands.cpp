@@ -119,14 +119,17 @@ void CierraElJuego() {
 
 bool CuentaResultados(int pausa, Palabra palabra) {
     std::string texto;
+    int lineas = 0;
     for (const Integer asiento : AsientosEnRueda()) {
         for (Integer serie = 1; serie <= estado.SeriesJugador(asiento); ++serie) {
-            if (PuntosSerie(asiento, serie) > 0)
-                texto += RenglonDe(asiento, serie, palabra(asiento, serie));
+            if (PuntosSerie(asiento, serie) == 0)
+                continue;
+            texto += RenglonDe(asiento, serie, palabra(asiento, serie));
+            ++lineas;
         }
     }
     Pausa(pausa);
-    Mensaje("Final de la mano", texto, LineasDe(texto), 1);
+    Mensaje("Final de la mano", texto, lineas, 1);
     return PartidaSigue();
 }
 

@@ -222,6 +222,7 @@ TEST_F(ManoDeBlackJack, SiTodosSePasanLaBancaSeQuedaConSuCarta) {
     JuegaLaPartida();
     EXPECT_EQ(estado.NumCartas(2, 1), 1);
     EXPECT_EQ(Resultados(), "Jugador4 : Se ha pasado\r\nBanca : 9\r\n");
+    EXPECT_EQ(p.mensajes.front().lineas, 2); // a line for each hand
     EXPECT_EQ(RestoDe(2), 205);
     EXPECT_THAT(TrazaDe("Sonido"), Contains("Sonido(1, 11)").Times(2));
 }

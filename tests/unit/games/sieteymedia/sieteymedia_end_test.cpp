@@ -246,6 +246,7 @@ TEST_F(FinalSiete, LosResultadosSeDicenSerieASerieDesdeElMano) {
                             "Iñigo : Se ha pasado\r\n"
                             "Ana : Una\r\n"
                             "Luis : Media\r\n");
+    EXPECT_EQ(p.mensajes.front().lineas, 5);
 }
 
 TEST_F(FinalSiete, QuienNoJugoNoSeNombra) {
