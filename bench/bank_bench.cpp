@@ -7,6 +7,7 @@
 
 #include "betting/bet_state.h"
 #include "betting/chips.h"
+#include "betting/phases.h"
 #include "core/game_state.h"
 #include "games/blackjack/blackjack_decision.h"
 #include "games/common/series.h"
