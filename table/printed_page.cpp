@@ -1,4 +1,4 @@
-#include "reports/printed_page.h"
+#include "table/printed_page.h"
 
 #include <fmt/format.h>
 

@@ -1,6 +1,6 @@
 // A page of a report: where its items stand, what they are called, how they are painted and copied.
 
-#include "reports/printed_page.h"
+#include "table/printed_page.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
