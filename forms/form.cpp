@@ -4,6 +4,7 @@
 #include "forms/personal.h"
 #include "forms/selector.h"
 #include "forms/spin.h"
+#include "reports/report_handles.h"
 #include "table/game_row.h"
 
 namespace {
@@ -104,6 +105,10 @@ const MandosForma* MandosDe(Forma forma) {
         return &kPersonal;
     case Forma::Normas:
         return &kNormas;
+    case Forma::Marcador:
+        return &kMandosMarcador;
+    case Forma::Historic:
+        return &kMandosHistoric;
     default:
         return nullptr;
     }

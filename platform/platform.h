@@ -13,6 +13,12 @@
 
 using Milisegundos = std::int64_t;
 
+// A moment of the calendar, local time. mes and dia count from 1, hora runs from 0 to 23.
+struct FechaHora {
+    int anio = 2000, mes = 1, dia = 1, hora = 0, minuto = 0, segundo = 0;
+    friend bool operator==(const FechaHora&, const FechaHora&) = default;
+};
+
 // The controls of `mesa`. Those that come several times carry an index from 1; the others use 0.
 enum class Control {
     Mesa,
@@ -128,6 +134,8 @@ public:
     // input for the next pass; a moment that has passed returns at once.
     virtual Milisegundos Reloj() = 0;
     virtual void DuermeHasta(Milisegundos momento) = 0;
+    // What calendar and clock on the wall say.
+    virtual FechaHora Ahora() = 0;
 
     // False when nothing is ever shown: the table operations then skip their drawing.
     virtual bool HayPantalla() const = 0;

@@ -147,11 +147,30 @@ struct PartidaDeJuego {
     bool (*acabada)() = nullptr;
     // The words that end the match. Empty: "Ha ganado la partida" and the name.
     std::string (*texto_final)() = nullptr;
+    // The seats that have won it, for the history. Empty: GanadorPartida, in pairs both seats of that team.
+    std::vector<Integer> (*ganadores)() = nullptr;
 };
 
 struct NormasDeJuego {
     const char* encabezado = ""; // above its line in the list of games
     std::vector<Regla> reglas{}; // from the top of the form
+};
+
+// How the reports show what the games of a match have left in their records.
+struct InformesDeJuego {
+    enum class Hoja {
+        Manos,  // for each active seat its points and cantes, and a note below
+        Jugada, // for each seat two texts, and the result of the hand
+        Series, // the same, the texts in groups of 7 for four series
+        Banca,  // series too, the seats in their order from the one after the bank
+    };
+    Hoja hoja = Hoja::Manos;
+    const char* cabecera = "Mano   Sale";
+    const char* resultado = "";  // the title of the last column
+    bool en_contra = false;      // points count against the seat, and the note is no honour
+    bool sin_nota = false;       // the line of points stands alone
+    const char* perdedores = ""; // what the history says of the losers instead of their figures
+    bool cuenta_parejas = false; // the history has a heading for what the pairs have won
 };
 
 // What must hold, told apart from the code that played it. InvarianteRoto when something does not.
@@ -182,6 +201,7 @@ struct FilaJuego {
     ManoDeJuego mano{};
     PartidaDeJuego partida{};
     NormasDeJuego normas{};
+    InformesDeJuego informes{};
     RevisionDeJuego revision{};
     // What the line console can call by name of this game alone. Empty: nothing.
     const ListaDeProcedimientos& (*procedimientos)() = nullptr;

@@ -6,6 +6,7 @@
 #include <array>
 #include <map>
 
+#include "core/literal.h"
 #include "core/text.h"
 
 namespace {
@@ -54,10 +55,8 @@ void PintaImpreso(const Impreso& i, Lienzo& lienzo, int x, int y) {
     const Rectangulo caja{x + i.x, y + i.y, i.x2 - i.x + 1, i.y2 - i.y + 1};
     switch (i.clase) {
     case ClaseImpreso::Texto: {
-        const Fuente fuente{.alto = i.letra.cuerpo,
-                            .negrita = i.letra.negrita,
-                            .fija = true,
-                            .tope = AnchoTexto(i.texto, i.letra)};
+        const Fuente fuente{
+            .alto = i.letra.cuerpo, .negrita = i.letra.negrita, .fija = true, .tope = i.x2 - i.x};
         return lienzo.Texto(x + i.x, y + i.y, i.texto, fuente, color, Alineacion::Izquierda);
     }
     case ClaseImpreso::Linea:
@@ -71,7 +70,7 @@ void PintaImpreso(const Impreso& i, Lienzo& lienzo, int x, int y) {
 
 std::string Contenido(const Impreso& i) {
     if (i.clase == ClaseImpreso::Texto)
-        return fmt::format("\"{}\"", i.texto);
+        return Escrito(i.texto);
     return fmt::format("{} {} {}", i.clase == ClaseImpreso::Linea ? "regla" : "caja", i.x2, i.y2);
 }
 
@@ -102,6 +101,12 @@ void PaginaImpresa::Texto(int x, int y, std::string_view texto, Tinta tinta, con
     const int izquierda = BordeIzquierdo(x, ancho, alineacion);
     impresos_.push_back({ClaseImpreso::Texto, izquierda, y, izquierda + ancho, y + AltoLinea(letra),
                          tinta, letra, std::string(texto)});
+}
+
+void PaginaImpresa::TextoEstrecho(int x, int y, std::string_view texto, Tinta tinta, int tope) {
+    Texto(x, y, texto, tinta);
+    if (!texto.empty())
+        impresos_.back().x2 = std::min(impresos_.back().x2, x + tope);
 }
 
 void PaginaImpresa::Linea(int x, int y, int x2, int y2, Tinta tinta) {

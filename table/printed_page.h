@@ -70,6 +70,8 @@ public:
     // text leaves nothing.
     void Texto(int x, int y, std::string_view texto, Tinta tinta, const Letra& letra = {},
                Alineacion alineacion = Alineacion::Izquierda);
+    // The same from its left edge, drawn narrower where it would be wider than tope points.
+    void TextoEstrecho(int x, int y, std::string_view texto, Tinta tinta, int tope);
     void Linea(int x, int y, int x2, int y2, Tinta tinta);
     void Caja(int x, int y, int x2, int y2, Tinta tinta);
     void Relleno(int x, int y, int x2, int y2, Tinta tinta);

@@ -119,6 +119,15 @@ bool AcabadaBlackJack() {
     return true;
 }
 
+std::vector<Integer> GanadoresBlackJack() {
+    std::vector<Integer> ganadores;
+    for (Integer asiento = 1; asiento <= 4; ++asiento) {
+        if (JuegaContraLaBanca(asiento) && TieneResto(asiento))
+            ganadores.push_back(asiento);
+    }
+    return ganadores.empty() ? std::vector<Integer>{estado.JugadorBanca} : ganadores;
+}
+
 std::string TextoFinalBlackJack() {
     return TieneResto(estado.JugadorBanca) ? "Todos los jugadores se han quedado sin fondos"
                                            : "La banca se ha quedado sin fondos";

@@ -8,6 +8,9 @@
 // plain 21.
 
 #include <string>
+#include <vector>
+
+#include "core/tabla.h"
 
 // A match, from the first bets to its end; returns when the match was left, too.
 void ManoBlackJack();
@@ -16,6 +19,8 @@ void ManoBlackJack();
 // the seat with the most chips.
 bool AcabadaBlackJack();
 std::string TextoFinalBlackJack();
+// The seats against the bank that have chips left, in seat order; the bank when none has.
+std::vector<Integer> GanadoresBlackJack();
 
 // A match or a session begins: a new shoe, nothing offered.
 void NuevaBlackJack();

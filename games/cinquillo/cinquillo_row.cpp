@@ -51,6 +51,7 @@ const FilaJuego& FilaCinquillo() {
         .mano = {.limpia = BorraBazas},
         .partida = {.nueva = OlvidaBazas},
         .normas = {.reglas = {Regla::Reparto, Regla::Limite}},
+        .informes = {.en_contra = true},
         .revision = {.mano = RevisaManoCinquillo, .partida = RevisaPartidaCinquillo},
         .procedimientos = ProcedimientosDeCinquillo,
     };

@@ -82,6 +82,7 @@ FilaJuego FilaDeBazas(Integer id, const char* nombre, void (*prepara)(), void (*
         .mano = {.limpia = BorraBazas, .descubre = DescubreTriunfo},
         .partida = {.nueva = OlvidaBazas},
         .normas = {.reglas = {Regla::Reparto, Regla::Modalidad, Regla::Limite}},
+        .informes = {.cuenta_parejas = true},
         .revision = {.mano = RevisaManoBazas, .partida = RevisaPartidaBazas},
         .procedimientos = ProcedimientosDeBazas,
     };
@@ -96,7 +97,9 @@ FilaJuego HazFilaTute() {
 }
 
 FilaJuego HazFilaBrisca() {
-    return FilaDeBazas(kBrisca, "Brisca", PreparaBrisca, ManoBrisca);
+    FilaJuego fila = FilaDeBazas(kBrisca, "Brisca", PreparaBrisca, ManoBrisca);
+    fila.informes.sin_nota = true;
+    return fila;
 }
 
 } // namespace

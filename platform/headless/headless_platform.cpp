@@ -1,5 +1,7 @@
 #include "platform/headless/headless_platform.h"
 
+#include <chrono>
+
 #include "core/game_state.h"
 
 namespace {
@@ -55,6 +57,7 @@ void PlataformaSinPantalla::Limpia() {
     formas_abiertas.clear();
     minimizadas = 0;
     reloj_ = 0;
+    primer_dia = {};
     Mide(800, 600);
     tablero_ = {};
     lienzos_.clear();
@@ -83,6 +86,21 @@ std::optional<Evento> PlataformaSinPantalla::SiguienteEvento(Pase pase) {
 
 bool PlataformaSinPantalla::EsperaEvento() {
     return !guion.Vacio() || ContinuaSola();
+}
+
+FechaHora PlataformaSinPantalla::Ahora() {
+    using namespace std::chrono;
+    const auto dia = sys_days(year(primer_dia.anio) / primer_dia.mes / primer_dia.dia);
+    const auto ahora = sys_seconds(dia) + hours(primer_dia.hora) + minutes(primer_dia.minuto) +
+                       seconds(primer_dia.segundo + reloj_ / 1000);
+    const year_month_day fecha(floor<days>(ahora));
+    const hh_mm_ss hora(ahora - floor<days>(ahora));
+    return {.anio = static_cast<int>(fecha.year()),
+            .mes = static_cast<int>(static_cast<unsigned>(fecha.month())),
+            .dia = static_cast<int>(static_cast<unsigned>(fecha.day())),
+            .hora = static_cast<int>(hora.hours().count()),
+            .minuto = static_cast<int>(hora.minutes().count()),
+            .segundo = static_cast<int>(hora.seconds().count())};
 }
 
 Lienzo& PlataformaSinPantalla::LienzoDe(Control control, int indice) {

@@ -45,8 +45,11 @@ public:
     std::vector<Forma> formas_abiertas;
     int minimizadas = 0;
 
+    // The day on the wall when the virtual clock stands at 0.
+    FechaHora primer_dia;
+
     // Forms that this desktop has, and what opening one does.
-    std::set<Forma> formas{Forma::Personal, Forma::Normas};
+    std::set<Forma> formas{Forma::Personal, Forma::Normas, Forma::Marcador, Forma::Historic};
     std::function<void(Forma)> al_abrir;
 
     // Size of the window, 800 by 600 at first. The game learns of a change by an event or a call of its own.
@@ -69,6 +72,7 @@ public:
 
     Milisegundos Reloj() override { return reloj_; }
     void DuermeHasta(Milisegundos momento) override { reloj_ = std::max(reloj_, momento); }
+    FechaHora Ahora() override;
 
     bool HayPantalla() const override { return con_lienzos_; }
     int AnchoVentana() const override { return ancho_; }

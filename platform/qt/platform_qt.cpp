@@ -110,6 +110,18 @@ void PlataformaQt::DuermeHasta(Milisegundos momento) {
         std::this_thread::sleep_for(resto);
 }
 
+FechaHora PlataformaQt::Ahora() {
+    const QDateTime ahora = QDateTime::currentDateTime();
+    const QDate dia = ahora.date();
+    const QTime hora = ahora.time();
+    return {.anio = dia.year(),
+            .mes = dia.month(),
+            .dia = dia.day(),
+            .hora = hora.hour(),
+            .minuto = hora.minute(),
+            .segundo = hora.second()};
+}
+
 int PlataformaQt::AnchoVentana() const {
     return mesa_->width();
 }

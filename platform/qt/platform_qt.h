@@ -42,6 +42,7 @@ public:
 
     Milisegundos Reloj() override;
     void DuermeHasta(Milisegundos momento) override;
+    FechaHora Ahora() override;
 
     bool HayPantalla() const override { return true; }
     int AnchoVentana() const override;

@@ -53,8 +53,9 @@ int CuantosDe(Control control) {
 // The controls of the forms, by name.
 void ExigeDeForma(const std::string& nombre) {
     constexpr std::array kNombres{
-        "Pic_Selector", "Pic_Buleano",       "Pic_Spin",   "Pic_SpinSube", "Pic_SpinBaja",
-        "Tex_Spin",     "Pic_Potenciometro", "Txt_Nombre", "Pic_BotAyuda", "Pic_BotSalir"};
+        "Pic_Selector",     "Pic_Buleano",       "Pic_Spin",      "Pic_SpinSube", "Pic_SpinBaja",
+        "Tex_Spin",         "Pic_Potenciometro", "Txt_Nombre",    "Pic_BotAyuda", "Pic_BotSalir",
+        "Pic_BotHistorico", "Pic_BotHisTt",      "Pic_BotAdeAtr", "Pic_Carpeta",  "Pic_Pestana"};
     if (std::ranges::find(kNombres, nombre) == kNombres.end())
         throw ErrorConsola(fmt::format("el control {} no existe", nombre));
 }
@@ -96,7 +97,7 @@ Consola::Orden Consola::OrdenDe(const std::string& nombre) {
         {"pasa", &Consola::Pasa},         {"traza", &Consola::Traza},
         {"pantalla", &Consola::Pantalla}, {"abre", &Consola::Abre},
         {"cierra", &Consola::Cierra},     {"escribe", &Consola::Escribe},
-        {"desliza", &Consola::Desliza},
+        {"desliza", &Consola::Desliza},   {"informe", &Consola::Informe},
     };
     const auto sitio = kOrdenes.find(nombre);
     if (sitio == kOrdenes.end())
@@ -302,6 +303,17 @@ void Consola::Desliza(Lector& lector) {
     lector.ExigeFin();
     ExigeDeForma(nombre);
     ExigeControl(forma_.Desliza(nombre, indice, valor), nombre, indice);
+}
+
+void Consola::Informe(Lector& lector) {
+    const std::string nombre = lector.Palabra();
+    const bool con_pagina = !lector.Fin();
+    const int pagina = con_pagina ? lector.Entero() : 0;
+    lector.ExigeFin();
+    if (con_pagina && pagina < 1)
+        throw ErrorConsola("las páginas se cuentan desde 1");
+    for (const std::string& linea : LineasDe(PaginaDeForma(nombre, pagina)))
+        Responde(linea);
 }
 
 void Consola::Contesta(Lector& lector) {

@@ -60,6 +60,7 @@ private:
     void Cierra(Lector& lector);
     void Escribe(Lector& lector);
     void Desliza(Lector& lector);
+    void Informe(Lector& lector);
 
     PlataformaSinPantalla& mesa_;
     std::ostream& salida_;

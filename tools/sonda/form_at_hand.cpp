@@ -21,12 +21,31 @@ Forma FormaDe(const std::string& nombre) {
     return sitio->second;
 }
 
+// True for its lifetime.
+class EnCurso {
+public:
+    explicit EnCurso(bool& bandera) : bandera_(bandera) { bandera_ = true; }
+    ~EnCurso() { bandera_ = false; }
+    EnCurso(const EnCurso&) = delete;
+    EnCurso& operator=(const EnCurso&) = delete;
+
+private:
+    bool& bandera_;
+};
+
 bool CierraForma(const MandosForma& mandos) {
     mandos.cierra();
     return true;
 }
 
 } // namespace
+
+PaginaImpresa PaginaDeForma(const std::string& nombre, int numero) {
+    const MandosForma& mandos = *MandosDe(FormaDe(nombre));
+    if (mandos.pagina == nullptr)
+        throw ErrorConsola(fmt::format("la forma {} no imprime páginas", nombre));
+    return mandos.pagina(numero);
+}
 
 void FormaEnMano::Abre(const std::string& nombre) {
     const Forma forma = FormaDe(nombre);
@@ -35,13 +54,22 @@ void FormaEnMano::Abre(const std::string& nombre) {
     cambia_ajustes_ = forma == Forma::Personal || forma == Forma::Normas;
     if (cambia_ajustes_)
         AntesDeLaForma();
-    mandos_ = MandosDe(forma);
-    mandos_->abre();
+    pila_.push_back(MandosDe(forma));
+    pila_.back()->abre();
 }
 
 void FormaEnMano::Olvida() {
-    mandos_ = nullptr;
+    for (const MandosForma* mandos : pila_)
+        mandos->deja();
+    pila_.clear();
     encoladas_.clear();
+}
+
+void FormaEnMano::QuitaCerradas() {
+    while (Abierta() && !pila_.back()->abierta())
+        pila_.pop_back();
+    if (!Abierta() && cambia_ajustes_)
+        TrasLaForma();
 }
 
 // On the open form at once, and what comes after a closing; otherwise when a form opens.
@@ -50,12 +78,9 @@ bool FormaEnMano::Haz(Accion accion) {
         encoladas_.push_back(std::move(accion));
         return true;
     }
-    const bool hay = accion(*mandos_);
-    if (!mandos_->abierta()) {
-        mandos_ = nullptr;
-        if (cambia_ajustes_)
-            TrasLaForma();
-    }
+    const EnCurso en_curso(en_accion_);
+    const bool hay = accion(*pila_.back());
+    QuitaCerradas();
     return hay;
 }
 
@@ -82,6 +107,10 @@ void FormaEnMano::AtiendeLoEncolado(Forma forma) {
     if (mandos == nullptr)
         return;
     mandos->abre();
+    if (en_accion_) {
+        pila_.push_back(mandos);
+        return;
+    }
     while (mandos->abierta() && !encoladas_.empty()) {
         const Accion accion = std::move(encoladas_.front());
         encoladas_.pop_front();

@@ -11,6 +11,7 @@
 #include "games/common/hand_queries.h"
 #include "games/common/hands.h"
 #include "games/common/series.h"
+#include "reports/marcador.h"
 #include "session/initial_draw.h"
 #include "session/main_buttons.h"
 #include "session/match_driver.h"
@@ -78,6 +79,13 @@ void MoverCarta(Integer palo, Integer valor, int desdeX, int desdeY, Integer des
                {hastaX, hastaY, hastaOrientacion, hastaCara}, tapada == 1);
 }
 
+// The page button under the pointer, which stands where the line says or else where the mouse was last.
+std::optional<std::string> BuscaBoton(const Argumentos& lugar) {
+    static const Llamada kBusca = Llama(&CualBoton);
+    const Argumentos raton{static_cast<double>(estado.RatonX), static_cast<double>(estado.RatonY)};
+    return kBusca(lugar.empty() ? raton : lugar);
+}
+
 // The tutor as its button asks it, be the button enabled or not.
 void PideConsejo() {
     const bool habilitado = BotonHabilitado(kBotonTutor);
@@ -129,6 +137,9 @@ const std::unordered_map<std::string, Llamada>& LosComunes() { // NOLINT(readabi
         // The numbers of Normas.
         {"LimitesSpin", Llama(&LimitesSpin)},
         {"ActualizaSpin", Llama(&ActualizaSpin)},
+
+        // The page buttons of Marcador.
+        {"CualBoton", BuscaBoton},
 
         // The deck.
         {"ConstruirBaraja", Llama(&ConstruirBaraja)},

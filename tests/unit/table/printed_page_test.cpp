@@ -40,7 +40,7 @@ TEST(PrintedPage, RulesAndBoxesAreNamedWithTheirLastPoint) {
     EXPECT_THAT(LineasDe(pagina), ElementsAre("0, 40, gris claro, normal, regla 719 40",
                                               "133, 50, rojo oscuro, normal, caja 195 64",
                                               "1, 2, amarillo, normal, caja 3 4",
-                                              "5, 6, azul oscuro, negrita, \"\"A\"\""));
+                                              "5, 6, azul oscuro, negrita, \"\"\"A\"\"\""));
 }
 
 TEST(PrintedPage, AnEmptyTextLeavesNothing) {
