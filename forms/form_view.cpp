@@ -37,13 +37,18 @@ FormaVista::FormaVista(const QString& titulo, const MandosForma& mandos, int tem
 
 void FormaVista::Muestra(QWidget* sobre) {
     mandos_.abre();
-    PonRefresco([this] { Refresca(); });
+    auto el_de_debajo = PonRefresco([this] { Refresca(); });
     Refresca();
     CentraEn(sobre != nullptr ? sobre->frameGeometry() : screen()->availableGeometry());
     exec();
-    PonRefresco({});
+    PonRefresco(std::move(el_de_debajo));
     if (mandos_.abierta())
         mandos_.deja();
+}
+
+QImage FormaVista::Foto() {
+    Refresca();
+    return grab().toImage();
 }
 
 void FormaVista::reject() {

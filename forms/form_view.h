@@ -2,6 +2,7 @@
 // A form as a dialog over the table.
 
 #include <QEvent>
+#include <QImage>
 #include <QPointer>
 #include <functional>
 #include <memory>
@@ -18,6 +19,8 @@ public:
     // Opens the form, shows it over sobre and returns when it is closed, by its exit button, by itself, or from
     // outside.
     void Muestra(QWidget* sobre);
+    // As it would be shown now, the form open and the dialog not on the screen.
+    QImage Foto();
     // Esc and the desktop's own ways of closing are the exit button.
     void reject() override;
 

@@ -173,6 +173,10 @@ private:
 
 } // namespace
 
+std::unique_ptr<FormaVista> HazVistaNormas(QWidget* sobre) {
+    return std::make_unique<NormasVista>(sobre);
+}
+
 void AbreVistaNormas(QWidget* sobre) {
-    NormasVista(sobre).Muestra(sobre);
+    HazVistaNormas(sobre)->Muestra(sobre);
 }

@@ -290,6 +290,10 @@ private:
 
 } // namespace
 
+std::unique_ptr<FormaVista> HazVistaPersonal(QWidget* sobre) {
+    return std::make_unique<PersonalVista>(sobre);
+}
+
 void AbreVistaPersonal(QWidget* sobre) {
-    PersonalVista(sobre).Muestra(sobre);
+    HazVistaPersonal(sobre)->Muestra(sobre);
 }

@@ -8,8 +8,8 @@ std::function<void()> refresco_en_uso;
 
 } // namespace
 
-void PonRefresco(std::function<void()> refresco) {
-    refresco_en_uso = std::move(refresco);
+std::function<void()> PonRefresco(std::function<void()> refresco) {
+    return std::exchange(refresco_en_uso, std::move(refresco));
 }
 
 void RefrescaForma() {

@@ -7,6 +7,7 @@
 inline constexpr int kSonidoSpin = 4, kSonidoSelector = 6, kSonidoEnlace = 7, kSonidoSalir = 9,
                      kSonidoCasilla = 25;
 
-// The view of the open form: called after each change that the player can see. Without one nothing happens.
-void PonRefresco(std::function<void()> refresco);
+// The view of the open form: called after each change that the player can see. Without one nothing happens. Answers the
+// one before, which a form that lies over another gives back when it closes.
+std::function<void()> PonRefresco(std::function<void()> refresco);
 void RefrescaForma();

@@ -46,10 +46,6 @@ const InformesDeJuego& Como() {
     return JuegoEnMesa().informes;
 }
 
-bool PorParejas() {
-    return estado.ModalidadJuego == kDosParejas && !JuegoEnMesa().dinero.hay;
-}
-
 bool Activo(int asiento) {
     return estado.EstadoJugador(asiento) == kActivado;
 }

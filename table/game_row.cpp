@@ -64,6 +64,10 @@ const FilaJuego& JuegoEnMesa() {
     return *fila;
 }
 
+bool PorParejas() {
+    return estado.ModalidadJuego == kDosParejas && !JuegoEnMesa().dinero.hay;
+}
+
 bool SePuedeJugar(const FilaJuego& juego) {
     return juego.driver != nullptr;
 }

@@ -217,5 +217,8 @@ const std::vector<const FilaJuego*>& FilasDeJuegos();
 const FilaJuego* FilaDe(Integer juego);
 // The row of JuegoActivo; std::logic_error when it is none.
 const FilaJuego& JuegoEnMesa();
+// Two teams play the game on the table: hands and matches are won by 1 or 2. In the games with money everybody wins
+// alone.
+bool PorParejas();
 // The game can be played.
 bool SePuedeJugar(const FilaJuego& juego);

@@ -5,6 +5,7 @@
 #include "core/game_state.h"
 #include "core/numeric.h"
 #include "core/session_state.h"
+#include "games/common/match_history.h"
 #include "storage/saving.h"
 #include "table/button_column.h"
 #include "table/chips.h"
@@ -21,11 +22,6 @@
 #include "table/whole_table.h"
 
 namespace {
-
-// In the games with money a hand is won alone.
-bool PorParejas() {
-    return estado.ModalidadJuego == kDosParejas && !JuegoEnMesa().dinero.hay;
-}
 
 bool EnEquipo(int asiento, Integer ganador) {
     return asiento == ganador || (PorParejas() && estado.ParejaAsiento(asiento) == ganador);
@@ -239,7 +235,7 @@ void ApuntaMano() {
 void FinalPartida() {
     const std::string texto = TextoFinalPartida();
     Mensaje("Final de Partida", texto, LineasDe(texto), 1);
-    Mensaje("Histórico de partidas jugadas", "¿Se actualiza el Histórico de partidas?", 1, 2);
+    PreguntaPorHistorico();
     OcultaTantos();
     OcultarContinuar();
     OcultaSugerencia();

@@ -7,12 +7,9 @@
 #include "core/text.h"
 #include "games/common/hands.h"
 #include "games/common/trick_state.h"
+#include "table/game_row.h"
 
 namespace {
-
-bool PorParejas() {
-    return estado.ModalidadJuego == kDosParejas;
-}
 
 Integer EquipoDe(Integer asiento) {
     return asiento > 2 ? estado.ParejaAsiento(asiento) : asiento;

@@ -23,6 +23,8 @@
 #include "platform/qt/places.h"
 #include "platform/qt/platform_qt.h"
 #include "platform/qt/termination.h"
+#include "reports/historic_view.h"
+#include "reports/marcador_view.h"
 #include "session/entry.h"
 #include "table/messages.h"
 
@@ -107,6 +109,8 @@ int JuegaEnVentana(const QString& carpeta) {
     UsaPlataforma(escritorio);
     escritorio.PonForma(Forma::Personal, AbreVistaPersonal);
     escritorio.PonForma(Forma::Normas, AbreVistaNormas);
+    escritorio.PonForma(Forma::Marcador, AbreVistaMarcador);
+    escritorio.PonForma(Forma::Historic, AbreVistaHistoric);
     const AvisoDeFin fin([&escritorio] { escritorio.PideTermina(); });
     if (cerrojo.EnUso()) {
         if (!QuiereJugarSinGuardar(carpeta))

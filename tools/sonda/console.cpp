@@ -358,5 +358,5 @@ void Consola::Pantalla(Lector& lector) {
     const std::string fichero = lector.Resto();
     if (!pinta_)
         throw ErrorConsola("esta consola no pinta");
-    pinta_(fichero);
+    pinta_(fichero, forma_.Encima());
 }

@@ -3,6 +3,7 @@
 // without a screen.
 
 #include <functional>
+#include <optional>
 #include <ostream>
 #include <string>
 #include <string_view>
@@ -13,9 +14,9 @@
 
 class Consola {
 public:
-    // Takes the platform into use and begins as after `limpia`. pinta: paints the table into a picture file;
-    // a console without it has no `pantalla`.
-    using Pintor = std::function<void(const std::string& fichero)>;
+    // Takes the platform into use and begins as after `limpia`. pinta: paints the table, and the form that is open
+    // over it, into a picture file; a console without it has no `pantalla`.
+    using Pintor = std::function<void(const std::string& fichero, std::optional<Forma> abierta)>;
     Consola(PlataformaSinPantalla& mesa, std::ostream& salida, Pintor pinta = {});
     ~Consola();
     Consola(const Consola&) = delete;

@@ -54,19 +54,27 @@ void FormaEnMano::Abre(const std::string& nombre) {
     cambia_ajustes_ = forma == Forma::Personal || forma == Forma::Normas;
     if (cambia_ajustes_)
         AntesDeLaForma();
-    pila_.push_back(MandosDe(forma));
-    pila_.back()->abre();
+    pila_.push_back(forma);
+    MandosDeEncima().abre();
+}
+
+std::optional<Forma> FormaEnMano::Encima() const {
+    return Abierta() ? std::optional(pila_.back()) : std::nullopt;
+}
+
+const MandosForma& FormaEnMano::MandosDeEncima() const {
+    return *MandosDe(pila_.back());
 }
 
 void FormaEnMano::Olvida() {
-    for (const MandosForma* mandos : pila_)
-        mandos->deja();
+    for (const Forma forma : pila_)
+        MandosDe(forma)->deja();
     pila_.clear();
     encoladas_.clear();
 }
 
 void FormaEnMano::QuitaCerradas() {
-    while (Abierta() && !pila_.back()->abierta())
+    while (Abierta() && !MandosDeEncima().abierta())
         pila_.pop_back();
     if (!Abierta() && cambia_ajustes_)
         TrasLaForma();
@@ -79,7 +87,7 @@ bool FormaEnMano::Haz(Accion accion) {
         return true;
     }
     const EnCurso en_curso(en_accion_);
-    const bool hay = accion(*pila_.back());
+    const bool hay = accion(MandosDeEncima());
     QuitaCerradas();
     return hay;
 }
@@ -108,7 +116,7 @@ void FormaEnMano::AtiendeLoEncolado(Forma forma) {
         return;
     mandos->abre();
     if (en_accion_) {
-        pila_.push_back(mandos);
+        pila_.push_back(forma);
         return;
     }
     while (mandos->abierta() && !encoladas_.empty()) {

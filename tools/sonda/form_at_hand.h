@@ -4,6 +4,7 @@
 
 #include <deque>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -19,6 +20,8 @@ public:
     // or while another one is open.
     void Abre(const std::string& nombre);
     bool Abierta() const { return !pila_.empty(); }
+    // The form that lies on top, if one is open.
+    std::optional<Forma> Encima() const;
     void Olvida();
 
     // By Pic_BotSalir; the others on a control of the form. False when the form has no such control.
@@ -35,9 +38,10 @@ private:
     using Accion = std::function<bool(const MandosForma&)>;
     bool Haz(Accion accion);
 
+    const MandosForma& MandosDeEncima() const;
     void QuitaCerradas();
 
-    std::vector<const MandosForma*> pila_; // the topmost last
+    std::vector<Forma> pila_; // the topmost last
     bool cambia_ajustes_ = false;
     bool en_accion_ = false;
     std::deque<Accion> encoladas_;

@@ -21,7 +21,9 @@ int main(int argc, char** argv) { // NOLINT(bugprone-exception-escape)
     if (!carpeta.empty())
         mesa.UsaCarpeta(carpeta);
     Consola consola(mesa, std::cout,
-                    [&mesa](const std::string& fichero) { PintaPantalla(mesa, fichero); });
+                    [&mesa](const std::string& fichero, std::optional<Forma> abierta) {
+                        PintaPantalla(mesa, abierta, fichero);
+                    });
     for (std::string linea; std::getline(std::cin, linea);)
         consola.Linea(linea);
     return consola.HuboErrores() ? 1 : 0;

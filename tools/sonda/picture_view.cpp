@@ -1,11 +1,17 @@
 #include "tools/sonda/picture_view.h"
 
-#include <QGuiApplication>
+#include <QApplication>
+#include <QPainter>
 
 #include <algorithm>
 
 #include "core/literal.h"
+#include "forms/form_view.h"
+#include "forms/normas_view.h"
+#include "forms/personal_view.h"
 #include "platform/qt/picture_platform.h"
+#include "reports/historic_view.h"
+#include "reports/marcador_view.h"
 #include "session/state_blocks.h"
 #include "table/whole_table.h"
 #include "tools/common/program_files.h"
@@ -18,7 +24,7 @@ void ArrancaLetras() {
     static char nombre[] = "sonda";
     static char* argv[] = {nombre, nullptr};
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    static const QGuiApplication kAplicacion(argc, argv);
+    static const QApplication kAplicacion(argc, argv);
 }
 
 // Another platform and a state of its own, until the painting is done.
@@ -37,6 +43,27 @@ private:
     Instantanea estado_ = Instantanea::Toma();
 };
 
+QImage FotoDe(Forma forma) {
+    switch (forma) {
+    case Forma::Personal:
+        return HazVistaPersonal()->Foto();
+    case Forma::Normas:
+        return HazVistaNormas()->Foto();
+    case Forma::Marcador:
+        return HazVistaMarcador()->Foto();
+    case Forma::Historic:
+        return HazVistaHistoric()->Foto();
+    default:
+        return {};
+    }
+}
+
+// In the middle of the table, as the window shows it.
+void PonEncima(QImage& cuadro, const QImage& forma) {
+    QPainter(&cuadro).drawImage((cuadro.width() - forma.width()) / 2,
+                                (cuadro.height() - forma.height()) / 2, forma);
+}
+
 std::string RutaDeBaraja() {
     const char* nombre = estado.TipoBaraja == kBarajaEspanola ? "Baraja02.bmp" : "Baraja01.bmp";
     return CarpetaDelEjecutable() + "/" + nombre;
@@ -44,8 +71,10 @@ std::string RutaDeBaraja() {
 
 } // namespace
 
-void PintaPantalla(const PlataformaSinPantalla& mesa, const std::string& fichero) {
+void PintaPantalla(const PlataformaSinPantalla& mesa, std::optional<Forma> abierta,
+                   const std::string& fichero) {
     ArrancaLetras();
+    const QImage forma = abierta ? FotoDe(*abierta) : QImage();
     PlataformaCuadro cuadro;
     cuadro.Mide(estado.AnchoPantalla, estado.AltoPantalla);
     cuadro.CargaBaraja(RutaDeBaraja(), estado.ColumnasBaraja);
@@ -57,6 +86,8 @@ void PintaPantalla(const PlataformaSinPantalla& mesa, const std::string& fichero
     estado.PartidaEnCurso = estado.PartidaEnCurso || hay_cartas;
     PrepararImagenes();
     RedibujarMesa();
-    if (!cuadro.Cuadro().save(QString::fromStdString(fichero)))
+    QImage pantalla = cuadro.Cuadro();
+    PonEncima(pantalla, forma);
+    if (!pantalla.save(QString::fromStdString(fichero)))
         throw ErrorConsola("no se puede escribir " + fichero);
 }
