@@ -5,7 +5,6 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
-#include <QScreen>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 #include <array>
@@ -156,7 +155,7 @@ private:
         const PaginaImpresa pagina = historic::Pagina();
         const QSize alrededor(2 * (kMargen + 4 + kLomo),
                               kAltoBanda + 3 * kMargen + kAltoFila + kAltoPestana + kPieCarpeta);
-        const QSize sitio = screen()->availableGeometry().size() - alrededor;
+        const QSize sitio = SitioParaHojas(*this) - alrededor;
         const QSize hoja = HojaVista::TamanoDe(pagina, HojaVista::EscalaPara(pagina, sitio));
         carpeta_ = new CarpetaVista([this](int paso) { Pasa(paso); }, this);
         carpeta_->setObjectName(QStringLiteral("Pic_Carpeta"));
@@ -180,6 +179,13 @@ private:
                     [this, cual] { Atiende([cual] { historic::PulsaPestana(cual); }); });
             pestanas_[static_cast<std::size_t>(cual - 1)] = pestana;
         }
+        // The list's own: there is nothing to choose.
+        lista_ = new PestanaVista(carpeta_);
+        lista_->setText(QStringLiteral("Partidas terminadas"));
+        lista_->setGeometry(kLomo, 0, paso, kAltoPestana);
+        lista_->setFocusPolicy(Qt::NoFocus);
+        lista_->setAttribute(Qt::WA_TransparentForMouseEvents);
+        lista_->setChecked(true);
     }
 
     QLayout* HazBotones() {
@@ -206,6 +212,7 @@ private:
         totales_->setCursor(CursorDe(hay ? Puntero::ManoIndice : Puntero::Prohibido));
         totales_->setText(historic::Pestana() == 0 ? QStringLiteral("Totales")
                                                    : QStringLiteral("Partidas"));
+        lista_->setVisible(historic::Pestana() == 0);
         for (int cual = 1; cual <= kPestanas; ++cual) {
             PestanaVista& pestana = *pestanas_[static_cast<std::size_t>(cual - 1)];
             pestana.setVisible(historic::Pestana() != 0);
@@ -234,6 +241,7 @@ private:
     CarpetaVista* carpeta_ = nullptr;
     HojaVista* hoja_ = nullptr;
     BotonSuite* totales_ = nullptr;
+    PestanaVista* lista_ = nullptr;
     std::array<PestanaVista*, kPestanas> pestanas_{};
 };
 

@@ -9,7 +9,6 @@
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
-#include <QScreen>
 #include <QStandardPaths>
 #include <QVBoxLayout>
 #include <QVariantAnimation>
@@ -30,7 +29,8 @@ constexpr int kMargen = 12;
 constexpr int kAltoBanda = 4 + estilo::kAltoBanda + 2;
 constexpr int kAltoFila = 34;
 constexpr int kAnchoBoton = 92;
-constexpr int kHueco = 6;    // of the slot around the paper
+constexpr int kHueco = 6; // of the slot around the paper
+constexpr int kBordePieza = 8;
 constexpr int kSubida = 700; // how long the paper rises, as the pauses count it
 
 // One of the four page buttons.
@@ -57,7 +57,8 @@ protected:
 
     void paintEvent(QPaintEvent*) override {
         QPainter p(this);
-        forma::PintaPanel(p, rect(), isDown() ? lamina::kMensajePulsado : lamina::kMensajeArriba);
+        estilo::PintaPieza(p, rect(), isDown() ? lamina::kMensajePulsado : lamina::kMensajeArriba,
+                           kBordePieza);
         p.setRenderHint(QPainter::Antialiasing);
         p.setPen(Qt::NoPen);
         p.setBrush(underMouse() ? estilo::kMarco : estilo::kBanda);
@@ -106,7 +107,7 @@ public:
 protected:
     void showEvent(QShowEvent* evento) override {
         FormaVista::showEvent(evento);
-        SubePapel();
+        PapelSubiendo();
     }
 
 private:
@@ -116,7 +117,7 @@ private:
         const PaginaImpresa pagina = marcador::Pagina();
         const QSize alrededor(2 * (kMargen + 4 + kHueco),
                               kAltoBanda + 3 * kMargen + kAltoFila + 2 * kHueco);
-        const QSize sitio = screen()->availableGeometry().size() - alrededor;
+        const QSize sitio = SitioParaHojas(*this) - alrededor;
         const QSize hoja = HojaVista::TamanoDe(pagina, HojaVista::EscalaPara(pagina, sitio));
         ranura_ = new Ranura(this);
         ranura_->setObjectName(QStringLiteral("Pic_Informe"));
@@ -183,7 +184,7 @@ private:
     }
 
     // The paper comes up out of the slot; at the highest speed it is there at once.
-    void SubePapel() {
+    void PapelSubiendo() {
         const int dura = qRound(kSubida * FactorPausa(estado.VelocidadJuego) / 2);
         if (dura <= 0)
             return;

@@ -4,9 +4,11 @@
 #include <QPagedPaintDevice>
 #include <QPainter>
 #include <QPdfWriter>
+#include <QScreen>
 #include <algorithm>
 #include <optional>
 
+#include "core/game_state.h"
 #include "platform/qt/canvas_qt.h"
 
 namespace {
@@ -82,6 +84,11 @@ bool GuardaPdf(const QString& fichero, const QString& titulo,
     pdf.setPageSize(QPageSize(QPageSize::A4));
     pdf.setPageMargins(kMargenes, QPageLayout::Millimeter);
     return EscribeHojas(pdf, paginas);
+}
+
+QSize SitioParaHojas(const QWidget& forma) {
+    const QSize mesa(estado.AnchoPantalla, estado.AltoPantalla);
+    return mesa.boundedTo(forma.screen()->availableGeometry().size());
 }
 
 HojaVista::HojaVista(const QString& que, QWidget* padre) : QWidget(padre) {

@@ -77,19 +77,19 @@ TEST_F(HistoricTest, EachMatchTakesTwoLinesTheNewestFirst) {
         Lineas(),
         ElementsAre(
             testing::_, "16, 38, negro, normal, \"01-12-2026\"", "247, 38, negro, normal, \"Luis\"",
-            "472, 38, negro, normal, \"5\"", "16, 53, negro, normal, \"00:30\"",
-            "251, 53, negro, normal, \"Ana\"", "472, 53, negro, normal, \"4\"",
+            "471, 38, negro, normal, \"5\"", "16, 53, negro, normal, \"00:30\"",
+            "251, 53, negro, normal, \"Ana\"", "471, 53, negro, normal, \"4\"",
             "16, 76, negro, normal, \"20-11-2026\"", "251, 76, negro, normal, \"Ana\"",
-            "472, 76, negro, normal, \"3\"", "16, 91, negro, normal, \"09:05\"",
-            "212, 91, negro, normal, \"Luis, Eva, Pepe\"", "458, 91, negro, normal, \"2/1/0\""));
+            "471, 76, negro, normal, \"3\"", "16, 91, negro, normal, \"09:05\"",
+            "209, 91, negro, normal, \"Luis, Eva, Pepe\"", "457, 91, negro, normal, \"2/1/0\""));
 }
 
 TEST_F(HistoricTest, OfAPairOnlyTheFirstFigureIsShown) {
     Pon(kBrisca);
     Juega(Dia(1), {{"Ana", 3}, {"Eva", 0}}, {{"Luis", 2}, {"Pepe", 0}}, true);
-    EXPECT_THAT(Lineas(), testing::IsSupersetOf({"230, 38, negro, normal, \"Ana, Eva\"",
-                                                 "472, 38, negro, normal, \"3\"",
-                                                 "472, 53, negro, normal, \"2\""}));
+    EXPECT_THAT(Lineas(), testing::IsSupersetOf({"233, 38, negro, normal, \"Ana, Eva\"",
+                                                 "471, 38, negro, normal, \"3\"",
+                                                 "471, 53, negro, normal, \"2\""}));
 }
 
 TEST_F(HistoricTest, MoneyHasItsOwnHeading) {

@@ -215,6 +215,8 @@ TEST_F(MarcadorTest, ATuteAtTheDealLeavesTheCellEmptyButForTheNote) {
 TEST_F(MarcadorTest, InPairsSeatThreeOrFourIsRedThroughItsPartnersMark) {
     Acabada(kTute, 1);
     estado.ModalidadJuego = kDosParejas;
+    estado.ParejaAsiento(2) = 4;
+    estado.ParejaAsiento(4) = 2;
     RegistroJuego& registro = estado.Juegos(1);
     for (int asiento = 1; asiento <= 4; ++asiento)
         registro.Texto1(asiento) = "30";
@@ -422,6 +424,7 @@ TEST_F(MarcadorTest, BlackJackBeginsWithTheSeatAfterTheBank) {
 TEST_F(MarcadorTest, BlackJackGoesRoundTheOtherWayToo) {
     Acabada(kBlackJack, 0);
     estado.JugadorBanca = 2;
+    estado.NombreJugador(2) = "Banca";
     estado.PasoSentido = -1;
     EXPECT_THAT(LineasEn(42),
                 testing::IsSupersetOf(
