@@ -142,7 +142,7 @@ public:
         auto* columna = new QVBoxLayout(this);
         columna->setContentsMargins(kMargen + 4, kAltoBanda + kMargen, kMargen + 4, kMargen);
         columna->setSpacing(kMargen - 2);
-        columna->addWidget(HazCarpeta());
+        columna->addWidget(HazCarpeta(), 0, Qt::AlignHCenter);
         columna->addLayout(HazBotones());
         setFixedSize(sizeHint());
         new TeclasDePagina(*this, [this](TeclasDePagina::Paso paso) { Pasa(PasosDe(paso)); });
