@@ -9,6 +9,7 @@
 #include "platform/platform.h"
 #include "session/main_buttons.h"
 #include "session/match_driver.h"
+#include "storage/history.h"
 #include "storage/settings.h"
 #include "table/game_row.h"
 #include "table/messages.h"
@@ -25,7 +26,7 @@ std::vector<std::string> LosFicheros() {
     std::vector<std::string> ficheros{kIniGeneral, "Baraja01.bmp", "Baraja02.bmp", "PkFDes.ZOV"};
     for (const FilaJuego* fila : FilasDeJuegos()) {
         ficheros.push_back(NombreIniJuego(fila->id));
-        ficheros.push_back(NombreHisJuego(fila->id));
+        ficheros.push_back(NombreHistorico(fila->id));
     }
     return ficheros;
 }

@@ -136,10 +136,6 @@ std::string NombreIniJuego(int juego) {
     return "ZOV" + Formato(static_cast<double>(juego), "00") + "31.INI";
 }
 
-std::string NombreHisJuego(int juego) {
-    return "ZOV" + Formato(static_cast<double>(juego), "00") + "31.HIS";
-}
-
 void LeerIniGeneral() {
     estado.FicheroNuevo = false;
     const int error =

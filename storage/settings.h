@@ -32,5 +32,3 @@ void LeerIniJuego();
 
 // "ZOV7031.INI" for game 70.
 std::string NombreIniJuego(int juego);
-// ... and of the history of its matches.
-std::string NombreHisJuego(int juego);

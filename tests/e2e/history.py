@@ -1,0 +1,92 @@
+"""A match of each game between four seats of the computer, to its end: it enters the history, and the folder that is
+opened from the score shows it first."""
+
+import os
+import pathlib
+import subprocess
+import time
+
+from lib.forms import Form
+from lib.table import expect, run, wait_for, xdotool
+
+GAMES = {"01": "Póker", "31": "Black Jack", "51": "Tute", "58": "Brisca", "65": "Siete y media",
+         "70": "Cinquillo"}
+BLOCK = 182
+HISTORY_TITLE, QUESTION = "Histórico de partidas de ", "Histórico de partidas jugadas"
+
+
+def prepare(table, game):
+    """Settings for a short match that needs nobody, written by the console."""
+    orders = [f"juego {int(game)}", "pon PausaEntreJugadas = false", "pon VelocidadJuego = 100",
+              "pon LimitePartida = 1", "pon RestoInicial = 10", "pon ApuestaSalida = 5",
+              *(f"pon ControlJugador({seat}) = 1" for seat in range(1, 5)),
+              'pon NombreJugador(2) = "Banca"' if game == "31" else "",
+              "llama GrabarIniGeneral", "llama GrabarIniJuego"]
+    sonda = pathlib.Path(os.environ["ZOVIN_BIN"]) / "sonda"
+    subprocess.run([sonda, "--carpeta", table.folder], input="\n".join(orders), text=True,
+                   check=True, capture_output=True)
+
+
+def play_to_the_end(table):
+    """Closes the boxes of the match as they come, up to the question, and says yes."""
+    end = time.monotonic() + 240
+    while time.monotonic() < end:
+        title, window = wait_for(table.box, 120, "a box of the match")
+        buttons = table.box_buttons(window)
+        if not buttons:
+            continue
+        table.click(*buttons[0 if title == QUESTION else -1])
+        wait_for(lambda: table.box() != (title, window), 10, f"«{title}» to close")
+        if title == QUESTION:
+            return
+    expect(False, "the match comes to its end")
+
+
+def history_of(table, game):
+    path = table.folder / f"ZOV{game}31.HIS"
+    return path.read_bytes() if path.exists() else b""
+
+
+def ink(picture, x, y, width, height):
+    """Dark points in a part of a picture."""
+    part = picture.crop(x, y, width, height)
+    return sum(sum(part.data[i:i + 3]) < 200 for i in range(0, len(part.data), 3))
+
+
+def look_at_the_history(table, name):
+    score = Form(table, "marcador", "Marcador", (0, 0))
+    table.shot(f"score-{name}")
+    score.click((score.width - 16 - 46 - 5 * 100, score.height - 29))
+    window = table.wait_for_box(HISTORY_TITLE + name, 10)
+    time.sleep(0.5)
+    table.shot(f"history-{name}")
+    x, y, width, height = table.place(window)
+    picture = table.shot().crop(x, y, width, height)
+    # The lines of the first match, below the heading; there is no second one.
+    expect(ink(picture, 60, 130, 200, height // 10) > 30, f"{name}: the match stands first")
+    expect(ink(picture, 60, height // 2, 200, height // 10) == 0, f"{name}: it stands alone")
+    xdotool("key", "Escape")
+    table.wait_for_box("Marcador", 10)
+    xdotool("key", "Escape")
+    wait_for(lambda: table.box() is None, 10, "the score to close")
+
+
+def play(table):
+    for game, name in GAMES.items():
+        prepare(table, game)
+        table.start()
+        table.wait_for_window()
+        table.answer("Descripción general", 1)
+        table.press_main("nueva")
+        play_to_the_end(table)
+        block = wait_for(lambda: history_of(table, game), 5, f"{name}: the history")
+        expect(len(block) == BLOCK and block.endswith(b"\r\n"), f"{name}: one block")
+        expect(block[:4].isdigit() and int(block[:4]) >= 2020, f"{name}: the year")
+        expect(block[12:21].strip(), f"{name}: a winner")
+        look_at_the_history(table, name)
+        table.close_window()
+        expect(table.wait_for_end() == 0, f"{name}: the program ends")
+        print(name, block[:97].decode("cp1252"), flush=True)
+
+
+run(play)
