@@ -10,12 +10,13 @@
 #include "games/common/series_fields.h"
 #include "games/common/trick_fields.h"
 #include "games/poker/poker_fields.h"
+#include "games/sieteymedia/sieteymedia_fields.h"
 #include "games/trick/search_fields.h"
 #include "reports/marcador_fields.h"
 
 // The blocks, in the order in which they are walked. A field's name is its own in all of them.
 inline auto LosBloques() {
-    return std::tie(estado, apuestas, series, bazas, busqueda, poker, informe);
+    return std::tie(estado, apuestas, series, bazas, busqueda, poker, siete, informe);
 }
 
 // visita("Nombre", campo) for each field of every block.

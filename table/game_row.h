@@ -14,6 +14,8 @@
 struct ProcedimientoConNombre; // table/procedure_call.h
 using ListaDeProcedimientos = std::vector<ProcedimientoConNombre>;
 
+class PaginaImpresa;
+
 // What the form "Normas" can set.
 enum class Regla {
     Reparto,
@@ -171,6 +173,8 @@ struct InformesDeJuego {
     bool sin_nota = false;       // the line of points stands alone
     const char* perdedores = ""; // what the history says of the losers instead of their figures
     bool cuenta_parejas = false; // the history has a heading for what the pairs have won
+    // The statistics: the figures of the hand in progress, on an empty page. Empty: there are none to show.
+    void (*estadis)(PaginaImpresa& pagina) = nullptr;
 };
 
 // What must hold, told apart from the code that played it. InvarianteRoto when something does not.

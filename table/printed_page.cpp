@@ -30,6 +30,15 @@ constexpr std::array<FichaTinta, 10> kTintas{{
     {"amarillo", 0xA0F0FF},
 }};
 
+struct DibujoPalo {
+    const char* signo = "";
+    Tinta tinta = Tinta::Negro;
+};
+
+// By palo from 1, as the rows of the deck's image.
+constexpr std::array<DibujoPalo, 4> kPalos{
+    {{"♦", Tinta::Rojo}, {"♥", Tinta::Rojo}, {"♠", Tinta::Negro}, {"♣", Tinta::Negro}}};
+
 const FichaTinta& FichaDe(Tinta tinta) {
     return kTintas[static_cast<std::size_t>(tinta)];
 }
@@ -54,7 +63,8 @@ void PintaImpreso(const Impreso& i, Lienzo& lienzo, int x, int y) {
     const Color color = ColorDe(i.tinta);
     const Rectangulo caja{x + i.x, y + i.y, i.x2 - i.x + 1, i.y2 - i.y + 1};
     switch (i.clase) {
-    case ClaseImpreso::Texto: {
+    case ClaseImpreso::Texto:
+    case ClaseImpreso::Palo: {
         const Fuente fuente{
             .alto = i.letra.cuerpo, .negrita = i.letra.negrita, .fija = true, .tope = i.x2 - i.x};
         return lienzo.Texto(x + i.x, y + i.y, i.texto, fuente, color, Alineacion::Izquierda);
@@ -121,6 +131,14 @@ void PaginaImpresa::Relleno(int x, int y, int x2, int y2, Tinta tinta) {
     impresos_.push_back({ClaseImpreso::Relleno, x, y, x2, y2, tinta, {}, {}});
 }
 
+void PaginaImpresa::Palo(int x, int y, Integer palo, const Letra& letra) {
+    if (palo < 1 || palo > static_cast<Integer>(kPalos.size()))
+        return;
+    const DibujoPalo& dibujo = kPalos[static_cast<std::size_t>(palo - 1)];
+    impresos_.push_back({ClaseImpreso::Palo, x, y, x + AnchoLetra(letra), y + AltoLinea(letra),
+                         dibujo.tinta, letra, dibujo.signo});
+}
+
 void PintaPagina(const PaginaImpresa& pagina, Lienzo& lienzo, int x, int y) {
     for (const Impreso& impreso : pagina.Impresos())
         PintaImpreso(impreso, lienzo, x, y);
@@ -128,9 +146,11 @@ void PintaPagina(const PaginaImpresa& pagina, Lienzo& lienzo, int x, int y) {
 
 std::vector<std::string> LineasDe(const PaginaImpresa& pagina) {
     std::vector<std::string> lineas;
-    for (const Impreso& i : pagina.Impresos())
-        lineas.push_back(fmt::format("{}, {}, {}, {}, {}", i.x, i.y, NombreDe(i.tinta),
-                                     i.letra.negrita ? "negrita" : "normal", Contenido(i)));
+    for (const Impreso& i : pagina.Impresos()) {
+        if (i.clase != ClaseImpreso::Palo)
+            lineas.push_back(fmt::format("{}, {}, {}, {}, {}", i.x, i.y, NombreDe(i.tinta),
+                                         i.letra.negrita ? "negrita" : "normal", Contenido(i)));
+    }
     return lineas;
 }
 

@@ -40,6 +40,7 @@ enum class ClaseImpreso {
     Linea,   // from (x, y) to (x2, y2)
     Caja,    // an empty box; x2, y2 are its last points
     Relleno, // the same, filled
+    Palo,    // the small picture of a suit of the French deck; texto is its sign
 };
 
 // x, y: the left edge and the top. letra and texto are a text's alone; x2, y2 of a text are the end of its letters
@@ -63,6 +64,7 @@ public:
 
     int Ancho() const { return ancho_; }
     int Alto() const { return alto_; }
+    void PonAlto(int alto) { alto_ = alto; }
     // In the order of printing.
     const std::vector<Impreso>& Impresos() const { return impresos_; }
 
@@ -75,6 +77,8 @@ public:
     void Linea(int x, int y, int x2, int y2, Tinta tinta);
     void Caja(int x, int y, int x2, int y2, Tinta tinta);
     void Relleno(int x, int y, int x2, int y2, Tinta tinta);
+    // The picture of a suit 1..4, as large as a letter, in its own ink; any other palo leaves nothing.
+    void Palo(int x, int y, Integer palo, const Letra& letra = {});
 
 private:
     int ancho_, alto_;
@@ -84,9 +88,17 @@ private:
 // Paints the items with the page's corner at (x, y) of the canvas; the paper itself is the caller's.
 void PintaPagina(const PaginaImpresa& pagina, Lienzo& lienzo, int x = 0, int y = 0);
 
-// One line an item: `x, y, ink, weight, "text"`, with `regla X2 Y2` or `caja X2 Y2` in the place of the text.
+// One line an item: `x, y, ink, weight, "text"`, with `regla X2 Y2` or `caja X2 Y2` in the place of the text. Pictures
+// have no line.
 std::vector<std::string> LineasDe(const PaginaImpresa& pagina);
 
 // The page as plain text for the clipboard: its lines from the top down, the texts of a line in their columns.
 // Lines end in LF.
 std::string TextoDe(const PaginaImpresa& pagina);
+
+// Prints on a page that nobody looks at, for what the printing writes of the state.
+template <void (*imprime)(PaginaImpresa&)>
+void EnHojaSuelta() {
+    PaginaImpresa hoja(0, 0);
+    imprime(hoja);
+}

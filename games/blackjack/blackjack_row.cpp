@@ -9,6 +9,7 @@
 #include "games/blackjack/blackjack_console.h"
 #include "games/blackjack/blackjack_input.h"
 #include "games/blackjack/blackjack_invariants.h"
+#include "games/blackjack/blackjack_statistics.h"
 #include "games/blackjack/blackjack_tutor.h"
 #include "games/common/money_hands.h"
 #include "games/common/series.h"
@@ -100,7 +101,8 @@ const FilaJuego& FilaBlackJack() {
         .informes = {.hoja = InformesDeJuego::Hoja::Banca,
                      .cabecera = "Mano",
                      .resultado = "Resultado",
-                     .perdedores = "Bancarrota"},
+                     .perdedores = "Bancarrota",
+                     .estadis = EstadisBj},
         .revision = {.paso = RevisaPasoBlackJack,
                      .mano = RevisaManoBlackJack,
                      .partida = RevisaPartidaBlackJack},

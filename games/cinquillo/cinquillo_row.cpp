@@ -6,6 +6,7 @@
 #include "games/cinquillo/cinquillo_choice.h"
 #include "games/cinquillo/cinquillo_console.h"
 #include "games/cinquillo/cinquillo_invariants.h"
+#include "games/cinquillo/cinquillo_statistics.h"
 #include "games/cinquillo/cinquillo_table.h"
 #include "games/common/hands.h"
 #include "games/common/trick_state.h"
@@ -51,7 +52,7 @@ const FilaJuego& FilaCinquillo() {
         .mano = {.limpia = BorraBazas},
         .partida = {.nueva = OlvidaBazas},
         .normas = {.reglas = {Regla::Reparto, Regla::Limite}},
-        .informes = {.en_contra = true},
+        .informes = {.en_contra = true, .estadis = EstadisC},
         .revision = {.mano = RevisaManoCinquillo, .partida = RevisaPartidaCinquillo},
         .procedimientos = ProcedimientosDeCinquillo,
     };

@@ -11,7 +11,9 @@
 #include "games/poker/hand_value.h"
 #include "games/poker/opening_law.h"
 #include "games/poker/poker_driver.h"
+#include "games/poker/poker_statistics.h"
 #include "games/poker/rivals.h"
+#include "table/printed_page.h"
 
 const ListaDeProcedimientos& ProcedimientosDePoker() {
     static const ListaDeProcedimientos kLista{
@@ -30,6 +32,7 @@ const ListaDeProcedimientos& ProcedimientosDePoker() {
         {"RivalesSinResto", Llama(&RivalesSinResto)},
         {"DecideDescarte", Llama(&DecideDescarte)},
         {"ManoPoker", Llama(&ManoPoker)},
+        {"EstadisPoker", Llama(&EnHojaSuelta<EstadisPoker>)},
     };
     return kLista;
 }

@@ -18,6 +18,7 @@
 #include "games/poker/poker_console.h"
 #include "games/poker/poker_driver.h"
 #include "games/poker/poker_invariants.h"
+#include "games/poker/poker_statistics.h"
 #include "games/poker/poker_tutor.h"
 #include "table/deck_setup.h"
 #include "table/game_row.h"
@@ -111,7 +112,8 @@ const FilaJuego& FilaPoker() {
         .informes = {.hoja = InformesDeJuego::Hoja::Jugada,
                      .cabecera = "Mano   Sale        ",
                      .resultado = "Ganancias",
-                     .cuenta_parejas = true},
+                     .cuenta_parejas = true,
+                     .estadis = EstadisPoker},
         .revision = {.paso = RevisaPasoPoker,
                      .mano = RevisaManoPoker,
                      .partida = RevisaPartidaPoker},

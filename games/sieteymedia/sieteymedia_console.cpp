@@ -3,6 +3,8 @@
 #include "games/sieteymedia/sieteymedia.h"
 #include "games/sieteymedia/sieteymedia_cards.h"
 #include "games/sieteymedia/sieteymedia_decision.h"
+#include "games/sieteymedia/sieteymedia_statistics.h"
+#include "table/printed_page.h"
 
 const ListaDeProcedimientos& ProcedimientosDeSiete() {
     static const ListaDeProcedimientos kLista{
@@ -10,6 +12,7 @@ const ListaDeProcedimientos& ProcedimientosDeSiete() {
         {"ManoSieteYMedia", Llama(&ManoSieteYMedia)},
         {"DestapaSerie", Llama(&DestapaSerie)},
         {"CambiaCuatro", Llama(&CambiaCuatro)},
+        {"EstadisSiete", Llama(&EnHojaSuelta<EstadisSiete>)},
     };
     return kLista;
 }

@@ -13,6 +13,7 @@
 #include "games/sieteymedia/sieteymedia_input.h"
 #include "games/sieteymedia/sieteymedia_invariants.h"
 #include "games/sieteymedia/sieteymedia_serie.h"
+#include "games/sieteymedia/sieteymedia_statistics.h"
 #include "games/sieteymedia/sieteymedia_tutor.h"
 #include "table/deck_setup.h"
 #include "table/game_row.h"
@@ -110,7 +111,8 @@ const FilaJuego& FilaSieteYMedia() {
         .normas = {.reglas = {Regla::Reparto, Regla::RestoInicial, Regla::ApuestaMaxima}},
         .informes = {.hoja = InformesDeJuego::Hoja::Series,
                      .cabecera = "Mano   Banca       ",
-                     .resultado = "Resultado"},
+                     .resultado = "Resultado",
+                     .estadis = EstadisSiete},
         .revision = {.paso = RevisaDineroDeBanca,
                      .mano = RevisaManoSiete,
                      .partida = RevisaPartidaSiete},

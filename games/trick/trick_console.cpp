@@ -8,6 +8,8 @@
 #include "games/trick/hand_end.h"
 #include "games/trick/stock.h"
 #include "games/trick/trick_driver.h"
+#include "games/trick/trick_statistics.h"
+#include "table/printed_page.h"
 
 const ListaDeProcedimientos& ProcedimientosDeBazas() {
     static const ListaDeProcedimientos kLista{
@@ -21,6 +23,7 @@ const ListaDeProcedimientos& ProcedimientosDeBazas() {
         {"RobaCartas", Llama(&RobaCartas)},
         {"CambiaTriunfo", Llama(&CambiaTriunfo)},
         {"FinalMano", LlamaPasos(&FinalMano)},
+        {"EstadisTB", Llama(&EnHojaSuelta<EstadisTB>)},
     };
     return kLista;
 }

@@ -14,6 +14,7 @@
 #include "games/trick/trick_console.h"
 #include "games/trick/trick_driver.h"
 #include "games/trick/trick_invariants.h"
+#include "games/trick/trick_statistics.h"
 #include "games/trick/trick_view.h"
 #include "table/deck_setup.h"
 #include "table/game_row.h"
@@ -82,7 +83,7 @@ FilaJuego FilaDeBazas(Integer id, const char* nombre, void (*prepara)(), void (*
         .mano = {.limpia = BorraBazas, .descubre = DescubreTriunfo},
         .partida = {.nueva = OlvidaBazas},
         .normas = {.reglas = {Regla::Reparto, Regla::Modalidad, Regla::Limite}},
-        .informes = {.cuenta_parejas = true},
+        .informes = {.cuenta_parejas = true, .estadis = EstadisTB},
         .revision = {.mano = RevisaManoBazas, .partida = RevisaPartidaBazas},
         .procedimientos = ProcedimientosDeBazas,
     };

@@ -1,0 +1,3 @@
+#include "games/sieteymedia/sieteymedia_state.h"
+
+EstadoSiete siete;
