@@ -109,6 +109,8 @@ const MandosForma* MandosDe(Forma forma) {
         return &kMandosMarcador;
     case Forma::Historic:
         return &kMandosHistoric;
+    case Forma::Estadis:
+        return &kMandosEstadis;
     default:
         return nullptr;
     }

@@ -2,6 +2,7 @@
 
 #include "core/numeric.h"
 #include "platform/platform.h"
+#include "reports/estadis.h"
 #include "reports/historic.h"
 #include "reports/marcador.h"
 
@@ -56,6 +57,10 @@ bool PulsaEnHistoric(std::string_view control, int indice) {
     return PulsaAyuda(control, kAyudaHistorico);
 }
 
+bool PulsaEnEstadis(std::string_view control, int /*indice*/) {
+    return PulsaAyuda(control, kAyudaEstadis);
+}
+
 bool NadaQueEscribir(std::string_view, int, std::string_view) {
     return false;
 }
@@ -71,6 +76,11 @@ bool CierraMarcador() {
 
 bool CierraHistoric() {
     historic::Cierra();
+    return true;
+}
+
+bool CierraEstadis() {
+    estadis::Cierra();
     return true;
 }
 
@@ -93,3 +103,12 @@ const MandosForma kMandosHistoric{.abre = historic::Abre,
                                   .escribe = NadaQueEscribir,
                                   .desliza = NadaQueDeslizar,
                                   .pagina = historic::Pagina};
+
+const MandosForma kMandosEstadis{.abre = estadis::Abre,
+                                 .abierta = estadis::Abierta,
+                                 .cierra = CierraEstadis,
+                                 .deja = estadis::Deja,
+                                 .pulsa = PulsaEnEstadis,
+                                 .escribe = NadaQueEscribir,
+                                 .desliza = NadaQueDeslizar,
+                                 .pagina = estadis::Pagina};

@@ -3,4 +3,4 @@
 
 #include "forms/handles.h"
 
-extern const MandosForma kMandosMarcador, kMandosHistoric;
+extern const MandosForma kMandosMarcador, kMandosHistoric, kMandosEstadis;

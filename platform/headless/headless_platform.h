@@ -49,7 +49,8 @@ public:
     FechaHora primer_dia;
 
     // Forms that this desktop has, and what opening one does.
-    std::set<Forma> formas{Forma::Personal, Forma::Normas, Forma::Marcador, Forma::Historic};
+    std::set<Forma> formas{Forma::Personal, Forma::Normas, Forma::Marcador, Forma::Historic,
+                           Forma::Estadis};
     std::function<void(Forma)> al_abrir;
 
     // Size of the window, 800 by 600 at first. The game learns of a change by an event or a call of its own.

@@ -23,6 +23,7 @@
 #include "platform/qt/places.h"
 #include "platform/qt/platform_qt.h"
 #include "platform/qt/termination.h"
+#include "reports/estadis_view.h"
 #include "reports/historic_view.h"
 #include "reports/marcador_view.h"
 #include "session/entry.h"
@@ -111,6 +112,7 @@ int JuegaEnVentana(const QString& carpeta) {
     escritorio.PonForma(Forma::Normas, AbreVistaNormas);
     escritorio.PonForma(Forma::Marcador, AbreVistaMarcador);
     escritorio.PonForma(Forma::Historic, AbreVistaHistoric);
+    escritorio.PonForma(Forma::Estadis, AbreVistaEstadis);
     const AvisoDeFin fin([&escritorio] { escritorio.PideTermina(); });
     if (cerrojo.EnUso()) {
         if (!QuiereJugarSinGuardar(carpeta))

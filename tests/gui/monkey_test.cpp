@@ -25,6 +25,7 @@
 #include "forms/personal_view.h"
 #include "platform/qt/message_box.h"
 #include "platform/qt/platform_qt.h"
+#include "reports/estadis_view.h"
 #include "session/main_buttons.h"
 #include "session/match_driver.h"
 #include "storage/settings.h"
@@ -539,6 +540,7 @@ private Q_SLOTS:
         mesa_->al_dormir = [this] { AlDormir(); };
         mesa_->PonForma(Forma::Personal, AbreVistaPersonal);
         mesa_->PonForma(Forma::Normas, AbreVistaNormas);
+        mesa_->PonForma(Forma::Estadis, AbreVistaEstadis);
         UsaPlataforma(*mesa_);
         RegistraDespacho(DespachaEvento);
         estado.CarpetaPrograma = carpeta_.path().toStdString();

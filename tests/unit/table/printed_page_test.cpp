@@ -43,6 +43,21 @@ TEST(PrintedPage, RulesAndBoxesAreNamedWithTheirLastPoint) {
                                               "5, 6, azul oscuro, negrita, \"\"\"A\"\"\""));
 }
 
+TEST(PrintedPage, ThePictureOfASuitIsPaintedAndHasNoLine) {
+    PaginaImpresa pagina(720, 500);
+    pagina.Texto(5, 6, "10", Tinta::Negro);
+    pagina.Palo(19, 6, 2);
+    pagina.Palo(26, 6, 5);
+    EXPECT_THAT(LineasDe(pagina), ElementsAre("5, 6, negro, normal, \"10\""));
+    ASSERT_THAT(pagina.Impresos(), SizeIs(2)); // a joker has no suit
+    EXPECT_EQ(pagina.Impresos()[1].clase, ClaseImpreso::Palo);
+    EXPECT_EQ(pagina.Impresos()[1].tinta, Tinta::Rojo);
+    EXPECT_EQ(pagina.Impresos()[1].x2, 26);
+    LienzoRegistrado lienzo;
+    PintaPagina(pagina, lienzo);
+    EXPECT_THAT(lienzo.Llamadas(), SizeIs(2));
+}
+
 TEST(PrintedPage, AnEmptyTextLeavesNothing) {
     PaginaImpresa pagina(720, 500);
     pagina.Texto(5, 6, "", Tinta::Negro);

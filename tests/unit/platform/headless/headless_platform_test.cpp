@@ -108,9 +108,9 @@ TEST_F(SinPantalla, AbrirUnaFormaHaceLoQueSeLeDijo) {
     p.al_abrir = [&](Forma forma) { abierta = forma; };
     p.Abre(Forma::Estadis);
     EXPECT_EQ(abierta, Forma::Estadis);
-    EXPECT_FALSE(p.TieneForma(Forma::Estadis));
-    p.formas.insert(Forma::Estadis);
     EXPECT_TRUE(p.TieneForma(Forma::Estadis));
+    p.formas.erase(Forma::Estadis);
+    EXPECT_FALSE(p.TieneForma(Forma::Estadis));
 }
 
 TEST_F(SinPantalla, SoloDibujaConLienzosRegistrados) {

@@ -1,0 +1,6 @@
+#pragma once
+// The form "estadis" as a dialog.
+
+class QWidget;
+
+void AbreVistaEstadis(QWidget* sobre);
