@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QTimer>
+#include <QWidget>
 
 #include "core/game_state.h"
 #include "games/common/series.h"
