@@ -28,6 +28,8 @@ OpcionesSimula UnaMesa() {
     opciones.asientos = Entre(juego.asientos.minimo, 4);
     opciones.parejas = opciones.asientos == 4 && !juego.asientos.sin_parejas && Entre(0, 1) == 1;
     opciones.limite = 1;
+    opciones.resto = 40; // so that the matches for money end soon
+    opciones.maxima = 20;
     opciones.semilla = *rc::gen::arbitrary<std::uint32_t>();
     opciones.azar = opciones.personas = true;
     RC_TAG(juego.nombre);
