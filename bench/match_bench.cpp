@@ -51,4 +51,20 @@ void Variantes(benchmark::internal::Benchmark* banco) {
 BENCHMARK(Brisca)->Apply(Variantes);
 BENCHMARK(Tute)->Apply(Variantes);
 
+// The seats. A match lasts until the chips of all but one have gone, some hundreds of hands.
+void ConBanca(benchmark::State& vueltas, Integer juego) {
+    OpcionesSimula opciones;
+    opciones.juego = juego;
+    opciones.asientos = static_cast<int>(vueltas.range(0));
+    Juega(vueltas, opciones);
+}
+void BlackJack(benchmark::State& vueltas) {
+    ConBanca(vueltas, kBlackJack);
+}
+void SieteYMedia(benchmark::State& vueltas) {
+    ConBanca(vueltas, kSieteYMedia);
+}
+BENCHMARK(BlackJack)->Arg(2)->Arg(4)->Unit(benchmark::kMillisecond);
+BENCHMARK(SieteYMedia)->Arg(2)->Arg(4)->Unit(benchmark::kMillisecond);
+
 } // namespace
