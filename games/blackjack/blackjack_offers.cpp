@@ -2,12 +2,12 @@
 
 #include "betting/bet_state.h"
 #include "betting/chips.h"
+#include "betting/phases.h"
 #include "core/game_state.h"
 #include "games/common/series.h"
 
 namespace {
 
-constexpr int kRenglonApuesta = 2; // of Apuesta: the bet, without doubling and insurance
 constexpr float kMinimoDoblar = 9, kMaximoDoblar = 11;
 
 bool EsLaBanca() {
@@ -27,7 +27,7 @@ Currency CuentaCarta(int lugar) {
 }
 
 Integer ApuestaDeSerie(int serie) {
-    return apuestas.Apuesta(estado.JugadorActual, serie, kRenglonApuesta);
+    return apuestas.Apuesta(estado.JugadorActual, serie, kFaseApuestas);
 }
 
 } // namespace

@@ -10,7 +10,6 @@
 #include "games/blackjack/blackjack_serie.h"
 #include "games/common/bank_buttons.h"
 #include "games/common/bank_hands.h"
-#include "games/common/card_turn.h"
 #include "games/common/series.h"
 #include "platform/canvas.h"
 #include "table/bet_board.h"
@@ -27,10 +26,6 @@ constexpr int kTipSeguro = 22, kTipAbrir = 23, kTipDoblar = 24, kTipPedir = 25, 
 constexpr float kHastaTipTutor = 0.2F;
 constexpr Integer kParpadeos = 2;
 constexpr int kBancaSePlanta = 17;
-
-bool EsManual() {
-    return estado.ControlJugador(estado.JugadorActual) == kManual;
-}
 
 bool Parada() {
     return SerieParada(estado.JugadorActual, estado.SerieEnJuego);
@@ -78,8 +73,8 @@ void PreparaJugada() {
     DecideBlackJack();
     BorraOrdenes();
     RedibujarAsiento(estado.JugadorActual);
-    HabilitaBoton(kBotonTutor, EsManual());
-    if (EsManual()) {
+    HabilitaBoton(kBotonTutor, JuegaUnaPersona());
+    if (JuegaUnaPersona()) {
         RefrescaPuntero();
         MostrarSugerencia(TipDeJugada());
     }
@@ -94,7 +89,7 @@ void VuelveALaSerieEnJuego() {
 }
 
 [[nodiscard]] bool EsperaJugada(bool primer_paso) {
-    const bool espera = EsManual() || (estado.PausaEntreJugadas && primer_paso);
+    const bool espera = JuegaUnaPersona() || (estado.PausaEntreJugadas && primer_paso);
     if (espera && !EsperaContinuar())
         return false;
     VuelveALaSerieEnJuego();
@@ -156,7 +151,7 @@ void CierraSerie() {
     const Integer asiento = estado.JugadorActual;
     const int puntos = PuntosBlackJack(asiento, estado.SerieActual);
     RetiraOfertas();
-    if (EsManual())
+    if (JuegaUnaPersona())
         RefrescaPuntero();
     if (puntos > kVeintiuna)
         PierdeAlPasarse();

@@ -4,6 +4,7 @@
 #include "betting/placing.h"
 #include "core/game_state.h"
 #include "core/random.h"
+#include "games/common/bank_hands.h"
 #include "table/bet_board.h"
 #include "table/button_column.h"
 #include "table/messages.h"
@@ -14,12 +15,8 @@ namespace {
 constexpr int kTipReglas = 15, kTipTutor = 49;
 constexpr float kHastaTipAutomatico = 0.2F;
 
-bool EsManual() {
-    return estado.ControlJugador(estado.JugadorActual) == kManual;
-}
-
 void Sugiere(const TurnoDeApuesta& turno) {
-    if (EsManual()) {
+    if (JuegaUnaPersona()) {
         const bool como = estado.AzarTurno < turno.hasta_tip_manual;
         const bool reglas = estado.AzarTurno < turno.hasta_tip_reglas;
         MostrarSugerencia(como ? turno.tip_manual : reglas ? kTipReglas : kTipTutor);
@@ -33,9 +30,9 @@ void PreparaApuesta(const TurnoDeApuesta& turno) {
     EmpiezaTurnoDeApuesta(estado.JugadorActual);
     estado.AzarTurno = AzarDeTurno();
     turno.decide();
-    if (EsManual())
+    if (JuegaUnaPersona())
         MuestraApostadora();
-    HabilitaBoton(kBotonTutor, EsManual());
+    HabilitaBoton(kBotonTutor, JuegaUnaPersona());
     Sugiere(turno);
 }
 
@@ -61,7 +58,7 @@ void CierraApuesta() {
 
 bool ApuestaLaSerie(const TurnoDeApuesta& turno) {
     PreparaApuesta(turno);
-    const bool espera = EsManual() || estado.PausaEntreJugadas;
+    const bool espera = JuegaUnaPersona() || estado.PausaEntreJugadas;
     if (espera && !EsperaContinuar())
         return false;
     if (!espera)

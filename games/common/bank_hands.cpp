@@ -66,6 +66,10 @@ std::vector<Integer> AsientosEnRueda() {
     return RuedaHasta(0);
 }
 
+bool JuegaUnaPersona() {
+    return estado.ControlJugador(estado.JugadorActual) == kManual;
+}
+
 void PonEnJuego(Integer asiento, Integer serie) {
     const Integer anterior = estado.JugadorActual;
     estado.JugadorActual = asiento;

@@ -13,6 +13,9 @@
 std::vector<Integer> AsientosAntesDeLaBanca();
 std::vector<Integer> AsientosEnRueda();
 
+// The seat on turn is played by hand.
+bool JuegaUnaPersona();
+
 // The seat is on turn (or settled) with that serie: writes JugadorActual, SerieActual and SerieEnJuego.
 void PonEnJuego(Integer asiento, Integer serie);
 

@@ -4,11 +4,13 @@
 
 #include "betting/bet_state.h"
 #include "betting/chips.h"
+#include "betting/phases.h"
 #include "core/game_state.h"
 #include "core/numeric.h"
 #include "core/text.h"
 #include "table/messages.h"
 #include "table/seat_drawing.h"
+#include "table/sounds.h"
 
 EstadoSeries series;
 
@@ -33,13 +35,12 @@ Suma SumaCartas(int asiento, int serie) {
 }
 
 void VuelveBocaArriba(int asiento, int serie) {
-    constexpr int kSonidoPosa = 25;
     for (int lugar = 1; lugar <= estado.NumCartas(asiento, serie); ++lugar) {
         estado.Mano(asiento, serie, lugar, kCara) = kDescubierta;
         estado.Mano(asiento, serie, lugar, kTapada) = 0;
     }
     RedibujarAsiento(asiento);
-    Sonido(0, kSonidoPosa);
+    Sonido(0, sonido::kPosa);
 }
 
 // The second card of a serie becomes the only one of another.
@@ -53,7 +54,7 @@ void PasaSegundaCarta(int asiento, int serie, int nueva) {
 }
 
 void IgualaApuesta(int asiento, int serie, int nueva) {
-    for (int fase : {2, 3, 5})
+    for (const Integer fase : kFasesConApuesta)
         apuestas.Apuesta(asiento, nueva, fase) = apuestas.Apuesta(asiento, serie, fase);
     for (int ficha = 1; ficha <= kMaximoFichasPuestas; ++ficha) {
         apuestas.FichasPuestas(asiento, nueva, ficha) =

@@ -8,7 +8,6 @@
 #include "games/common/bank_bets.h"
 #include "games/common/bank_buttons.h"
 #include "games/common/bank_hands.h"
-#include "games/common/card_turn.h"
 #include "games/common/series.h"
 #include "games/sieteymedia/sieteymedia_cards.h"
 #include "games/sieteymedia/sieteymedia_decision.h"
@@ -34,10 +33,6 @@ constexpr TurnoDeApuesta kApuesta{.decide = DecideSiete,
                                   .hasta_tip_reglas = 0.6F,
                                   .pausa = 100,
                                   .antes_de_decidir = CambiaCuatroSolo};
-
-bool EsManual() {
-    return estado.ControlJugador(estado.JugadorActual) == kManual;
-}
 
 bool EsBanca() {
     return estado.JugadorActual == estado.JugadorBanca;
@@ -93,10 +88,10 @@ void EmpiezaPaso() {
     series.OrdenServido = false;
     DecideSiete();
     RedibujarAsiento(estado.JugadorActual);
-    HabilitaBoton(kBotonTutor, EsManual());
-    estado.EligeCarta = EsManual();
+    HabilitaBoton(kBotonTutor, JuegaUnaPersona());
+    estado.EligeCarta = JuegaUnaPersona();
     estado.AzarTurno = AzarDeTurno();
-    if (!EsManual())
+    if (!JuegaUnaPersona())
         return;
     RefrescaPuntero();
     MostrarSugerencia(TipDelPaso());
@@ -104,7 +99,7 @@ void EmpiezaPaso() {
 
 // A person at every step, another seat once in its serie. False when the match was left.
 [[nodiscard]] bool EsperaOrden(bool primer_paso) {
-    if (!EsManual() && !(estado.PausaEntreJugadas && primer_paso))
+    if (!JuegaUnaPersona() && !(estado.PausaEntreJugadas && primer_paso))
         return true;
     if (!EsperaContinuar())
         return false;
