@@ -29,6 +29,7 @@ constexpr int kMargen = 16;
 constexpr int kNumero = kMargen + 7, kInicio = kMargen + 49; // under "Mano" and "Sale"
 constexpr int kPasoAsiento = 126, kMedioNombre = 70;
 constexpr int kPasoBanca = 144, kNombreBanca = -10;
+constexpr int kAnchoResultado = 63; // its title
 constexpr int kResultado = 5 * kPasoAsiento + 14, kResultadoBanca = 5 * kPasoBanca + kNombreBanca;
 constexpr int kTotal = 17; // from the title of the last column to its figures
 constexpr int kMarca = 10, kNota = 14, kManos = 52;
@@ -69,9 +70,9 @@ int AnchoHoja() {
     case Hoja::Manos:
         return 5 * kPasoAsiento + 2 * kMargen;
     case Hoja::Banca:
-        return kResultadoBanca + 63 + kMargen;
+        return kResultadoBanca + kAnchoResultado + kMargen;
     default:
-        return kResultado + 63 + kMargen;
+        return kResultado + kAnchoResultado + kMargen;
     }
 }
 

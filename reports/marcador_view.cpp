@@ -210,6 +210,7 @@ private:
 
     void Imprime() {
         QPrinter impresora(QPrinter::HighResolution);
+        impresora.setPageOrientation(QPageLayout::Landscape);
         QPrintDialog pregunta(&impresora, this);
         if (pregunta.exec() == QDialog::Accepted && !EscribeHojas(impresora, Paginas()))
             CuentaFallo("No se ha podido imprimir el informe.");

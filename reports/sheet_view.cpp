@@ -81,8 +81,8 @@ bool GuardaPdf(const QString& fichero, const QString& titulo,
     constexpr QMarginsF kMargenes(15, 15, 15, 15);
     QPdfWriter pdf(fichero);
     pdf.setTitle(titulo);
-    pdf.setPageSize(QPageSize(QPageSize::A4));
-    pdf.setPageMargins(kMargenes, QPageLayout::Millimeter);
+    pdf.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Landscape, kMargenes,
+                                  QPageLayout::Millimeter));
     return EscribeHojas(pdf, paginas);
 }
 

@@ -17,7 +17,7 @@ void PintaPaginaEn(QPainter& pintor, const PaginaImpresa& pagina);
 // Every page on a sheet of its own, as large as the sheet's margins allow. False when the device cannot be painted on.
 bool EscribeHojas(QPagedPaintDevice& papel, const std::vector<PaginaImpresa>& paginas);
 
-// A file of such sheets, A4 upright. False when it cannot be written.
+// A file of such sheets, A4 on its side, as a page is broader than high. False when it cannot be written.
 bool GuardaPdf(const QString& fichero, const QString& titulo,
                const std::vector<PaginaImpresa>& paginas);
 
