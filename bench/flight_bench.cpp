@@ -14,6 +14,7 @@
 #include "core/default_settings.h"
 #include "core/game_state.h"
 #include "core/random.h"
+#include "games/game_rows.h"
 #include "platform/qt/platform_qt.h"
 #include "session/initial_draw.h"
 #include "session/main_buttons.h"
@@ -73,6 +74,7 @@ Escritorio& Mesa() {
         BarajaDeColores(12).save(carpeta.filePath("Baraja02.bmp"));
         auto nueva = std::make_unique<Escritorio>(carpeta.path());
         UsaPlataforma(*nueva);
+        UsaJuegos(LosJuegos());
         RegistraDespacho(DespachaEvento);
         nueva->Ventana().resize(1920, 1080);
         nueva->Ventana().show();

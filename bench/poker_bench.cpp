@@ -7,6 +7,7 @@
 
 #include "core/game_state.h"
 #include "core/random.h"
+#include "games/game_rows.h"
 #include "games/poker/hand_reading.h"
 #include "games/poker/hand_value.h"
 #include "games/poker/poker_state.h"
@@ -26,6 +27,7 @@ using Mano = std::array<Carta, kCartas>;
 void PonBaraja(Integer cartas_baraja, Integer comodines_juego) {
     static PlataformaSinPantalla mesa;
     UsaPlataforma(mesa);
+    UsaJuegos(LosJuegos());
     estado = {};
     estado.JuegoActivo = kPoker;
     estado.CartasBaraja = cartas_baraja;

@@ -6,6 +6,7 @@
 #include "betting/chips.h"
 #include "betting/phases.h"
 #include "core/game_state.h"
+#include "games/game_rows.h"
 #include "games/poker/bet_choice.h"
 #include "games/poker/discard_choice.h"
 #include "games/poker/poker_state.h"
@@ -33,6 +34,7 @@ PlataformaSinPantalla& SinPantalla() {
 
 void SientaACuatro(Integer fase) {
     UsaPlataforma(SinPantalla());
+    UsaJuegos(LosJuegos());
     estado = {};
     apuestas = {};
     poker = {};
