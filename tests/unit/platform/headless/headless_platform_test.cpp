@@ -113,6 +113,15 @@ TEST_F(SinPantalla, AbrirUnaFormaHaceLoQueSeLeDijo) {
     EXPECT_FALSE(p.TieneForma(Forma::Estadis));
 }
 
+TEST_F(SinPantalla, LaFechaAvanzaConElReloj) {
+    EXPECT_EQ(p.Ahora(), (FechaHora{2000, 1, 1, 0, 0, 0}));
+    p.primer_dia = {2027, 12, 31, 23, 59, 30};
+    p.DuermeHasta(45'999);
+    EXPECT_EQ(p.Ahora(), (FechaHora{2028, 1, 1, 0, 0, 15}));
+    p.Limpia();
+    EXPECT_EQ(p.Ahora(), FechaHora{});
+}
+
 TEST_F(SinPantalla, SoloDibujaConLienzosRegistrados) {
     EXPECT_FALSE(p.HayPantalla());
     p.LienzoDe(Control::Mesa, 0).Fieltro({0, 0, 10, 10});
