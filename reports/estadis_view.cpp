@@ -85,6 +85,10 @@ private:
 
 } // namespace
 
+std::unique_ptr<FormaVista> HazVistaEstadis(QWidget* sobre) {
+    return std::make_unique<EstadisVista>(sobre);
+}
+
 void AbreVistaEstadis(QWidget* sobre) {
-    EstadisVista(sobre).Muestra(sobre);
+    HazVistaEstadis(sobre)->Muestra(sobre);
 }

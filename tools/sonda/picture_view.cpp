@@ -10,6 +10,7 @@
 #include "forms/normas_view.h"
 #include "forms/personal_view.h"
 #include "platform/qt/picture_platform.h"
+#include "reports/estadis_view.h"
 #include "reports/historic_view.h"
 #include "reports/marcador_view.h"
 #include "session/state_blocks.h"
@@ -53,9 +54,10 @@ QImage FotoDe(Forma forma) {
         return HazVistaMarcador()->Foto();
     case Forma::Historic:
         return HazVistaHistoric()->Foto();
-    default:
-        return {};
+    case Forma::Estadis:
+        return HazVistaEstadis()->Foto();
     }
+    return {};
 }
 
 // In the middle of the table, as the window shows it.
