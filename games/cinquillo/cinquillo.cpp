@@ -26,7 +26,6 @@
 namespace {
 
 constexpr int kTipTutor = 50, kTipReglas = 15;
-constexpr int kFilaPalo = 5, kFilaValor = 10; // rows of RegistroBazas before seat 1
 
 using Negativos = std::array<Integer, 5>;
 

@@ -72,8 +72,12 @@ private:
     PorCarta tendida_;       // 1 once laid
     Tabla<int, 4> cartas_{}; // by seat
 
-    static int Palo(int asiento, int ronda) { return bazas.RegistroBazas(asiento + 5, ronda); }
-    static int Valor(int asiento, int ronda) { return bazas.RegistroBazas(asiento + 10, ronda); }
+    static int Palo(int asiento, int ronda) {
+        return bazas.RegistroBazas(asiento + kFilaPalo, ronda);
+    }
+    static int Valor(int asiento, int ronda) {
+        return bazas.RegistroBazas(asiento + kFilaValor, ronda);
+    }
 
     void Da(int asiento, int palo, int valor) {
         de_(palo, valor) = asiento;

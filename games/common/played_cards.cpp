@@ -5,8 +5,6 @@
 
 namespace {
 
-constexpr int kFilaPalo = 5, kFilaValor = 10; // rows of RegistroBazas before seat 1
-
 CeldaDeBaraja CartaConSuMarca(Carta carta) {
     const bool jugada = bazas.CartaJugada(carta.palo, carta.valor) != 0;
     return {Numero(carta.valor), jugada ? Tinta::RojoOscuro : Tinta::Negro, jugada};

@@ -5,6 +5,9 @@
 #include "core/currency.h"
 #include "core/tabla.h"
 
+// RegistroBazas(asiento + row, trick): the suit and the rank that the seat played, whether it won, the suit it sang after it.
+inline constexpr int kFilaPalo = 5, kFilaValor = 10, kFilaGana = 15, kFilaCante = 20;
+
 struct EstadoBazas {
     // The trick.
     Currency TantosBaza;
@@ -21,8 +24,7 @@ struct EstadoBazas {
     Tabla<Currency, 4> TantosJugador;
     Tabla<Integer, 40> GanadorDeBaza;
     Tabla<Currency, 40> TantosDeBaza;
-    Tabla<Integer, 25, 41>
-        RegistroBazas; // row by seat (+5 palo, +10 valor, +15 won, +20 sung), trick
+    Tabla<Integer, 25, 41> RegistroBazas; // row, trick
 
     // What a look at a hand has found.
     Integer TuteEnMano = 0;

@@ -10,7 +10,6 @@
 namespace {
 
 constexpr int kSerie = 1;
-constexpr int kFilaCante = 20; // rows of RegistroBazas before seat 1
 constexpr int kTantosCante = 20, kTantosCanteTriunfo = 40;
 
 void EnsenaTute(Integer asiento) {

@@ -13,7 +13,6 @@
 namespace {
 
 constexpr int kSerie = 1;
-constexpr int kFilaPalo = 5, kFilaValor = 10, kFilaGana = 15; // rows of RegistroBazas before seat 1
 constexpr int kDiezUltimas = 10;
 
 void BuscaSiConviene() {

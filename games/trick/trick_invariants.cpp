@@ -23,7 +23,8 @@ bool Tute() {
 
 // The card that the seat played in the trick; palo 0 for none.
 Naipe Jugada(int asiento, int baza) {
-    return {bazas.RegistroBazas(asiento + 5, baza), bazas.RegistroBazas(asiento + 10, baza)};
+    return {bazas.RegistroBazas(asiento + kFilaPalo, baza),
+            bazas.RegistroBazas(asiento + kFilaValor, baza)};
 }
 
 int Orden(Naipe n) {
@@ -128,7 +129,8 @@ private:
         }
         ExigeEnBaza(bazas.GanadorDeBaza(baza) == ganador, baza, "no la ganó la carta más alta");
         for (const int asiento : jugadores_) {
-            ExigeEnBaza(bazas.RegistroBazas(asiento + 15, baza) == (asiento == ganador ? 1 : 0),
+            ExigeEnBaza(bazas.RegistroBazas(asiento + kFilaGana, baza) ==
+                            (asiento == ganador ? 1 : 0),
                         baza, "la marca del ganador no está en su sitio");
         }
     }
@@ -170,7 +172,7 @@ private:
     Currency TantosCantados(int baza) {
         Currency cantado;
         for (const int asiento : jugadores_) {
-            const int palo = bazas.RegistroBazas(asiento + 20, baza);
+            const int palo = bazas.RegistroBazas(asiento + kFilaCante, baza);
             if (palo == 0)
                 continue;
             RevisaCante(asiento, palo, baza);

@@ -14,7 +14,6 @@
 
 namespace {
 
-constexpr int kFilaGana = 15, kFilaCante = 20;         // rows of RegistroBazas before seat 1
 constexpr int kPrimerAsiento = 5, kEntreAsientos = 19; // columns
 constexpr int kAnchoTantos = 7;
 constexpr Integer kCartasDeTute = 4;
