@@ -1,5 +1,5 @@
-# What runs under Clang's sanitizers every day: the fuzzers, the scenarios, and the unit tests of what stands below the
-# games. One build serves all of it, for compiling is what takes long.
+# What runs under Clang's sanitizers every day: the fuzzers, the scenarios, and the unit tests of
+# what reads text, files and money. One build serves all of it, for compiling is what takes long.
 #
 # One libFuzzer program a file. Its kept corpus is tests/fuzz/corpus/<name>; what a run finds goes
 # to the build folder, so that a run changes nothing in the checkout.
@@ -38,8 +38,7 @@ endif()
 include(test_kinds)
 if(TARGET zovin_logic)
   zovin_gtest(sample_tests sample EXCLUDE "_slow_test\\.cpp$" TIMEOUT 120
-    PATTERNS tests/unit/core/*_test.cpp tests/unit/betting/*_test.cpp tests/unit/table/*_test.cpp
-             tests/unit/storage/*_test.cpp tests/unit/session/*_test.cpp)
+    PATTERNS tests/unit/core/*_test.cpp tests/unit/betting/*_test.cpp tests/unit/storage/*_test.cpp)
 endif()
 if(TARGET sonda)
   zovin_console_tests(scenario 120 tests/scenarios)
