@@ -6,7 +6,10 @@ include(test_kinds)
 if(TARGET zovin_logic)
   zovin_gtest(unit_tests unit PATTERNS tests/unit/**/*_test.cpp EXCLUDE "_slow_test\\.cpp$"
     TIMEOUT 60)
-  zovin_gtest(slow_tests slow PATTERNS tests/unit/**/*_slow_test.cpp TIMEOUT 3600)
+  # The preset release runs them: nobody else has to wait for their compiling.
+  if(CMAKE_BUILD_TYPE STREQUAL "Release")
+    zovin_gtest(slow_tests slow PATTERNS tests/unit/**/*_slow_test.cpp TIMEOUT 3600)
+  endif()
 
   zovin_sources(property_sources PATTERNS tests/property/**/*_test.cpp)
   if(property_sources)

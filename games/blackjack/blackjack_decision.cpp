@@ -43,7 +43,7 @@ Integer ProponApuesta(const Criterio& quien) {
     const Integer maxima = estado.ApuestaMaxima;
     const bool holgado = quien.resto > quien.reserva && quien.nivel < kNivelPrudente;
     const int decimos = (holgado ? kDecimosConHolgura : kDecimosDeApuesta) + quien.caracter;
-    Integer apuesta = RedondeaCociente(maxima * decimos, 10);
+    Integer apuesta = RedondeaCociente(1LL * maxima * decimos, 10);
     if (quien.nivel < kNivelPrudente || quien.resto > 2 * quien.reserva) {
         const long long decimo = (quien.caracter * quien.azar + kAzarEntero) * 1LL * maxima;
         apuesta = RedondeaCociente(decimo + 10LL * kAzarEntero * apuesta, 10LL * kAzarEntero);

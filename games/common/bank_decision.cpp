@@ -18,7 +18,7 @@ constexpr Integer kMaximaConCincos = 30, kParteSinCincos = 5;
 
 Integer ReservaDe(Integer caracter) {
     const int decimos = kDecimosDeReserva.at(static_cast<std::size_t>(caracter));
-    return RedondeaCociente(estado.RestoInicial * decimos, 10);
+    return RedondeaCociente(1LL * estado.RestoInicial * decimos, 10);
 }
 
 int EnMillonesimas(float azar) {

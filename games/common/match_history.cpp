@@ -71,6 +71,7 @@ void JuntaFiguras(std::vector<Anotado>& pareja) {
 
 std::vector<Anotado> Apunta(const std::vector<Integer>& asientos) {
     std::vector<Anotado> grupo;
+    grupo.reserve(asientos.size());
     for (const Integer asiento : asientos)
         grupo.push_back({estado.NombreJugador(asiento), FiguraDe(asiento)});
     if (EnParejas() && grupo.size() == 2)

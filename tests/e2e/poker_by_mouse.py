@@ -95,8 +95,8 @@ class Match:
         wait_for(lambda: self.player.captioned(self.table.shot()), 10, "the tutor's advice",
                  every=0.02)
         self.table.shot("tutor-bet")
+        wait_for(lambda: not self.player.captioned(self.table.shot()), 10, "the advice is gone")
         after = self.player.my_bet()
-        expect(not self.player.captioned(after), "the advice is gone")
         for box in (self.player.chips_box(), self.player.pot_box(), self.player.board_box()):
             expect(before.crop(*box).data == after.crop(*box).data, "the advice places no chips")
 
