@@ -106,7 +106,7 @@ void DecideApuesta(const Criterio& quien) {
     const long long partes = decimos * kAzarEntero + quien.azar * quien.caracter;
     Integer apuesta = RedondeaCociente(partes * estado.ApuestaMaxima, 10LL * kAzarEntero);
     if (series.ApuestaFuerte)
-        apuesta = RedondeaCociente(3 * apuesta, 2);
+        apuesta = RedondeaCociente(3LL * apuesta, 2);
     apuestas.ApuestaPropuesta = ApuestaAdmisible(apuesta, quien.resto);
 }
 
@@ -150,7 +150,7 @@ bool VuelveLaTapada(const Criterio& quien) {
         return false;
     // Twice the chance, two more and a third of the character.
     const Integer baja =
-        RedondeaCociente(6 * quien.azar + (6 + quien.caracter) * kAzarEntero, 3 * kAzarEntero);
+        RedondeaCociente(6 * quien.azar + (6 + quien.caracter) * kAzarEntero, 3LL * kAzarEntero);
     return estado.ValorCarta(estado.Mano(quien.asiento, serie, lugar, kValor)) > Currency(baja);
 }
 
