@@ -6,9 +6,13 @@ include(test_kinds)
 if(TARGET zovin_logic)
   zovin_gtest(unit_tests unit PATTERNS tests/unit/**/*_test.cpp EXCLUDE "_slow_test\\.cpp$"
     TIMEOUT 60)
-  # The preset release runs them: nobody else has to wait for their compiling.
+  # The preset release runs them. Elsewhere they are known to the tools and nobody has to wait for their compiling.
   if(CMAKE_BUILD_TYPE STREQUAL "Release")
     zovin_gtest(slow_tests slow PATTERNS tests/unit/**/*_slow_test.cpp TIMEOUT 3600)
+  else()
+    zovin_sources(slow_sources PATTERNS tests/unit/**/*_slow_test.cpp)
+    add_library(slow_tests OBJECT EXCLUDE_FROM_ALL ${slow_sources})
+    target_link_libraries(slow_tests PRIVATE ${test_libraries} GTest::gtest GTest::gmock)
   endif()
 
   zovin_sources(property_sources PATTERNS tests/property/**/*_test.cpp)
