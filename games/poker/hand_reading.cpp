@@ -81,7 +81,8 @@ Integer Lectura::ValorConCartas(int cartas) const {
 // Pairs and more of a rank. A joker goes to the largest group, a second joker nowhere.
 void Lectura::BuscaIguales() {
     int parejas = 0;
-    for (int i = 0; i < r_.num_grupos; ++i) {
+    const int grupos = std::min(r_.num_grupos, kCartasMano);
+    for (int i = 0; i < grupos; ++i) {
         const int cartas = r_.grupos[static_cast<std::size_t>(i)].cartas;
         parejas += cartas == 2 ? 1 : 0;
         if (cartas == 3)
