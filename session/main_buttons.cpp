@@ -153,6 +153,19 @@ void Tecla(int tecla) {
         PulsaBoton(kBotonNueva);
 }
 
+void PulsaFuncion(int tecla) {
+    constexpr int kAyuda = 1;
+    if (tecla == kAyuda)
+        plataforma().Ayuda(JuegoEnMesa().tema);
+    else
+        PulsaBoton(BotonDesdeArriba(tecla - kAyuda));
+}
+
+void Manda(const Evento& evento) {
+    if (evento.mando == Mando::Funcion)
+        PulsaFuncion(evento.indice);
+}
+
 void CierraVentana() {
     if (BotonHabilitado(kBotonSalir))
         PulsaBoton(kBotonSalir);
@@ -178,6 +191,9 @@ void DespachaEvento(const Evento& evento) {
         break;
     case TipoEvento::Tecla:
         Tecla(evento.tecla);
+        break;
+    case TipoEvento::Mando:
+        Manda(evento);
         break;
     case TipoEvento::Tamano:
         CambiaTamano();

@@ -25,3 +25,6 @@ void MueveFicha(const FichaMovida& ficha);
 // What a click on the seat's chips of a denomination has to hit: the chip at the foot of the stack, and as much as the
 // others stand out above it. Without size when the seat has none.
 Rectangulo PilaDe(Integer asiento, int d);
+
+// What the pot takes on the felt, with the plate of its number.
+Rectangulo LugarDelBote();

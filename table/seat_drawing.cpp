@@ -117,7 +117,7 @@ void AnunciaRotulo(int asiento) {
         return;
     vista.rotulo_dicho(asiento) = rotulo;
     if (!rotulo.empty())
-        plataforma().Anuncia(estado.NombreJugador(asiento) + ": " + SinEspaciar(rotulo));
+        plataforma().Anuncia(estado.NombreJugador(asiento) + ": " + RotuloDicho(asiento));
 }
 
 void ParpadeaRotulo(int asiento, Integer serie) {
@@ -197,6 +197,10 @@ void PintaDinero(int asiento) {
 }
 
 } // namespace
+
+std::string RotuloDicho(int asiento) {
+    return SinEspaciar(estado.RotuloSerie(asiento, estado.SerieActual));
+}
 
 void RedibujarAsiento(int asiento) {
     Traza("RedibujarAsiento", asiento);

@@ -41,13 +41,24 @@ Integer Codigo(Puntero puntero) {
     return static_cast<Integer>(puntero);
 }
 
-Integer PunteroEnCarta() {
+bool EsLegal(int lugar) {
+    const auto carta_legal = JuegoEnMesa().entrada.carta_legal;
+    return carta_legal == nullptr || carta_legal(lugar);
+}
+
+Puntero PunteroEnCarta(int lugar) {
     const FilaJuego& juego = JuegoEnMesa();
     if (juego.entrada.puntero != nullptr)
-        return Codigo(juego.entrada.puntero(estado.CartaBajoCursor));
+        return juego.entrada.puntero(lugar);
     if (apuestas.ModoApuesta)
-        return 0;
-    return Codigo(CartaLegal() ? Puntero::ManoVerde : Puntero::ManoRoja);
+        return Puntero::Flecha;
+    return EsLegal(lugar) ? Puntero::ManoVerde : Puntero::ManoRoja;
+}
+
+// The pile is offered at all, whatever it looks like.
+bool HayCambioEnElMazo() {
+    const FilaJuego& juego = JuegoEnMesa();
+    return juego.entrada.cambio_en_mazo != nullptr && juego.entrada.cambio_en_mazo();
 }
 
 bool EnElMazo(int x, int y) {
@@ -56,16 +67,14 @@ bool EnElMazo(int x, int y) {
 }
 
 bool CambioEnMazo(int x, int y) {
-    const FilaJuego& juego = JuegoEnMesa();
-    return juego.entrada.cambio_en_mazo != nullptr && juego.entrada.cambio_en_mazo() &&
-           EnElMazo(x, y);
+    return HayCambioEnElMazo() && EnElMazo(x, y);
 }
 
 Integer PunteroDeMano(int x, int y) {
     DetectaJdorYCar(x, y);
     Integer codigo = 0;
     if (estado.AsientoBajoCursor == estado.JugadorActual && estado.CartaBajoCursor != 0)
-        codigo = PunteroEnCarta();
+        codigo = Codigo(PunteroEnCarta(estado.CartaBajoCursor));
     return CambioEnMazo(x, y) ? Codigo(Puntero::Cambiar) : codigo;
 }
 
@@ -177,9 +186,43 @@ void PulsaSegunPuntero() {
 } // namespace
 
 bool CartaLegal() {
-    const FilaJuego& juego = JuegoEnMesa();
-    return juego.entrada.carta_legal == nullptr ||
-           juego.entrada.carta_legal(estado.CartaBajoCursor);
+    return EsLegal(estado.CartaBajoCursor);
+}
+
+Puntero PunteroSobreCarta(Integer asiento, int lugar) {
+    if (estado.RepartoEnCurso)
+        return estado.ArrastraReparto ? Puntero::ManoCerrada : Puntero::ManoVerde;
+    if (estado.ModoOrdenar)
+        return estado.CartasJugador(asiento) == kVisibles ? Puntero::Ordenar : Puntero::Flecha;
+    return ManoJugable() && asiento == estado.JugadorActual ? PunteroEnCarta(lugar)
+                                                            : Puntero::Flecha;
+}
+
+bool SeTocaCarta(Integer asiento, int lugar) {
+    switch (PunteroSobreCarta(asiento, lugar)) {
+    case Puntero::ManoVerde:
+        return estado.RepartoEnCurso || estado.EligeCarta;
+    case Puntero::Voltear:
+        return estado.EligeCarta;
+    case Puntero::Cambiar:
+    case Puntero::Abrirse:
+        return true;
+    default: // a card is put in order by being dragged, not by a click
+        return false;
+    }
+}
+
+bool OfreceOrdenar(Integer asiento) {
+    return (estado.EsperandoJugada || !estado.PartidaEnCurso) && estado.ManoEnCurso &&
+           JuegoEnMesa().entrada.menu_ordenar && estado.CartasJugador(asiento) == kVisibles;
+}
+
+bool SeCambiaEnElMazo() {
+    return ManoJugable() && HayCambioEnElMazo();
+}
+
+Punto ToqueDelCambio() {
+    return {estado.MazoX - kMargenCambio / 2, estado.MazoY + kAltoCarta / 2};
 }
 
 void RefrescaPuntero() {
@@ -230,9 +273,7 @@ void Form_Click() {
     if (estado.BotonRaton == kBotonDerecho && (estado.EsperandoJugada || !estado.PartidaEnCurso) &&
         JuegoEnMesa().entrada.menu_ordenar) {
         const Integer zona = estado.ZonaBajoCursor;
-        const bool ofrece =
-            zona != 0 && estado.ManoEnCurso && estado.CartasJugador(zona) == kVisibles;
-        PonOpciones(ofrece);
+        PonOpciones(zona != 0 && OfreceOrdenar(zona));
         MuestraOpciones();
     }
     if (estado.ZonaBajoCursor == 0)

@@ -104,6 +104,7 @@ bool VistaControl::EsBoton() const {
 }
 
 void VistaControl::Coloca(const Rectangulo& donde) {
+    lugar_ = donde;
     const QSize tamano(donde.ancho, donde.alto);
     setGeometry(QRect(QPoint(donde.x, donde.y), tamano));
     if (tamano != lienzo_.Tamano())

@@ -21,6 +21,8 @@ public:
     bool EsBoton() const;
     LienzoRetenido& ElLienzo() { return lienzo_; }
     void Coloca(const Rectangulo& donde);
+    // In table pixels, as it was placed.
+    const Rectangulo& ElLugar() const { return lugar_; }
     void PonPuntero(Puntero puntero);
     Puntero ElPuntero() const { return puntero_; }
     void Nombra(const QString& nombre);
@@ -42,6 +44,7 @@ private:
     ColaEventos& cola_;
     Imagenes& imagenes_;
     LienzoRetenido lienzo_;
+    Rectangulo lugar_;
     Puntero puntero_ = Puntero::Flecha;
 };
 
