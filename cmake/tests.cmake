@@ -1,5 +1,5 @@
 # Every test is found by its place and name. Labels: unit, slow, property, gui, scenario, golden,
-# e2e, structure.
+# e2e, a11y, structure.
 
 include(test_kinds)
 
@@ -118,6 +118,16 @@ if(TARGET zovin)
     add_test(NAME e2e.${name}
       COMMAND "${CMAKE_SOURCE_DIR}/cmake/under_xvfb.sh" "${script}")
     set_tests_properties(e2e.${name} PROPERTIES LABELS e2e TIMEOUT 600
+      WORKING_DIRECTORY "${test_scratch}"
+      ENVIRONMENT "${test_environment}")
+  endforeach()
+  # The same, met through the accessibility bus alone.
+  file(GLOB a11y_scripts CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/tests/a11y/*.py")
+  foreach(script IN LISTS a11y_scripts)
+    cmake_path(GET script STEM name)
+    add_test(NAME a11y.${name}
+      COMMAND "${CMAKE_SOURCE_DIR}/cmake/under_xvfb.sh" "${script}")
+    set_tests_properties(a11y.${name} PROPERTIES LABELS a11y TIMEOUT 240
       WORKING_DIRECTORY "${test_scratch}"
       ENVIRONMENT "${test_environment}")
   endforeach()

@@ -12,6 +12,7 @@
 #include "betting/prizes.h"
 #include "core/game_state.h"
 #include "core/text.h"
+#include "table/announcements.h"
 #include "table/chips.h"
 #include "table/game_row.h"
 #include "table/layout.h"
@@ -136,6 +137,10 @@ void ColocaApuesta(Integer asiento, Integer cantidad) {
 
 void PagaBote() {
     Traza("PagaBote");
+    for (Integer asiento = 1; asiento <= 4; ++asiento) {
+        if (apuestas.PremioJugador(asiento) > 0)
+            DiDe(asiento, "cobra " + Numero(apuestas.PremioJugador(asiento)));
+    }
     PagaBote(MueveFicha, RedibujaBote);
     for (Integer asiento = 1; asiento <= 4; ++asiento) {
         PintaResto(asiento);

@@ -3,6 +3,7 @@
 #include "core/game_state.h"
 #include "core/numeric.h"
 #include "core/session_state.h"
+#include "table/announcements.h"
 #include "table/deck.h"
 #include "table/flight.h"
 #include "table/game_row.h"
@@ -108,6 +109,26 @@ public:
     return true;
 }
 
+// Covered cards that somebody wants one by one are told too, as covered; of the others that come unseen their number
+// has been said.
+void DiLasTomadas(Integer asiento, int primero, int n) {
+    const std::string vistas = Enumera(ALaVista(asiento, primero, n));
+    const bool tapada =
+        n > 0 && estado.Mano(asiento, estado.SerieActual, primero, kTapada) == kTapadaSi;
+    if (!vistas.empty())
+        DiDe(asiento, "toma " + vistas + (tapada ? ", tapada" : ""));
+    else if (tapada)
+        DiDe(asiento, "toma una carta tapada");
+}
+
+void DiLasRepartidas() {
+    for (Integer asiento = 1; asiento <= 4; ++asiento) {
+        const std::string vistas = Enumera(ALaVista(asiento, 1, estado.NumCartas(asiento, 1)));
+        if (!vistas.empty())
+            DiDe(asiento, "recibe " + vistas);
+    }
+}
+
 int PrimerHueco(Integer asiento) {
     int lugar = 1;
     while (estado.Mano(asiento, estado.SerieActual, lugar, kPalo) != kSinCarta)
@@ -118,7 +139,12 @@ int PrimerHueco(Integer asiento) {
 } // namespace
 
 bool Repartir() {
-    return estado.SistemaReparto == kRepartoManual ? RepartirAMano() : ReparteSolo();
+    if (estado.SistemaReparto == kRepartoManual)
+        return RepartirAMano();
+    const bool repartidas = ReparteSolo();
+    if (repartidas)
+        DiLasRepartidas();
+    return repartidas;
 }
 
 void RobarCartas(Integer asiento, Integer n, Integer tapada) {
@@ -142,4 +168,5 @@ void RobarCartas(Integer asiento, Integer n, Integer tapada) {
         RedibujarAsiento(asiento);
         Pausa(60);
     }
+    DiLasTomadas(asiento, primero, n);
 }

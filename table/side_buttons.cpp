@@ -131,20 +131,28 @@ Integer SerieALaVista(int asiento) {
     return es_de_otro && ultima > 0 ? ultima : estado.SerieActual;
 }
 
+std::string PuntosALaVista(int asiento) {
+    const FilaJuego& juego = JuegoEnMesa();
+    if (juego.pintura.puntos == nullptr)
+        return "";
+    const double puntos = juego.pintura.puntos(asiento, SerieALaVista(asiento));
+    if (puntos == 0 || (EsBanca(asiento) && asiento != estado.JugadorActual))
+        return "";
+    const bool medios = puntos != static_cast<int>(puntos);
+    return Formato(puntos, medios ? "#0.0" : "#0");
+}
+
 void MostrarPuntos(int asiento) {
     Traza("MostrarPuntos", asiento);
     constexpr int kPlaca = 4, kDeLaEsquina = 8;
     const lamina::Recorte& placa = lamina::kPlacaTantos;
-    const FilaJuego& juego = JuegoEnMesa();
-    if (juego.pintura.puntos == nullptr)
+    if (JuegoEnMesa().pintura.puntos == nullptr)
         return;
-    const double puntos = juego.pintura.puntos(asiento, SerieALaVista(asiento));
-    if (puntos == 0 || (EsBanca(asiento) && asiento != estado.JugadorActual)) {
+    const std::string cifra = PuntosALaVista(asiento);
+    if (cifra.empty()) {
         plataforma().Muestra(Control::Pic_Tantos, asiento, false);
         return;
     }
-    const bool medios = puntos != static_cast<int>(puntos);
-    const std::string cifra = Formato(puntos, medios ? "#0.0" : "#0");
     // Above the zone at the sides, where the bet board leaves it to see.
     const bool vertical = AsientoLateral(asiento);
     const int a_lo_largo = vertical ? -kSeparacion - placa.alto : kLargoZona + kSeparacion;

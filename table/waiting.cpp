@@ -2,6 +2,7 @@
 
 #include "core/game_state.h"
 #include "core/session_state.h"
+#include "table/announcements.h"
 #include "table/button_column.h"
 #include "table/controls.h"
 
@@ -64,6 +65,7 @@ bool EsperaContinuar() {
 
 bool EsperaContinuar(bool (*hecha)()) {
     PedirContinuar(1);
+    DiAQuienSeEspera();
     if (!EsperaHasta(hecha))
         return false;
     // A card that was clicked ends the wait too, and the words on the button are of the seat that has played.

@@ -7,8 +7,10 @@
 #include "betting/phases.h"
 #include "core/game_state.h"
 #include "core/numeric.h"
+#include "core/text.h"
 #include "games/blackjack/blackjack_serie.h"
 #include "games/common/bank_hands.h"
+#include "table/announcements.h"
 #include "table/bet_board.h"
 #include "table/messages.h"
 
@@ -33,8 +35,10 @@ void LiquidaSeguro(Integer asiento, Integer serie) {
     const int premio = 2 * apuestas.Apuesta(asiento, serie, kFaseSeguro);
     const Integer banca = estado.JugadorBanca;
     const bool cobra = EsBlackJack(banca, 1);
+    const Integer pagado = EnteroDe(std::min<int>(premio, RestoDe(banca)));
+    DiDe(asiento, cobra ? "cobra " + Numero(pagado) + " del seguro" : "pierde el seguro");
     if (cobra)
-        PagaDeBanca(asiento, EnteroDe(std::min<int>(premio, RestoDe(banca))));
+        PagaDeBanca(asiento, pagado);
     DevuelveApuesta(asiento, cobra ? asiento : banca, kElSeguro);
 }
 

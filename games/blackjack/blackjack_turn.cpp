@@ -12,6 +12,7 @@
 #include "games/common/bank_hands.h"
 #include "games/common/series.h"
 #include "platform/canvas.h"
+#include "table/announcements.h"
 #include "table/bet_board.h"
 #include "table/button_column.h"
 #include "table/deal.h"
@@ -133,16 +134,22 @@ void ColocaEn(Integer fase, Integer cantidad) {
 bool CumpleLaOrden() {
     const Integer apuesta =
         apuestas.Apuesta(estado.JugadorActual, estado.SerieActual, kFaseApuestas);
+    const Integer asiento = estado.JugadorActual;
     if (series.OrdenSeguro) {
+        DiDe(asiento, "se asegura");
         ColocaEn(kFaseSeguro, static_cast<Integer>(apuesta / 2));
         return true;
     }
-    if (series.OrdenServido)
+    if (series.OrdenServido) {
+        DiDe(asiento, "se planta");
         return false;
+    }
     if (series.OrdenAbrir)
         AbreSerie();
-    if (series.OrdenDoblar)
+    if (series.OrdenDoblar) {
+        DiDe(asiento, "dobla su apuesta");
         ColocaEn(kFaseDoblar, apuesta);
+    }
     Roba();
     return true;
 }
@@ -207,7 +214,8 @@ void JuegaLaBanca() {
         Pausa(500);
     }
     if (PuntosBlackJack(banca, 1) <= kVeintiuna)
-        return;
+        return DiDe(banca, "se planta");
+    DiDe(banca, "se pasa");
     estado.SerieTerminada(banca, 1) = true;
     RedibujarAsiento(banca);
 }

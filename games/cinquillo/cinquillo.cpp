@@ -16,6 +16,7 @@
 #include "games/common/card_turn.h"
 #include "games/common/hands.h"
 #include "games/common/trick_state.h"
+#include "table/announcements.h"
 #include "table/button_column.h"
 #include "table/hand_order.h"
 #include "table/messages.h"
@@ -61,7 +62,7 @@ void ExtiendeCarta(Integer asiento) {
     Pausa(500);
 }
 
-// One turn; a seat that cannot lay passes without a sign. False when the match was left.
+// One turn; a seat that cannot lay passes without a sign to be seen. False when the match was left.
 [[nodiscard]] bool TurnoDeAsiento() {
     SiguienteAsiento(estado.JugadorActual);
     const Integer asiento = estado.JugadorActual;
@@ -77,8 +78,10 @@ void ExtiendeCarta(Integer asiento) {
     ++estado.CartasEnBaza;
     estado.AzarTurno = AzarDeTurno();
     EligeCartaCinquillo();
-    if (bazas.NumJugables == 0)
+    if (bazas.NumJugables == 0) {
+        DiDe(asiento, "pasa");
         return true;
+    }
     ResaltarAsiento();
     PreparaEleccion(asiento);
     const bool elegida = EsperaEleccion(asiento, EligeCartaCinquillo);

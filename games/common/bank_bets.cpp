@@ -1,10 +1,13 @@
 #include "games/common/bank_bets.h"
 
 #include "betting/bet_state.h"
+#include "betting/chips.h"
 #include "betting/placing.h"
 #include "core/game_state.h"
 #include "core/random.h"
+#include "core/text.h"
 #include "games/common/bank_hands.h"
+#include "table/announcements.h"
 #include "table/bet_board.h"
 #include "table/button_column.h"
 #include "table/messages.h"
@@ -67,6 +70,8 @@ bool ApuestaLaSerie(const TurnoDeApuesta& turno) {
     estado.SerieActual = estado.SerieEnJuego;
     if (!estado.JugadaHecha)
         ApuestaSola(turno);
+    DiDe(estado.JugadorActual,
+         "apuesta " + Numero(ApuestaTotal(estado.JugadorActual, estado.SerieActual)));
     CierraApuesta();
     return true;
 }

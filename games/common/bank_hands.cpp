@@ -12,6 +12,7 @@
 #include "games/common/hands.h"
 #include "games/common/series.h"
 #include "platform/canvas.h"
+#include "table/announcements.h"
 #include "table/bet_board.h"
 #include "table/button_column.h"
 #include "table/messages.h"
@@ -49,6 +50,14 @@ std::string TextosDeSeries(Integer asiento, Integer primera, Palabra palabra) {
             Superpone(texto, 1 + i * kAnchoSerie, kAnchoSerie, palabra(asiento, serie));
     }
     return texto;
+}
+
+std::string EnJuego() {
+    return Numero(ApuestaTotal(estado.JugadorActual, estado.SerieActual));
+}
+
+void Recupera() {
+    DevuelveApuesta(estado.JugadorActual, estado.JugadorActual, kTodo);
 }
 
 void ReagrupaFichas(Integer asiento) {
@@ -99,6 +108,7 @@ void ApuntaBanca() {
 
 void PierdeAlPasarse() {
     const Integer asiento = estado.JugadorActual;
+    DiDe(asiento, "se pasa");
     DestellaBust(asiento);
     estado.SerieTerminada(asiento, estado.SerieActual) = true;
     DevuelveApuesta(asiento, estado.JugadorBanca, kSinSeguro);
@@ -153,17 +163,21 @@ void LiquidaSeries(bool (*toca)(Integer asiento, Integer serie),
 }
 
 void PierdeLaSerie() {
+    DiDe(estado.JugadorActual, "pierde " + EnJuego());
     DevuelveApuesta(estado.JugadorActual, estado.JugadorBanca, kTodo);
 }
 
 void RecuperaLaSerie() {
-    DevuelveApuesta(estado.JugadorActual, estado.JugadorActual, kTodo);
+    DiDe(estado.JugadorActual, "recupera " + EnJuego());
+    Recupera();
 }
 
 void GanaLaSerie(Integer premio) {
     const Integer asiento = estado.JugadorActual;
-    PagaDeBanca(asiento, std::min(premio, RestoDe(estado.JugadorBanca)));
-    RecuperaLaSerie();
+    const Integer pagado = std::min(premio, RestoDe(estado.JugadorBanca));
+    DiDe(asiento, "gana " + Numero(pagado));
+    PagaDeBanca(asiento, pagado);
+    Recupera();
     estado.Juegos(estado.JuegosJugados).Marcas(asiento, estado.SerieActual) = 1;
 }
 

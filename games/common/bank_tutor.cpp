@@ -1,7 +1,11 @@
 #include "games/common/bank_tutor.h"
 
+#include <array>
+#include <string>
+
 #include "core/game_state.h"
 #include "platform/canvas.h"
+#include "table/announcements.h"
 #include "table/messages.h"
 #include "table/seat_drawing.h"
 #include "table/sounds.h"
@@ -23,6 +27,8 @@ void AconsejaConRotulo(const std::string& texto) {
 }
 
 void DestellaBoton(BotonDeSerie boton) {
+    constexpr std::array kLoQueAconseja{"pedir carta", "plantarse", "doblar", "asegurarse"};
+    Di(std::string("El tutor aconseja ") + kLoQueAconseja.at(static_cast<std::size_t>(boton)));
     for (int vez = 0; vez < 2; ++vez) {
         Pausa(180);
         DibujaBotonDeSerie(boton, true);

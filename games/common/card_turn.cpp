@@ -1,5 +1,6 @@
 #include "games/common/card_turn.h"
 
+#include "table/announcements.h"
 #include "table/button_column.h"
 #include "table/deck.h"
 #include "table/flight.h"
@@ -69,4 +70,5 @@ void JuegaElegida(Integer asiento, const Sitio& hasta) {
     const Sitio desde{estado.CartaX, estado.CartaY, OrientacionDe(asiento)};
     SacaDeLaMano(asiento);
     MueveCarta(carta, desde, hasta);
+    DiDe(asiento, "juega " + ConArticulo(carta));
 }

@@ -5,8 +5,10 @@
 #include "core/game_state.h"
 #include "core/numeric.h"
 #include "core/session_state.h"
+#include "core/text.h"
 #include "games/common/match_history.h"
 #include "storage/saving.h"
+#include "table/announcements.h"
 #include "table/button_column.h"
 #include "table/chips.h"
 #include "table/controls.h"
@@ -164,6 +166,7 @@ bool IniciarJuego() {
     AplicaReglasPendientes();
     CuentaJuego();
     PasaLaMano();
+    Di("Mano " + Numero(estado.JuegosJugados));
     if (!RepartirHastaCompletar())
         return false;
     if (JuegoEnMesa().mano.descubre != nullptr)
@@ -259,6 +262,8 @@ void AconsejaCarta(void (*elige)()) {
     elige();
     if (estado.CartaElegida == 0)
         return;
+    if (const auto carta = ALaVista(estado.JugadorActual, estado.CartaElegida, 1); !carta.empty())
+        Di("El tutor aconseja " + Enumera(carta));
     for (int vez = 0; vez < 2; ++vez) {
         PonAltura(kLevantada);
         Pausa(180);

@@ -8,6 +8,7 @@
 #include "betting/placing.h"
 #include "betting/stakes.h"
 #include "core/game_state.h"
+#include "core/text.h"
 #include "games/common/hands.h"
 #include "games/common/money_hands.h"
 #include "games/poker/bet_round.h"
@@ -16,6 +17,7 @@
 #include "games/poker/poker_state.h"
 #include "games/poker/seat_turn.h"
 #include "games/poker/showdown.h"
+#include "table/announcements.h"
 #include "table/bet_board.h"
 #include "table/button_column.h"
 #include "table/messages.h"
@@ -126,6 +128,8 @@ void PonApuestaDeSalida() {
         EmpiezaTurnoDeApuesta(asiento);
         if (const Integer cantidad = LoQuePoneDeSalida(asiento); cantidad > 0)
             ColocaApuesta(asiento, cantidad);
+        if (ApuestaTotal(asiento, kSeriePoker) > 0)
+            DiDe(asiento, "pone " + Numero(ApuestaTotal(asiento, kSeriePoker)) + " de salida");
         SiguienteAsiento(asiento);
     }
 }

@@ -1,6 +1,7 @@
 #include "games/poker/poker_tutor.h"
 
 #include <algorithm>
+#include <vector>
 
 #include "betting/bet_state.h"
 #include "betting/chips.h"
@@ -11,6 +12,7 @@
 #include "games/poker/discard_choice.h"
 #include "games/poker/poker_state.h"
 #include "platform/canvas.h"
+#include "table/announcements.h"
 #include "table/button_column.h"
 #include "table/messages.h"
 #include "table/seat_drawing.h"
@@ -89,9 +91,26 @@ void Destella(Pon pon, int cual) {
     }
 }
 
+// Of cards that lie covered no more than how many.
+void DiElConsejo(Integer asiento) {
+    std::vector<Carta> vistas;
+    int marcadas = 0;
+    for (int lugar = 1; lugar <= estado.NumCartas(asiento, kSeriePoker); ++lugar) {
+        if (poker.MarcaDescarte(lugar) == 0)
+            continue;
+        ++marcadas;
+        for (const Carta carta : ALaVista(asiento, lugar, 1))
+            vistas.push_back(carta);
+    }
+    const std::string cuales =
+        vistas.empty() ? Numero(marcadas) + (marcadas > 1 ? " cartas" : " carta") : Enumera(vistas);
+    Di("El tutor aconseja " + (marcadas == 0 ? "servirse" : "descartar " + cuales));
+}
+
 void AconsejaDescarte(Integer asiento) {
     QuitaSeleccion(asiento);
     DecideDescarte();
+    DiElConsejo(asiento);
     if (std::ranges::any_of(poker.MarcaDescarte, [](Integer marca) { return marca != 0; })) {
         Destella([=](bool si) { PonMarcadas(asiento, si ? kLevantada : kEnLinea); },
                  sonido::kConsejo);

@@ -1,12 +1,14 @@
 #include "games/sieteymedia/sieteymedia_cards.h"
 
 #include <algorithm>
+#include <vector>
 
 #include "core/game_state.h"
 #include "core/numeric.h"
 #include "core/random.h"
 #include "games/common/series.h"
 #include "games/sieteymedia/sieteymedia_decision.h"
+#include "table/announcements.h"
 #include "table/deck.h"
 #include "table/flight.h"
 #include "table/layout.h"
@@ -21,14 +23,27 @@ constexpr Integer kSerieDelCuatro = 1; // a Four is changed before anything else
 constexpr int kLugarDelCuatro = 1;
 constexpr Integer kCuatro = 4;
 
+std::vector<Carta> NoVistas(Integer asiento, Integer serie) {
+    std::vector<Carta> cartas;
+    for (int lugar = 1; lugar <= estado.NumCartas(asiento, serie); ++lugar) {
+        const auto campo = [&](int cual) { return estado.Mano(asiento, serie, lugar, cual); };
+        if (campo(kCara) != kDescubierta || campo(kTapada) != 0)
+            cartas.push_back({campo(kPalo), campo(kValor)});
+    }
+    return cartas;
+}
+
 void DestapaMano(Integer asiento, Integer serie) {
     if (estado.NumCartas(asiento, serie) == 0)
         return;
+    const std::vector<Carta> nuevas = NoVistas(asiento, serie);
     for (int lugar = 1; lugar <= estado.NumCartas(asiento, serie); ++lugar) {
         estado.Mano(asiento, serie, lugar, kCara) = kDescubierta;
         estado.Mano(asiento, serie, lugar, kTapada) = 0;
     }
     RedibujarAsiento(asiento);
+    if (!nuevas.empty())
+        DiDe(asiento, "descubre " + Enumera(nuevas));
     Pausa(220);
 }
 
@@ -113,6 +128,7 @@ void CambiaCuatro() {
     estado.Baraja(lugar, 2) = cuatro.valor;
     Vuelan(asiento, cuatro, nueva);
     PonCarta(asiento, kSerieDelCuatro, kLugarDelCuatro, nueva, kDescubierta);
+    DiDe(asiento, "cambia " + ConArticulo(cuatro) + " por " + ConArticulo(nueva));
     RedibujarAsiento(asiento);
     series.PuedeCambiarCuatro = nueva.valor == kCuatro;
     DecideSiete();

@@ -13,6 +13,7 @@
 #include "games/sieteymedia/sieteymedia_decision.h"
 #include "games/sieteymedia/sieteymedia_serie.h"
 #include "platform/canvas.h"
+#include "table/announcements.h"
 #include "table/button_column.h"
 #include "table/deal.h"
 #include "table/messages.h"
@@ -173,6 +174,7 @@ void TomaCarta() {
 void SePasaElAsiento() {
     const Integer asiento = estado.JugadorActual;
     if (EsBanca()) {
+        DiDe(asiento, "se pasa");
         estado.SerieTerminada(asiento, estado.SerieActual) = true;
         return RedibujarAsiento(asiento);
     }
@@ -181,6 +183,7 @@ void SePasaElAsiento() {
 }
 
 void SePlanta() {
+    DiDe(estado.JugadorActual, "se planta");
     if (!EsBanca())
         Pausa(300);
 }

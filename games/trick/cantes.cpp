@@ -1,10 +1,14 @@
 #include "games/trick/cantes.h"
 
+#include <string>
+
 #include "core/game_state.h"
 #include "games/common/hand_queries.h"
 #include "games/common/trick_state.h"
 #include "games/common/trick_values.h"
 #include "games/trick/trick_view.h"
+#include "table/announcements.h"
+#include "table/card_names.h"
 #include "table/messages.h"
 
 namespace {
@@ -18,6 +22,7 @@ void EnsenaTute(Integer asiento) {
         if (estado.Mano(asiento, kSerie, lugar, kValor) == bazas.TuteEnMano)
             lugares.push_back(lugar);
     }
+    DiDe(asiento, "canta Tute de " + estado.NombreValorPlural(bazas.TuteEnMano));
     Pausa(500);
     ParpadeaCartas(asiento, lugares);
     bazas.TuteCantado = true;
@@ -50,6 +55,8 @@ void EnsenaCante(Integer asiento, Integer palo) {
 }
 
 void Canta(Integer asiento, Integer palo) {
+    DiDe(asiento, std::string("canta ") + (palo == estado.PaloTriunfo ? "cuarenta" : "veinte") +
+                      " en " + NombreDePalo(palo));
     EnsenaCante(asiento, palo);
     bazas.TantosBaza = palo == estado.PaloTriunfo ? kTantosCanteTriunfo : kTantosCante;
     bazas.TantosJugador(asiento) += bazas.TantosBaza;

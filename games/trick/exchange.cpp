@@ -6,6 +6,7 @@
 #include "games/common/trick_values.h"
 #include "games/trick/trick_rules.h"
 #include "games/trick/trick_view.h"
+#include "table/announcements.h"
 #include "table/flight.h"
 #include "table/layout.h"
 #include "table/seat_drawing.h"
@@ -45,6 +46,7 @@ void Cambia(Integer asiento, Integer lugar) {
     estado.Mano(asiento, kSerie, lugar, kValor) = vieja;
     RedibujarAsiento(asiento);
     VuelaAlMazo(palo, nueva, asiento, lugar);
+    DiDe(asiento, "cambia " + ConArticulo({palo, nueva}) + " por " + ConArticulo({palo, vieja}));
     estado.PaloTriunfo = palo;
     estado.ValorTriunfo = nueva;
     PintaMazo();

@@ -2,6 +2,8 @@
 
 #include "core/game_state.h"
 #include "games/trick/trick_view.h"
+#include "table/announcements.h"
+#include "table/card_names.h"
 #include "table/deck.h"
 #include "table/flight.h"
 #include "table/messages.h"
@@ -62,6 +64,9 @@ void TomaCarta(Integer asiento, Punto desde, Integer orientacion, Integer cara) 
         {palo, valor}, {desde.x, desde.y, orientacion, cara},
         {estado.CartaX, estado.CartaY, OrientacionDe(asiento), estado.CartasJugador(asiento)});
     RedibujarAsiento(asiento);
+    // The turned trump goes where everybody sees it; who plays with covered cards takes another one unseen.
+    if (cara == kDescubierta || estado.CartasJugador(asiento) == kDescubierta)
+        DiDe(asiento, "roba " + ConArticulo({palo, valor}));
 }
 
 void Roba(Integer asiento) {
@@ -96,6 +101,7 @@ void DescubreTriunfo() {
         DestapaDelMazo();
     else
         EnsenaUltimoNaipe();
+    Di("Triunfo: " + NombreDeCarta({estado.PaloTriunfo, estado.ValorTriunfo}));
 }
 
 void RobaCartas() {

@@ -7,6 +7,7 @@
 #include "games/trick/trick_rules.h"
 #include "games/trick/trick_turn.h"
 #include "games/trick/trick_view.h"
+#include "table/announcements.h"
 #include "table/controls.h"
 #include "table/seat_drawing.h"
 
@@ -57,6 +58,7 @@ void AnotaCartas() {
 
 void CierraBaza() {
     ResuelveBaza();
+    DiDe(estado.GanadorBaza, "gana la baza");
     if (ReglasEnMesa().diez_ultimas && estado.NumCartas(estado.GanadorBaza, kSerie) == 0)
         bazas.TantosBaza += kDiezUltimas;
     ParpadeaBaza();

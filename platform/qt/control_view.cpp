@@ -39,10 +39,28 @@ bool SigueElRaton(Control control) {
     return control == Control::Pic_Botonera || control == Control::Pic_SelOpciones;
 }
 
+QAccessible::Role PapelDe(Trato trato) {
+    switch (trato) {
+    case Trato::Boton:
+        return QAccessible::Button;
+    case Trato::Placa:
+        return QAccessible::StaticText;
+    default:
+        return QAccessible::Pane;
+    }
+}
+
 class AccesoControl : public QAccessibleWidget {
 public:
     explicit AccesoControl(VistaControl* vista)
-        : QAccessibleWidget(vista, vista->EsBoton() ? QAccessible::Button : QAccessible::Pane) {}
+        : QAccessibleWidget(vista, PapelDe(TratoDe(vista->Cual()))) {}
+
+    // Most tool tips only say the name.
+    QString text(QAccessible::Text cual) const override {
+        const QString texto = QAccessibleWidget::text(cual);
+        return cual == QAccessible::Description && texto == text(QAccessible::Name) ? QString()
+                                                                                    : texto;
+    }
 
     QAccessible::State state() const override {
         QAccessible::State estado = QAccessibleWidget::state();
@@ -101,6 +119,10 @@ VistaControl::VistaControl(Control control, int indice, QWidget* padre, Imagenes
 
 bool VistaControl::EsBoton() const {
     return TratoDe(control_) == Trato::Boton;
+}
+
+bool VistaControl::EsMovil() const {
+    return TratoDe(control_) == Trato::Movil;
 }
 
 void VistaControl::Coloca(const Rectangulo& donde) {

@@ -19,6 +19,8 @@ public:
 
     Control Cual() const { return control_; }
     bool EsBoton() const;
+    // It is shown on its way from one place to another, and is nothing by itself.
+    bool EsMovil() const;
     LienzoRetenido& ElLienzo() { return lienzo_; }
     void Coloca(const Rectangulo& donde);
     // In table pixels, as it was placed.

@@ -57,7 +57,11 @@ void CapaVuelo::paintEvent(QPaintEvent*) {
 }
 
 Tapete::Tapete(Imagenes& imagenes, ColaEventos& cola)
-    : imagenes_(imagenes), cola_(cola), lienzo_(imagenes, Fondo::Fieltro), vuelo_(this, imagenes) {
+    : imagenes_(imagenes),
+      cola_(cola),
+      lienzo_(imagenes, Fondo::Fieltro),
+      vuelo_(this, imagenes),
+      arbol_(this, [this](const Objetivo& objetivo, int boton) { Pulsa(objetivo, boton); }) {
     setObjectName(QString::fromUtf8(NombreDe(Control::Mesa)));
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMinimumSize(kAnchoMinimo, kAltoMinimo);
@@ -141,6 +145,27 @@ void Tapete::mouseMoveEvent(QMouseEvent* evento) {
         Avisa(TipoEvento::RatonSuelta, *evento);
     }
     Avisa(TipoEvento::RatonMueve, *evento);
+}
+
+void Tapete::Pulsa(const Objetivo& objetivo, int boton) {
+    Evento evento;
+    evento.control = objetivo.control;
+    evento.indice = objetivo.indice;
+    evento.x = objetivo.toque.x;
+    evento.y = objetivo.toque.y;
+    evento.boton = boton;
+    const auto pon = [&](TipoEvento tipo) {
+        evento.tipo = tipo;
+        cola_.Pon(evento);
+    };
+    if (objetivo.clase == ClaseObjetivo::Boton)
+        return pon(TipoEvento::Clic);
+    pon(TipoEvento::RatonMueve);
+    if (objetivo.control != Control::Mesa)
+        return pon(TipoEvento::RatonSuelta);
+    pon(TipoEvento::RatonPulsa);
+    pon(TipoEvento::RatonSuelta);
+    pon(TipoEvento::RatonClic);
 }
 
 // A dialog that opens between a press and its release swallows the release, and a second one may come and go while the

@@ -7,6 +7,7 @@
 
 #include "platform/qt/canvas_qt.h"
 #include "platform/qt/event_queue.h"
+#include "platform/qt/table_access.h"
 
 // Only the box of the card is ever repainted. The mouse passes through.
 class CapaVuelo : public QWidget {
@@ -44,6 +45,10 @@ public:
     Puntero ElPuntero() const { return puntero_; }
     // A button was let go and nobody told the felt, as when a dialog stood before it: it is told now.
     void NotaSueltaCallada();
+    // What assistive tools meet here.
+    ArbolDeMesa& ElArbol() { return arbol_; }
+    // What a click of the mouse at the target does, all of it: boton is 1 left, 2 right.
+    void Pulsa(const Objetivo& objetivo, int boton);
     // Called, outside of painting, when the screen has another pixel ratio than the pictures.
     std::function<void()> al_cambiar_ratio;
 
@@ -67,5 +72,6 @@ private:
     CapaVuelo vuelo_;
     Puntero puntero_ = Puntero::Flecha;
     bool ratio_pedido_ = false;
+    ArbolDeMesa arbol_;
     bool apretado_ = false; // a press whose release the game has not been told
 };

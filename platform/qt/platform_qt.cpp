@@ -1,6 +1,5 @@
 #include "platform/qt/platform_qt.h"
 
-#include <QAccessible>
 #include <QApplication>
 #include <QDateTime>
 #include <QDialog>
@@ -22,6 +21,9 @@ namespace {
 
 // The last stretch of a pause is slept without the event loop, which wakes to the millisecond only.
 constexpr Milisegundos kRemate = 2;
+
+// In a shorter pause, as between two frames of a flight, nobody looks around on the table.
+constexpr Milisegundos kPausaLarga = 100;
 
 // The desktop settles size and place of a new window when it shows it; one that never does is not waited for.
 constexpr Milisegundos kEsperaVentana = 500;
@@ -76,8 +78,14 @@ void PlataformaQt::PideTermina() {
         modal->done(QDialog::Rejected);
 }
 
-void PlataformaQt::Bombea() {
+// What has been drawn will be painted, and what has changed is told to whom it is read aloud.
+void PlataformaQt::EnsenaLoHecho() {
     mesa_->update(Sucio());
+    mesa_->ElArbol().Refresca();
+}
+
+void PlataformaQt::Bombea() {
+    EnsenaLoHecho();
     QCoreApplication::processEvents();
     mesa_->NotaSueltaCallada();
 }
@@ -87,7 +95,7 @@ std::optional<Evento> PlataformaQt::SiguienteEvento(Pase) {
 }
 
 bool PlataformaQt::EsperaEvento() {
-    mesa_->update(Sucio());
+    EnsenaLoHecho();
     while (cola_.Vacia()) {
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
         mesa_->NotaSueltaCallada();
@@ -103,6 +111,8 @@ Milisegundos PlataformaQt::Reloj() {
 // nobody takes it.
 void PlataformaQt::DuermeHasta(Milisegundos momento) {
     mesa_->update(Sucio());
+    if (momento - Reloj() >= kPausaLarga)
+        mesa_->ElArbol().Refresca();
     for (Milisegundos falta = momento - Reloj(); falta > kRemate; falta = momento - Reloj()) {
         despertador_.start(static_cast<int>(falta - kRemate));
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
@@ -264,14 +274,8 @@ void PlataformaQt::Enmarca(Marco cual, const std::optional<Rectangulo>& donde) {
     marcos_->Pon(cual, donde);
 }
 
-// The table has the focus while a hand is played, and screen readers tell what changes in the description of that.
-// Emptied first, or the same words would be no change.
 void PlataformaQt::Anuncia(std::string_view texto) {
-    mesa_->setAccessibleDescription(QString());
-    mesa_->setAccessibleDescription(
-        QString::fromUtf8(texto.data(), static_cast<qsizetype>(texto.size())));
-    QAccessibleEvent aviso(mesa_, QAccessible::Alert);
-    QAccessible::updateAccessibility(&aviso);
+    mesa_->ElArbol().Anuncia(QString::fromUtf8(texto.data(), static_cast<qsizetype>(texto.size())));
 }
 
 void PlataformaQt::Vuela(int x, int y, const ImagenCarta& carta) {
@@ -328,7 +332,7 @@ QWidget* PlataformaQt::Padre() {
 Boton PlataformaQt::Pregunta(const CajaMensaje& caja) {
     if (termina_)
         return BotonAlCerrar(caja.modo);
-    mesa_->update(Sucio());
+    EnsenaLoHecho();
     CajaQt dialogo(caja, Padre());
     const QRect pantalla = ventana_->screen()->availableGeometry();
     const QRect mesa = ventana_->isVisible()
@@ -345,7 +349,7 @@ void PlataformaQt::Abre(Forma forma) {
     const auto abre = formas_.find(forma);
     if (abre == formas_.end() || termina_)
         return;
-    mesa_->update(Sucio());
+    EnsenaLoHecho();
     abre->second(Padre());
     mesa_->NotaSueltaCallada();
 }

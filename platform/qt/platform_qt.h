@@ -90,6 +90,7 @@ private:
     const VistaControl* VistaSiHay(Control control, int indice) const;
     void MuestraVista(VistaControl& vista, bool visible);
     void OrdenaCapas();
+    void EnsenaLoHecho();
     QRegion Sucio();
     void CambiaRatio();
     // The window that a dialog belongs to: the form that is open, the table, or before it is shown the

@@ -1,4 +1,4 @@
-// What a screen reader is told unasked: boxes and captions.
+// What a screen reader is told unasked: boxes, and what happens on the table.
 
 #include <QAccessible>
 #include <QTemporaryDir>
@@ -12,6 +12,7 @@ namespace {
 struct Aviso {
     const QObject* de;
     QAccessible::Event tipo;
+    QString noticia; // the words of a notification
 };
 std::vector<Aviso> avisos;
 
@@ -20,7 +21,10 @@ std::vector<Aviso> avisos;
 // Without a screen reader Qt drops every announcement at this call. The program's calls come here instead of there,
 // and are kept.
 void QAccessible::updateAccessibility(QAccessibleEvent* evento) {
-    avisos.push_back({evento->object(), evento->type()});
+    QAccessibleInterface* acceso = evento->accessibleInterface();
+    const bool noticia = acceso != nullptr && acceso->role() == QAccessible::Notification;
+    avisos.push_back(
+        {evento->object(), evento->type(), noticia ? acceso->text(QAccessible::Name) : QString()});
 }
 
 class PruebaAvisos : public QObject {
@@ -31,6 +35,14 @@ class PruebaAvisos : public QObject {
         for (const Aviso& aviso : avisos)
             cuantas += aviso.de == de && aviso.tipo == QAccessible::Alert ? 1 : 0;
         return cuantas;
+    }
+    static QStringList Aparecidos() {
+        QStringList noticias;
+        for (const Aviso& aviso : avisos) {
+            if (aviso.tipo == QAccessible::ObjectShow && !aviso.noticia.isEmpty())
+                noticias << aviso.noticia;
+        }
+        return noticias;
     }
     static QString Descripcion(QObject* de) {
         return QAccessible::queryAccessibleInterface(de)->text(QAccessible::Description);
@@ -51,17 +63,42 @@ private Q_SLOTS:
         QCOMPARE(Descripcion(&caja), "Jugador4, has ganado la partida.");
     }
 
-    void UnRotuloSeAnunciaEnLaMesa() {
+    // Quick one behind the other: each keeps its words, whenever the reader asks for them.
+    void CadaAnuncioApareceConSusPalabras() {
         const QTemporaryDir carpeta;
         PlataformaQt escritorio(carpeta.path());
-        QWidget* mesa = escritorio.Ventana().widget();
-        avisos.clear();
+        QAccessible::setActive(true);
         escritorio.Anuncia("Jugador2: Servido");
-        QCOMPARE(Alertas(mesa), 1);
-        QCOMPARE(Descripcion(mesa), "Jugador2: Servido");
         escritorio.Anuncia("Jugador3: Servido");
-        QCOMPARE(Alertas(mesa), 2);
-        QCOMPARE(Descripcion(mesa), "Jugador3: Servido");
+        escritorio.Anuncia("Jugador3: Servido");
+        QCOMPARE(Aparecidos(),
+                 (QStringList{"Jugador2: Servido", "Jugador3: Servido", "Jugador3: Servido"}));
+    }
+
+    void LoQueHaPasadoSePuedeVolverAOir() {
+        const QTemporaryDir carpeta;
+        PlataformaQt escritorio(carpeta.path());
+        QAccessible::setActive(true);
+        for (int i = 1; i <= 50; ++i)
+            escritorio.Anuncia("Mano " + std::to_string(i));
+        auto* mesa = QAccessible::queryAccessibleInterface(escritorio.Ventana().widget());
+        const auto* lista = mesa->child(mesa->childCount() - 1);
+        QCOMPARE(lista->text(QAccessible::Name), "Lo que ha pasado");
+        QCOMPARE(lista->role(), QAccessible::List);
+        QCOMPARE(lista->childCount(), 40);
+        QCOMPARE(lista->child(0)->text(QAccessible::Name), "Mano 11");
+        QCOMPARE(lista->child(39)->text(QAccessible::Name), "Mano 50");
+        QCOMPARE(lista->indexOfChild(lista->child(39)), 39);
+        QVERIFY(lista->child(40) == nullptr);
+    }
+
+    void DondeNadieEscuchaNoSeDiceNada() {
+        const QTemporaryDir carpeta;
+        PlataformaQt escritorio(carpeta.path());
+        QAccessible::setActive(true);
+        QAccessible::setActive(false);
+        escritorio.Anuncia("Jugador2: Servido");
+        QCOMPARE(Aparecidos(), QStringList());
     }
 };
 

@@ -3,29 +3,16 @@
 
 #include <QTest>
 #include <algorithm>
-#include <cmath>
 
 #include "platform/qt/canvas_qt.h"
 #include "platform/qt/sheet_images.h"
 #include "platform/qt/suite_paint.h"
 #include "table/sheet_layout.h"
+#include "tests/gui/contrast.h"
+
+using namespace prueba;
 
 namespace {
-
-constexpr double kMinimo = 4.5;
-
-double Luz(const QColor& c) {
-    const auto lineal = [](double v) {
-        return v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * lineal(c.redF()) + 0.7152 * lineal(c.greenF()) + 0.0722 * lineal(c.blueF());
-}
-
-double Contraste(const QColor& a, const QColor& b) {
-    const double mas = std::max(Luz(a), Luz(b));
-    const double menos = std::min(Luz(a), Luz(b));
-    return (mas + 0.05) / (menos + 0.05);
-}
 
 // The worst that a letter of the colour meets in a box of the picture.
 double Peor(const QImage& cuadro, const QRect& donde, const QColor& letra) {
@@ -77,7 +64,7 @@ private Q_SLOTS:
         QFETCH(int, abajo);
         const QRect donde(QPoint(7, arriba), QPoint(recorte.ancho - 8, abajo));
         const double peor = Peor(CuadroDe(recorte), donde, ColorQt(letra));
-        QVERIFY2(peor >= kMinimo, qPrintable(QString::number(peor)));
+        QVERIFY2(peor >= kContrasteMinimo, qPrintable(QString::number(peor)));
     }
 
     void LasLetrasSobreSuFondo_data() {
@@ -98,13 +85,13 @@ private Q_SLOTS:
         QFETCH(QColor, letra);
         QFETCH(QColor, fondo);
         const double hay = Contraste(letra, fondo);
-        QVERIFY2(hay >= kMinimo, qPrintable(QString::number(hay)));
+        QVERIFY2(hay >= kContrasteMinimo, qPrintable(QString::number(hay)));
     }
 
     void LosNombresSobreElFieltro() {
         Imagenes imagenes(1);
         const QImage& felpa = imagenes.Fieltro();
-        QVERIFY(Peor(felpa, felpa.rect(), Qt::white) >= kMinimo);
+        QVERIFY(Peor(felpa, felpa.rect(), Qt::white) >= kContrasteMinimo);
     }
 
     // A word that is too wide is drawn narrower, no higher, and touches nothing beside its place.

@@ -22,14 +22,20 @@ namespace prueba {
 // place that follows. Cards that are not named come behind, in the walk's order.
 std::vector<double> AzarParaBaraja(const std::vector<Carta>& orden);
 
-// The desktop without a screen, with someone who looks on when a box opens.
+// The desktop without a screen, with someone who looks on when a box opens and when something is announced.
 struct MesaVigilada : PlataformaSinPantalla {
     std::function<void(const CajaMensaje&)> al_preguntar;
+    std::function<void(const std::string&)> al_anunciar;
 
     Boton Pregunta(const CajaMensaje& caja) override {
         if (al_preguntar)
             al_preguntar(caja);
         return PlataformaSinPantalla::Pregunta(caja);
+    }
+    void Anuncia(std::string_view texto) override {
+        if (al_anunciar)
+            al_anunciar(std::string(texto));
+        PlataformaSinPantalla::Anuncia(texto);
     }
 };
 

@@ -74,7 +74,7 @@ TEST_F(TutorBlackJack, ElSeguroVaAntesQueTodo) {
     series.PuedeAsegurar = series.PuedeAbrir = true;
     Aconseja();
     EXPECT_EQ(Primeras(TrazaDe("BotonDobSeg")), Destello("BotonDobSeg", "\"S e g u r o\""));
-    EXPECT_TRUE(p.anuncios.empty());
+    EXPECT_EQ(p.anuncios, Lineas{"El tutor aconseja asegurarse"});
 }
 
 TEST_F(TutorBlackJack, AbrirElParVaAntesQueDoblar) {

@@ -290,7 +290,8 @@ TEST_F(FinalSiete, AlLiquidarSeVeCadaSerieYSeAnuncia) {
     Cierra();
     EXPECT_EQ(estado.Mano(3, 2, 1, kTapada), 0);
     EXPECT_EQ(estado.Mano(3, 2, 1, kCara), kDescubierta);
-    EXPECT_THAT(p.anuncios, ElementsAre("Eva: Serie 1", "Eva: Serie 2"));
+    EXPECT_THAT(p.anuncios, ElementsAre("Eva: Serie 1", "Eva gana 8", "Eva: Serie 2",
+                                        "Eva descubre el Dos de Copas", "Eva pierde 4"));
 }
 
 TEST_F(FinalSiete, AlAcabarElJuegoNoSePuedeDejarLaPartida) {

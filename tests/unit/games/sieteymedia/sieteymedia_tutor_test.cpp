@@ -107,5 +107,5 @@ TEST_F(TutorSiete, EnJuegoUnAsientoYaNoCambiaElCuatro) {
     Visible({{kOros, 4}});
     Aconseja();
     EXPECT_TRUE(Destella(1));
-    EXPECT_TRUE(p.anuncios.empty());
+    EXPECT_EQ(p.anuncios, Lineas{"El tutor aconseja pedir carta"});
 }
