@@ -51,7 +51,7 @@ if(gui_sources AND TARGET zovin_qt)
       AUTOMOC ON RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
     target_link_libraries(gui_${name} PRIVATE zovin_qt Qt6::Test)
     add_test(NAME gui.${name} COMMAND gui_${name} WORKING_DIRECTORY "${test_scratch}")
-    set_tests_properties(gui.${name} PROPERTIES LABELS gui TIMEOUT 240
+    set_tests_properties(gui.${name} PROPERTIES LABELS gui TIMEOUT 240 PROCESSORS 2
       ENVIRONMENT "${test_environment_offscreen}")
     if(name IN_LIST gui_that_measure)
       set_tests_properties(gui.${name} PROPERTIES RUN_SERIAL TRUE)
@@ -101,8 +101,8 @@ if(TARGET zovin)
     ENVIRONMENT "${test_environment_offscreen}")
 endif()
 
-# The real program in a real window, each on a screen of its own, most of the time waiting for the table: two at once do not
-# get in each other's way. Who counts wake-ups has the machine to itself.
+# The real program in a real window, each on a screen of its own, most of the time waiting for the table: four at once do not
+# get in each other's way on two cores. They take longest and so begin first. Who counts wake-ups has the machine to itself.
 if(TARGET zovin)
   # The same program, with the cards known that it will deal.
   add_executable(zovin_prepared platform/qt/app_main.cpp tests/e2e/prepared/chance.cpp)
@@ -117,7 +117,7 @@ if(TARGET zovin)
     cmake_path(GET script STEM name)
     add_test(NAME e2e.${name}
       COMMAND "${CMAKE_SOURCE_DIR}/cmake/under_xvfb.sh" "${script}")
-    set_tests_properties(e2e.${name} PROPERTIES LABELS e2e TIMEOUT 600
+    set_tests_properties(e2e.${name} PROPERTIES LABELS e2e TIMEOUT 600 COST 100
       WORKING_DIRECTORY "${test_scratch}"
       ENVIRONMENT "${test_environment}")
   endforeach()
