@@ -85,7 +85,7 @@ QWidget* FormaVista::HazBotonAyuda() {
 }
 
 QWidget* FormaVista::HazBotonSalir() {
-    auto* boton = new BotonSuite(QStringLiteral("Salir"), this);
+    auto* boton = new BotonSuite(QStringLiteral("Cerrar"), this);
     boton->setObjectName(QStringLiteral("Pic_BotSalir"));
     connect(boton, &QPushButton::clicked, this, &FormaVista::reject);
     return boton;

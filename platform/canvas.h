@@ -65,4 +65,6 @@ public:
     virtual void Carta(int x, int y, const ImagenCarta& carta) = 0;
     virtual void MiniCarta(int x, int y, int ancho, int alto, const ImagenCarta& carta) = 0;
     virtual void Lamina(int x, int y, const lamina::Recorte& recorte) = 0;
+    // What is drawn there grows faint: it shows through a thin layer of felt.
+    virtual void Velo(const Rectangulo& donde) = 0;
 };

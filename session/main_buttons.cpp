@@ -91,7 +91,8 @@ void ClicEnControl(const Evento& evento) {
         PulsaBoton(evento.indice);
         break;
     case Control::Pic_BotContinuar:
-        PulsaContinuar();
+        if (ValeElClicVerde(evento.desde))
+            PulsaContinuar();
         break;
     case Control::Pic_MasAyuda:
         plataforma().Ayuda(estado.TemaActual);
@@ -134,6 +135,7 @@ void RatonEnMesa(const Evento& evento) {
 
 void RatonEnControl(const Evento& evento) {
     if (evento.control == Control::Pic_SelOpciones) {
+        ApuntaEnOpciones(evento.x, evento.y);
         if (evento.tipo == TipoEvento::RatonMueve)
             Opciones_MouseMove(evento.y);
         else if (evento.tipo == TipoEvento::RatonSuelta)
@@ -144,13 +146,13 @@ void RatonEnControl(const Evento& evento) {
     }
 }
 
-void Tecla(int tecla) {
-    if (!TeclaActiva(tecla))
+void Tecla(const Evento& evento) {
+    if (!TeclaActiva(evento.tecla))
         return;
-    if (estado.PartidaEnCurso)
-        PulsaContinuar();
-    else
+    if (!estado.PartidaEnCurso)
         PulsaBoton(kBotonNueva);
+    else if (ValeElClicVerde(evento.desde))
+        PulsaContinuar();
 }
 
 void CierraVentana() {
@@ -177,7 +179,7 @@ void DespachaEvento(const Evento& evento) {
         ClicEnControl(evento);
         break;
     case TipoEvento::Tecla:
-        Tecla(evento.tecla);
+        Tecla(evento);
         break;
     case TipoEvento::Tamano:
         CambiaTamano();
@@ -196,7 +198,7 @@ void PulsaBoton(int indice) {
         return;
     SueltaLoColgado();
     Oculta(Control::Pic_SelOpciones);
-    estado.ModoOrdenar = false;
+    PonModoOrdenar(false);
     CambiarCursor(Control::Mesa, 0, Puntero::RelojArena);
     if (indice != kBotonTutor)
         Sonido(0, sonido::kBoton);

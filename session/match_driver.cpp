@@ -149,10 +149,12 @@ void IniciarSesion() {
         AnunciaContinuacion();
     if (estado.PrimeraVez)
         OfreceDescripcion();
-    if (estado.PartidaEnCurso)
+    if (estado.PartidaEnCurso) {
         ReanudaPartida();
-    else
+    } else {
+        PintaMesaVacia();
         HabilitaBoton(kBotonNormas, true);
+    }
 }
 
 void NuevaPartida() {

@@ -1,5 +1,7 @@
 #include "table/pile.h"
 
+#include <algorithm>
+
 #include "core/game_state.h"
 #include "table/game_row.h"
 #include "table/layout.h"
@@ -13,6 +15,10 @@ constexpr int kCartasPorDorso = 4; // one back is drawn for so many cards of a s
 constexpr int kBajadaMazo = 13;
 
 } // namespace
+
+Rectangulo CajaDelMazo() {
+    return {estado.MazoX - kMargenMazo, estado.MazoY, kAnchoCajaMazo, kAltoCajaMazo};
+}
 
 void DibujarMazo(int x, int y, int n) {
     Traza("DibujarMazo", x, y, n);

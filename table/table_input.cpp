@@ -236,7 +236,7 @@ void Form_Click() {
         MuestraOpciones();
     }
     if (estado.ZonaBajoCursor == 0)
-        estado.ModoOrdenar = false;
+        PonModoOrdenar(false);
 }
 
 bool TeclaActiva(int tecla) {

@@ -194,6 +194,7 @@ bool JuegaAsiento(Integer asiento) {
         if (!JuegaSerie())
             return false;
     }
+    ApagaNombre();
     return true;
 }
 
@@ -206,6 +207,7 @@ void JuegaLaBanca() {
         RobarCartas(banca, 1, 0);
         Pausa(500);
     }
+    ApagaNombre();
     if (PuntosBlackJack(banca, 1) <= kVeintiuna)
         return;
     estado.SerieTerminada(banca, 1) = true;

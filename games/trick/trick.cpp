@@ -59,9 +59,11 @@ void CierraBaza() {
     ResuelveBaza();
     if (ReglasEnMesa().diez_ultimas && estado.NumCartas(estado.GanadorBaza, kSerie) == 0)
         bazas.TantosBaza += kDiezUltimas;
+    EnciendeBaza(estado.GanadorBaza);
     ParpadeaBaza();
     AnotaTantos();
     RecogeMesa();
+    ApagaNombre();
     AnotaCartas();
     for (Integer asiento = 1; asiento <= 4; ++asiento) {
         if (estado.EstadoJugador(asiento) == kActivado)

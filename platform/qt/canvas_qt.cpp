@@ -24,6 +24,17 @@ double Izquierda(double x, double ancho, Alineacion alineacion) {
     return x;
 }
 
+// The light falls from above: the felt is darker towards the foot of the canvas. A row has one shade along all of its
+// length, so that a part that is cleared is the same to the pixel as when all of it is painted.
+void PintaFieltro(QPainter& p, const QRect& sitio, const Imagenes& imagenes) {
+    constexpr int kSombraAlPie = 72;
+    QLinearGradient sombra(0, 0, 0, p.device()->height());
+    sombra.setColorAt(0, QColor(0, 0, 0, 0));
+    sombra.setColorAt(1, QColor(0, 0, 0, kSombraAlPie));
+    p.fillRect(sitio, QBrush(imagenes.Fieltro()));
+    p.fillRect(sitio, sombra);
+}
+
 } // namespace
 
 QFont LetraDe(const Fuente& fuente) {
@@ -63,7 +74,7 @@ void LienzoQt::Fieltro(const Rectangulo& donde) {
     QPainter& p = Pintor();
     switch (fondo_) {
     case Fondo::Fieltro:
-        p.fillRect(sitio, QBrush(imagenes_.Fieltro()));
+        PintaFieltro(p, sitio, imagenes_);
         break;
     case Fondo::Claro:
         p.setCompositionMode(QPainter::CompositionMode_Source);
@@ -150,6 +161,14 @@ void LienzoQt::Lamina(int x, int y, const lamina::Recorte& recorte) {
     Tocado(sitio);
 }
 
+void LienzoQt::Velo(const Rectangulo& donde) {
+    constexpr double kTapa = 0.8;
+    QPainter& p = Pintor();
+    p.setOpacity(kTapa);
+    Fieltro(donde);
+    p.setOpacity(1);
+}
+
 QPainter& LienzoRetenido::Pintor() {
     if (!pintor_) {
         if (cuadro_.isNull())
@@ -180,8 +199,10 @@ QImage LienzoRetenido::CuadroVacio() {
     QImage cuadro(tamano, fondo_ == Fondo::Claro ? QImage::Format_ARGB32_Premultiplied
                                                  : QImage::Format_RGB32);
     cuadro.fill(fondo_ == Fondo::Claro ? Qt::transparent : Qt::white);
-    if (fondo_ == Fondo::Fieltro)
-        QPainter(&cuadro).fillRect(cuadro.rect(), QBrush(imagenes_.Fieltro()));
+    if (fondo_ == Fondo::Fieltro) {
+        QPainter p(&cuadro);
+        PintaFieltro(p, cuadro.rect(), imagenes_);
+    }
     return cuadro;
 }
 

@@ -24,6 +24,8 @@ Trato TratoDe(Control control) {
     case Control::Pic_Apostadora:
         return Trato::Panel;
     case Control::Pic_Tantos:
+    case Control::Pic_Tanteo:
+    case Control::Pic_Aviso:
     case Control::Pic_APApoJugAct:
     case Control::Pic_APApoJugAcu:
         return Trato::Placa;
@@ -127,11 +129,12 @@ void VistaControl::Nombra(const QString& nombre) {
     setToolTip(nombre);
 }
 
-void VistaControl::Pulsa() {
+void VistaControl::Pulsa(std::optional<Milisegundos> desde) {
     Evento clic;
     clic.tipo = TipoEvento::Clic;
     clic.control = control_;
     clic.indice = indice_;
+    clic.desde = desde;
     cola_.Pon(clic);
 }
 
@@ -158,6 +161,7 @@ void VistaControl::Avisa(TipoEvento tipo, const QMouseEvent& evento) {
 }
 
 void VistaControl::mousePressEvent(QMouseEvent* evento) {
+    apretado_ = cola_.Ahora();
     evento->accept();
 }
 
@@ -166,7 +170,7 @@ void VistaControl::mouseReleaseEvent(QMouseEvent* evento) {
     if (!dentro || evento->button() != Qt::LeftButton)
         return;
     if (EsBoton())
-        Pulsa();
+        Pulsa(apretado_);
     if (control_ == Control::Pic_SelOpciones)
         Avisa(TipoEvento::RatonSuelta, *evento);
 }

@@ -25,7 +25,7 @@ public:
     Puntero ElPuntero() const { return puntero_; }
     void Nombra(const QString& nombre);
     // A click that did not come from the mouse.
-    void Pulsa();
+    void Pulsa() { Pulsa(cola_.Ahora()); }
 
 protected:
     void paintEvent(QPaintEvent* evento) override;
@@ -36,6 +36,7 @@ protected:
 
 private:
     void Avisa(TipoEvento tipo, const QMouseEvent& evento);
+    void Pulsa(std::optional<Milisegundos> desde);
 
     const Control control_;
     const int indice_;
@@ -43,6 +44,7 @@ private:
     Imagenes& imagenes_;
     LienzoRetenido lienzo_;
     Puntero puntero_ = Puntero::Flecha;
+    std::optional<Milisegundos> apretado_; // when the button of the mouse went down on it
 };
 
 // Lets screen readers know the buttons among the controls as buttons, the disabled ones as disabled.

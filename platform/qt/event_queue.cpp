@@ -35,6 +35,10 @@ std::optional<Evento> ColaEventos::Toma() {
     return primero;
 }
 
+std::optional<Milisegundos> ColaEventos::Ahora() const {
+    return reloj ? std::optional(reloj()) : std::nullopt;
+}
+
 std::optional<int> CaracterDe(const QKeyEvent& tecla) {
     const auto sin_letra = Qt::AltModifier | Qt::MetaModifier;
     if (tecla.isAutoRepeat() || tecla.text().isEmpty() || (tecla.modifiers() & sin_letra))

@@ -2,6 +2,7 @@
 // The events that the window has reported and the game has not taken yet, in their order.
 
 #include <deque>
+#include <functional>
 #include <optional>
 
 #include "platform/platform.h"
@@ -13,6 +14,10 @@ public:
     void Pon(const Evento& evento);
     std::optional<Evento> Toma();
     bool Vacia() const { return cola_.empty(); }
+
+    // The clock by which presses are told; nothing while nobody has set one.
+    std::function<Milisegundos()> reloj;
+    std::optional<Milisegundos> Ahora() const;
 
 private:
     bool SeFunde(const Evento& evento);

@@ -159,5 +159,6 @@ void Tapete::keyPressEvent(QKeyEvent* evento) {
     Evento tecla;
     tecla.tipo = TipoEvento::Tecla;
     tecla.tecla = *caracter;
+    tecla.desde = cola_.Ahora();
     cola_.Pon(tecla);
 }

@@ -133,7 +133,7 @@ void CajaQt::PonBotones(const CajaMensaje& caja) {
         break;
     case 3:
         PonBoton("Pic_BotAyuda", "Ayuda", Boton::Ayuda);
-        PonBoton("Pic_BotSalir", "Salir", Boton::Salir);
+        PonBoton("Pic_BotSalir", "Cerrar", Boton::Salir);
         break;
     default:
         PonBoton("Pic_BotSalir", "Aceptar", Boton::Salir);

@@ -51,6 +51,7 @@ PlataformaQt::PlataformaQt(const QString& carpeta)
         cierre.tipo = TipoEvento::CierraVentana;
         cola_.Pon(cierre);
     };
+    cola_.reloj = [this] { return Reloj(); };
     mesa_->al_cambiar_ratio = [this] { CambiaRatio(); };
     InstalaAccesoControles();
 }

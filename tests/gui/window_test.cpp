@@ -128,6 +128,28 @@ private Q_SLOTS:
         QVERIFY(eventos[0].control == Control::Pic_BotContinuar);
     }
 
+    // A click is told with the moment in which it began.
+    void ElClicDiceCuandoSeApreto() {
+        PonContinuar();
+        QTest::mousePress(Boton("Pic_BotContinuar"), Qt::LeftButton);
+        const Milisegundos apretado = mesa_->Reloj();
+        QTest::qWait(60);
+        QTest::mouseRelease(Boton("Pic_BotContinuar"), Qt::LeftButton);
+        const auto eventos = Toma();
+        QCOMPARE(eventos.size(), 1u);
+        QVERIFY(eventos[0].desde.has_value());
+        QVERIFY(*eventos[0].desde <= apretado);
+        QVERIFY(*eventos[0].desde >= apretado - 50);
+    }
+
+    void LaPlacaDeLaPartidaDejaPasarElRaton() {
+        for (const Control placa : {Control::Pic_Tanteo, Control::Pic_Aviso}) {
+            mesa_->Coloca(placa, 0, {300, 300, 66, 27});
+            mesa_->Muestra(placa, 0, true);
+            QCOMPARE(Tapete()->childAt(310, 310), nullptr);
+        }
+    }
+
     void UnaPlacaDejaPasarElRaton() {
         mesa_->Coloca(Control::Pic_Tantos, 2, {100, 100, 66, 27});
         mesa_->Muestra(Control::Pic_Tantos, 2, true);
