@@ -39,6 +39,7 @@ void FormaVista::Muestra(QWidget* sobre) {
     mandos_.abre();
     auto el_de_debajo = PonRefresco([this] { Refresca(); });
     Refresca();
+    CreceConLaMesa();
     CentraEn(sobre != nullptr ? sobre->frameGeometry() : screen()->availableGeometry());
     exec();
     PonRefresco(std::move(el_de_debajo));

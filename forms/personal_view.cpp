@@ -1,7 +1,6 @@
 #include "forms/personal_view.h"
 
 #include <QGridLayout>
-#include <QPainter>
 #include <QVBoxLayout>
 #include <array>
 #include <map>
@@ -43,8 +42,8 @@ public:
 
 protected:
     void paintEvent(QPaintEvent*) override {
-        QPainter p(this);
-        forma::PintaPanel(p, rect(), lamina::kPanelHundido);
+        estilo::PintorDeVista p(this);
+        forma::PintaPanel(p, estilo::CajaDe(*this), lamina::kPanelHundido);
     }
 };
 
@@ -58,10 +57,10 @@ public:
 
 protected:
     void paintEvent(QPaintEvent*) override {
-        QPainter p(this);
-        forma::PintaPieza(p, {0, 0},
-                          estado.SentidoJuego == kInverso ? lamina::kSentidoInverso
-                                                          : lamina::kSentidoDirecto);
+        estilo::PintorDeVista p(this);
+        estilo::PintaPieza(p, QPointF(0, 0),
+                           estado.SentidoJuego == kInverso ? lamina::kSentidoInverso
+                                                           : lamina::kSentidoDirecto);
     }
 };
 
@@ -78,10 +77,11 @@ public:
 
 protected:
     void paintEvent(QPaintEvent*) override {
-        QPainter p(this);
+        estilo::PintorDeVista p(this);
         p.setFont(LetraDe({.alto = 11, .negrita = true}));
         p.setPen(palette().color(QPalette::WindowText));
-        p.drawText(QRect(8, 0, width() - 8, 15), Qt::AlignVCenter, QStringLiteral("Nombre..:"));
+        p.drawText(QRect(8, 0, estilo::CajaDe(*this).width() - 8, 15), Qt::AlignVCenter,
+                   QStringLiteral("Nombre..:"));
     }
 };
 

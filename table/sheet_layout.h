@@ -1,8 +1,6 @@
 #pragma once
 // Where every small image lies on the sheet (Pic_BmpVario), told once: the program cuts by these
-// rectangles and the tool that paints the sheet fills them, each from the drawing of the same name
-// in assets/sheet. Units are table pixels; the sheet itself is kept kEscala times as large, so that a
-// piece (x, y, ancho, alto) is taken from (x, y, ancho, alto) * kEscala.
+// rectangles, each painted from the drawing of the same name in assets/sheet. Units are table pixels.
 //
 // Nothing here reads or writes the state. Indices outside their bounds are clamped to the nearest
 // piece, so a bad one can only show the wrong picture.
@@ -25,7 +23,7 @@ struct Recorte {
 enum class Aspecto { Arriba, Pulsado, Apagado };
 
 inline constexpr int kRadioEsquinaCarta = 6; // beyond it the corner of a card belongs to the felt
-inline constexpr int kEscala = 3;            // sheet and card images are kept three times as large
+inline constexpr int kEscala = 3;            // the deck images are kept three times as large
 inline constexpr int kAncho = 512;
 inline constexpr int kAlto = 560;
 

@@ -157,7 +157,7 @@ void LienzoQt::MiniCarta(int x, int y, int ancho, int alto, const ImagenCarta& c
 
 void LienzoQt::Lamina(int x, int y, const lamina::Recorte& recorte) {
     const QRect sitio = imagenes_.Px(Rectangulo{x, y, recorte.ancho, recorte.alto});
-    Pintor().drawImage(sitio, PiezaDe(recorte, imagenes_.Ratio()));
+    Pintor().drawImage(sitio.topLeft(), PiezaDe(recorte, sitio.size()));
     Tocado(sitio);
 }
 

@@ -5,9 +5,9 @@
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
-#include <cmath>
 
 #include "platform/qt/pointers.h"
+#include "platform/qt/scale.h"
 
 namespace {
 
@@ -78,7 +78,13 @@ void InstalaAccesoControles() {
     QAccessible::installFactory(HazAcceso);
 }
 
-void PintaCuadro(QPainter& pintor, const QImage& cuadro, double ratio, const QRect& expuesto) {
+double RatioDeVentana(const Imagenes& imagenes) {
+    return imagenes.Ratio() / FactorDeMesa();
+}
+
+void PintaCuadro(QPainter& pintor, const QImage& cuadro, const Imagenes& imagenes,
+                 const QRect& expuesto) {
+    const double ratio = RatioDeVentana(imagenes);
     pintor.scale(1 / ratio, 1 / ratio);
     const QRectF dispositivo(QPointF(expuesto.topLeft()) * ratio, QSizeF(expuesto.size()) * ratio);
     const QRect trozo = dispositivo.toAlignedRect().adjusted(-1, -1, 1, 1) & cuadro.rect();
@@ -106,10 +112,19 @@ bool VistaControl::EsBoton() const {
 }
 
 void VistaControl::Coloca(const Rectangulo& donde) {
+    donde_ = donde;
     const QSize tamano(donde.ancho, donde.alto);
-    setGeometry(QRect(QPoint(donde.x, donde.y), tamano));
+    // As large as its picture, wherever it stands.
+    const QRect entera = EnVentana({0, 0, donde.ancho, donde.alto});
+    setGeometry(QRect(EnVentana(donde).topLeft(), entera.size()));
     if (tamano != lienzo_.Tamano())
         lienzo_.PonTamano(tamano, false);
+}
+
+void VistaControl::AdaptaRatio() {
+    Coloca(donde_);
+    lienzo_.AdaptaRatio();
+    setCursor(CursorDe(puntero_));
 }
 
 void VistaControl::PonPuntero(Puntero puntero) {
@@ -140,13 +155,14 @@ void VistaControl::Pulsa(std::optional<Milisegundos> desde) {
 
 void VistaControl::paintEvent(QPaintEvent* evento) {
     QPainter p(this);
-    PintaCuadro(p, lienzo_.Cuadro(), imagenes_.Ratio(), evento->rect());
+    PintaCuadro(p, lienzo_.Cuadro(), imagenes_, evento->rect());
     if (!hasFocus())
         return;
     p.resetTransform();
+    p.scale(FactorDeMesa(), FactorDeMesa());
     p.setRenderHint(QPainter::Antialiasing);
     p.setPen(QPen(QColor(255, 244, 170), 2, Qt::DotLine));
-    p.drawRoundedRect(QRectF(rect()).adjusted(2, 2, -2, -2), 6, 6);
+    p.drawRoundedRect(QRectF(0, 0, donde_.ancho, donde_.alto).adjusted(2, 2, -2, -2), 6, 6);
 }
 
 void VistaControl::Avisa(TipoEvento tipo, const QMouseEvent& evento) {
@@ -154,8 +170,8 @@ void VistaControl::Avisa(TipoEvento tipo, const QMouseEvent& evento) {
     raton.tipo = tipo;
     raton.control = control_;
     raton.indice = indice_;
-    raton.x = static_cast<int>(std::floor(evento.position().x()));
-    raton.y = static_cast<int>(std::floor(evento.position().y()));
+    raton.x = EnMesa(evento.position()).x();
+    raton.y = EnMesa(evento.position()).y();
     raton.boton = evento.button() == Qt::RightButton ? 2 : 1;
     cola_.Pon(raton);
 }

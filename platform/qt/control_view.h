@@ -9,7 +9,10 @@
 
 // Paints a retained picture at the widget's corner, pixel by pixel, where it is exposed. Leaves the painter
 // in the picture's device pixels.
-void PintaCuadro(QPainter& pintor, const QImage& cuadro, double ratio, const QRect& expuesto);
+void PintaCuadro(QPainter& pintor, const QImage& cuadro, const Imagenes& imagenes,
+                 const QRect& expuesto);
+// Device pixels for each pixel of the window, as the images are made for them.
+double RatioDeVentana(const Imagenes& imagenes);
 
 class VistaControl : public QWidget {
     Q_OBJECT
@@ -20,7 +23,10 @@ public:
     Control Cual() const { return control_; }
     bool EsBoton() const;
     LienzoRetenido& ElLienzo() { return lienzo_; }
+    // Table pixels, from the corner of what it stands on.
     void Coloca(const Rectangulo& donde);
+    // As for the felt: the place and the picture for other images.
+    void AdaptaRatio();
     void PonPuntero(Puntero puntero);
     Puntero ElPuntero() const { return puntero_; }
     void Nombra(const QString& nombre);
@@ -43,6 +49,7 @@ private:
     ColaEventos& cola_;
     Imagenes& imagenes_;
     LienzoRetenido lienzo_;
+    Rectangulo donde_;
     Puntero puntero_ = Puntero::Flecha;
     std::optional<Milisegundos> apretado_; // when the button of the mouse went down on it
 };

@@ -40,7 +40,7 @@ std::optional<Milisegundos> ColaEventos::Ahora() const {
 }
 
 std::optional<int> CaracterDe(const QKeyEvent& tecla) {
-    const auto sin_letra = Qt::AltModifier | Qt::MetaModifier;
+    const auto sin_letra = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
     if (tecla.isAutoRepeat() || tecla.text().isEmpty() || (tecla.modifiers() & sin_letra))
         return std::nullopt;
     switch (tecla.key()) {

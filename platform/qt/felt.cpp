@@ -7,14 +7,13 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QTimerEvent>
-#include <cmath>
 #include <utility>
 
 #include "platform/qt/control_view.h"
 #include "platform/qt/pointers.h"
+#include "platform/qt/scale.h"
 
 namespace {
-constexpr int kAnchoMinimo = 800, kAltoMinimo = 600;
 constexpr Qt::MouseButtons kBotones = Qt::LeftButton | Qt::RightButton; // the game knows no other
 } // namespace
 
@@ -52,7 +51,7 @@ void CapaVuelo::paintEvent(QPaintEvent*) {
     if (imagen_.isNull())
         return;
     QPainter p(this);
-    p.scale(1 / imagenes_.Ratio(), 1 / imagenes_.Ratio());
+    p.scale(1 / RatioDeVentana(imagenes_), 1 / RatioDeVentana(imagenes_));
     p.drawImage(donde_, imagen_);
 }
 
@@ -60,7 +59,7 @@ Tapete::Tapete(Imagenes& imagenes, ColaEventos& cola)
     : imagenes_(imagenes), cola_(cola), lienzo_(imagenes, Fondo::Fieltro), vuelo_(this, imagenes) {
     setObjectName(QString::fromUtf8(NombreDe(Control::Mesa)));
     setAttribute(Qt::WA_OpaquePaintEvent);
-    setMinimumSize(kAnchoMinimo, kAltoMinimo);
+    PonMinimo();
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     setAccessibleName(QStringLiteral("Mesa de juego"));
@@ -73,8 +72,8 @@ void Tapete::PonPuntero(Puntero puntero) {
 
 void Tapete::paintEvent(QPaintEvent* evento) {
     QPainter p(this);
-    PintaCuadro(p, lienzo_.Cuadro(), imagenes_.Ratio(), evento->rect());
-    if (ratio_pedido_ || devicePixelRatioF() == imagenes_.Ratio())
+    PintaCuadro(p, lienzo_.Cuadro(), imagenes_, evento->rect());
+    if (ratio_pedido_ || devicePixelRatioF() * FactorDeMesa() == imagenes_.Ratio())
         return;
     ratio_pedido_ = true;
     startTimer(0);
@@ -87,13 +86,24 @@ void Tapete::timerEvent(QTimerEvent* evento) {
         al_cambiar_ratio();
 }
 
+// Where the screen's pixels are many and the window's few, the table is drawn smaller rather than scrolled.
+void Tapete::PonMinimo() {
+    setMinimumSize(VentanaMinima(devicePixelRatioF()));
+}
+
+void Tapete::AdaptaRatio() {
+    PonMinimo();
+    lienzo_.PonTamano(TamanoEnMesa(size()), true);
+    vuelo_.AdaptaRatio();
+    setCursor(CursorDe(puntero_));
+}
+
+// The factor stays until the game takes the new size: nothing that is on its way jumps.
 void Tapete::resizeEvent(QResizeEvent*) {
-    lienzo_.PonTamano(size(), true);
+    lienzo_.PonTamano(TamanoEnMesa(size()), true);
     vuelo_.setGeometry(rect());
     Evento tamano;
     tamano.tipo = TipoEvento::Tamano;
-    tamano.x = width();
-    tamano.y = height();
     cola_.Pon(tamano);
 }
 
@@ -104,8 +114,8 @@ void Tapete::Avisa(TipoEvento tipo, const QMouseEvent& evento) {
 void Tapete::Avisa(TipoEvento tipo, QPointF donde, int boton) {
     Evento raton;
     raton.tipo = tipo;
-    raton.x = static_cast<int>(std::floor(donde.x()));
-    raton.y = static_cast<int>(std::floor(donde.y()));
+    raton.x = EnMesa(donde).x();
+    raton.y = EnMesa(donde).y();
     raton.boton = boton;
     cola_.Pon(raton);
 }

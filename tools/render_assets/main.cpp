@@ -1,11 +1,12 @@
 // Paints the drawings of assets/ as the pictures that the program reads: the two deck images beside
-// the program, everything else as PNG for its resources, contact sheets for those who draw, and the
+// the program and what they are known by, the icon for its resources, contact sheets for those who draw, and the
 // hands of Póker for the help.
 // It needs no screen: run it with QT_QPA_PLATFORM=offscreen.
 
 #include <array>
 #include <cstdio>
 #include <exception>
+#include <span>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -13,12 +14,14 @@
 
 #include <CLI/CLI.hpp>
 #include <QDir>
+#include <QFile>
 #include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
 #include <QSvgRenderer>
 
 #include "platform/canvas.h"
+#include "platform/qt/deck_signature.h"
 #include "table/sheet_layout.h"
 
 namespace {
@@ -112,6 +115,21 @@ void HazBarajas(const Carpetas& carpetas) {
     }
 }
 
+// What the finished deck images come to, by which the program knows them.
+void HazFirmas(const Carpetas& carpetas) {
+    for (const Baraja& baraja : {kFrancesa, kEspanola}) {
+        QFile imagen(carpetas.dibujos + '/' + QLatin1String(baraja.imagen));
+        QFile firma(carpetas.salida + '/' + QLatin1String(baraja.carpeta) + ".firma");
+        if (!imagen.open(QIODevice::ReadOnly))
+            Falla(imagen.fileName(), "cannot be read");
+        const QByteArray bytes = imagen.readAll();
+        const std::span todo(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+        if (!firma.open(QIODevice::WriteOnly) ||
+            firma.write(QByteArray::number(quint64{FirmaDe(std::as_bytes(todo))})) < 1)
+            Falla(firma.fileName(), "cannot be written");
+    }
+}
+
 QImage PintaLaminas(const Carpetas& carpetas, int escala) {
     QImage imagen = Lienzo(lamina::kAncho * escala, lamina::kAlto * escala, 0);
     QPainter pintor(&imagen);
@@ -131,30 +149,6 @@ QImage PintaSuelta(const QString& archivo, const QSize& medida, const QSize& pix
     return imagen;
 }
 
-void HazCartasSueltas(const Carpetas& carpetas) {
-    const QSize medida(kAnchoCarta, kAltoCarta);
-    for (const char* nombre : kCartasSueltas) {
-        const QString carta = QLatin1String(nombre);
-        Guarda(PintaSuelta(carpetas.dibujos + "/cards/" + carta + ".svg", medida,
-                           medida * lamina::kEscala),
-               carpetas.salida + '/' + carta + ".png");
-    }
-}
-
-void HazPunteros(const Carpetas& carpetas) {
-    constexpr std::array sufijos{"", "@2x", "@3x"};
-    const QSize medida(lamina::kLadoPuntero, lamina::kLadoPuntero);
-    for (const lamina::Puntero& puntero : lamina::kPunteros) {
-        const QString nombre = QString::fromStdString(std::string(puntero.archivo));
-        for (std::size_t escala = 1; escala <= sufijos.size(); ++escala) {
-            const QImage imagen = PintaSuelta(carpetas.dibujos + "/cursors/" + nombre + ".svg",
-                                              medida, medida * static_cast<int>(escala));
-            Guarda(imagen,
-                   carpetas.salida + '/' + nombre + QLatin1String(sufijos.at(escala - 1)) + ".png");
-        }
-    }
-}
-
 void HazIconos(const Carpetas& carpetas) {
     for (const int lado : kLadosIcono) {
         const QImage imagen =
@@ -164,9 +158,6 @@ void HazIconos(const Carpetas& carpetas) {
 }
 
 void HazRecursos(const Carpetas& carpetas) {
-    Guarda(PintaLaminas(carpetas, lamina::kEscala), carpetas.salida + "/laminas.png");
-    HazCartasSueltas(carpetas);
-    HazPunteros(carpetas);
     HazIconos(carpetas);
 }
 
@@ -276,8 +267,9 @@ struct Encargo {
     void (*haz)(const Carpetas&);
 };
 
-const std::array kEncargos{Encargo{"decks", HazBarajas}, Encargo{"resources", HazRecursos},
-                           Encargo{"contact", HazMuestras}, Encargo{"hands", HazJugadas}};
+const std::array kEncargos{Encargo{"decks", HazBarajas}, Encargo{"signatures", HazFirmas},
+                           Encargo{"resources", HazRecursos}, Encargo{"contact", HazMuestras},
+                           Encargo{"hands", HazJugadas}};
 
 int Trabaja(int argc, char** argv) {
     CLI::App opciones{"Paints the drawings of the suite."};
@@ -285,7 +277,9 @@ int Trabaja(int argc, char** argv) {
     std::string dibujos, salida;
     for (const Encargo& encargo : kEncargos) {
         CLI::App* orden = opciones.add_subcommand(encargo.nombre);
-        orden->add_option("drawings", dibujos, "the folder of the SVG files")
+        orden
+            ->add_option("drawings", dibujos,
+                         "the folder of the SVG files, or of the deck images to sign")
             ->required()
             ->check(CLI::ExistingDirectory);
         orden->add_option("output", salida, "the folder to write to")->required();
