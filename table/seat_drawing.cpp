@@ -6,6 +6,7 @@
 #include "core/numeric.h"
 #include "core/text.h"
 #include "table/chips.h"
+#include "table/frames.h"
 #include "table/game_row.h"
 #include "table/layout.h"
 #include "table/messages.h"
@@ -223,6 +224,7 @@ void RedibujarAsiento(int asiento) {
         MostrarPuntos(asiento);
     if (juego.pintura.botones_asiento != nullptr)
         juego.pintura.botones_asiento(asiento);
+    RevisaMarcos();
     if (plataforma().HayPantalla())
         plataforma().Repinta();
 }
