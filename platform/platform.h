@@ -77,6 +77,9 @@ enum class Puntero : Integer {
 // "ManoIndice"; "Flecha" for a value that is none.
 const char* NombreDe(Puntero puntero);
 
+// What the keys that are no characters mean to the table: arrows alone and with the shift key, F1 to F9.
+enum class Mando { Izquierda, Derecha, Arriba, Abajo, MayusIzquierda, MayusDerecha, Funcion };
+
 enum class TipoEvento {
     RatonMueve,  // x, y; on Mesa, Pic_SelOpciones or Pic_Botonera, in the control's own pixels
     RatonPulsa,  // x, y, boton
@@ -84,6 +87,7 @@ enum class TipoEvento {
     RatonClic,   // x, y, boton: follows the release, as a click of its own
     Clic,        // a control other than Mesa was clicked: control, indice
     Tecla,       // tecla: the character number
+    Mando,       // a key that is no character: mando, for Funcion its number in indice
     Tamano,      // the table has a new size: x the width, y the height
     CierraVentana,
     Termina, // the desktop ends the session, or SIGTERM: save and leave without a question
@@ -98,7 +102,12 @@ struct Evento {
     int tecla = 0;
     // A click or a key: when the press began, by Reloj(); nothing: it begins and ends now.
     std::optional<Milisegundos> desde = std::nullopt;
+    Mando mando = Mando::Izquierda;
 };
+
+// The frames that lie over the whole table, controls included: the one that the keys move, and the outline of the card
+// that a click would do something with.
+enum class Marco { DeTeclas, DePuntero };
 
 // A pass in a wait takes input for sure; a pass that a deal, a draw or a turn makes on its way takes what
 // is there on a desktop, and none of the scripted input without a screen unless told so.
@@ -164,11 +173,18 @@ public:
     virtual bool EstaVisible(Control control, int indice) const = 0;
     virtual void PonPuntero(Control control, int indice, Puntero puntero) = 0;
     virtual Puntero PunteroDe(Control control, int indice) const = 0;
+    // Where it stands, in table pixels, on view or not; without size when it was never placed.
+    virtual Rectangulo LugarDe(Control control, int indice) const = 0;
     // What a screen reader says of the control, and its tool tip. The table is named by its game, which the
     // window's title tells.
     virtual void Nombra(Control control, int indice, std::string_view nombre) = 0;
+    // The name that it was given last, "" without one.
+    virtual std::string NombreDicho(Control control, int indice) const = 0;
     // What a screen reader says now, unasked.
     virtual void Anuncia(std::string_view texto) = 0;
+    // A frame around a place in table pixels, in the place of the one that was there; nothing takes it away. The mouse
+    // passes through.
+    virtual void Enmarca(Marco cual, const std::optional<Rectangulo>& donde) = 0;
     // The flying card, above everything on the felt; Posa takes it away.
     virtual void Vuela(int x, int y, const ImagenCarta& carta) = 0;
     virtual void Posa() = 0;

@@ -7,13 +7,16 @@
 #include "table/button_column.h"
 #include "table/controls.h"
 #include "table/deck.h"
+#include "table/frames.h"
 #include "table/game_row.h"
 #include "table/hand_order.h"
+#include "table/keyboard_walk.h"
 #include "table/manual_spread.h"
 #include "table/messages.h"
 #include "table/options_menu.h"
 #include "table/sounds.h"
 #include "table/table_input.h"
+#include "table/table_view.h"
 #include "table/whole_table.h"
 
 namespace {
@@ -155,6 +158,40 @@ void Tecla(const Evento& evento) {
         PulsaContinuar();
 }
 
+void PulsaFuncion(int tecla) {
+    constexpr int kAyuda = 1;
+    if (tecla == kAyuda)
+        plataforma().Ayuda(JuegoEnMesa().tema);
+    else
+        PulsaBoton(BotonDesdeArriba(tecla - kAyuda));
+}
+
+void Despacha(const Evento& evento);
+
+// The pointer on the screen is still where it was, unless a card hangs on it now.
+void SigueElPuntero(const Punto& donde) {
+    if (estado.ArrastraReparto)
+        return;
+    vista.puntero_x = donde.x;
+    vista.puntero_y = donde.y;
+    RefrescaPuntero();
+}
+
+void Manda(const Evento& evento) {
+    if (evento.mando == Mando::Funcion)
+        return PulsaFuncion(evento.indice);
+    const Punto puntero{vista.puntero_x, vista.puntero_y};
+    for (const Evento& uno : EventosDeMando(evento.mando))
+        Despacha(uno);
+    SigueElPuntero(puntero);
+}
+
+bool MueveElRaton(const Evento& evento) {
+    const bool quieto = evento.control == Control::Mesa && evento.x == vista.puntero_x &&
+                        evento.y == vista.puntero_y;
+    return evento.tipo == TipoEvento::RatonMueve && !quieto;
+}
+
 void CierraVentana() {
     if (BotonHabilitado(kBotonSalir))
         PulsaBoton(kBotonSalir);
@@ -164,7 +201,9 @@ void CierraVentana() {
 
 } // namespace
 
-void DespachaEvento(const Evento& evento) {
+namespace {
+
+void Despacha(const Evento& evento) {
     switch (evento.tipo) {
     case TipoEvento::RatonMueve:
     case TipoEvento::RatonPulsa:
@@ -181,6 +220,9 @@ void DespachaEvento(const Evento& evento) {
     case TipoEvento::Tecla:
         Tecla(evento);
         break;
+    case TipoEvento::Mando:
+        Manda(evento);
+        break;
     case TipoEvento::Tamano:
         CambiaTamano();
         break;
@@ -191,6 +233,15 @@ void DespachaEvento(const Evento& evento) {
         GuardarYSalir();
         break;
     }
+}
+
+} // namespace
+
+void DespachaEvento(const Evento& evento) {
+    if (MueveElRaton(evento))
+        QuitaMarco();
+    Despacha(evento);
+    RevisaMarcos();
 }
 
 void PulsaBoton(int indice) {

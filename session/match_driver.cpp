@@ -16,6 +16,7 @@
 #include "table/button_column.h"
 #include "table/controls.h"
 #include "table/deck.h"
+#include "table/frames.h"
 #include "table/game_row.h"
 #include "table/layout.h"
 #include "table/messages.h"
@@ -198,6 +199,7 @@ void BucleSesion() {
         AtiendeCierrePendiente();
         if (sesion.peticion != Peticion::Ninguna)
             continue;
+        RevisaMarcos();
         if (!plataforma().EsperaEvento())
             return;
         PaseDeEventos(Pase::DeEspera);

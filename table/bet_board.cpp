@@ -151,13 +151,6 @@ void Anula() {
 using Accion = void (*)();
 constexpr std::array<Accion, kBotonesApostadora> kAcciones{Pasa, Iguala, Apuesta, Anula};
 
-bool PuedePonerFichas() {
-    const Integer asiento = estado.JugadorActual;
-    return asiento != 0 && estado.ControlJugador(asiento) == kManual && apuestas.ModoApuesta &&
-           estado.SerieActual == estado.SerieEnJuego && !estado.ModoOrdenar &&
-           !estado.RepartoEnCurso;
-}
-
 } // namespace
 
 void MuestraApostadora() {
@@ -235,6 +228,13 @@ void PulsaApostadora(Control control) {
     kAcciones.at(static_cast<std::size_t>(boton - 1))();
 }
 
+bool SePuedenPonerFichas() {
+    const Integer asiento = estado.JugadorActual;
+    return asiento != 0 && estado.ControlJugador(asiento) == kManual && apuestas.ModoApuesta &&
+           estado.SerieActual == estado.SerieEnJuego && !estado.ModoOrdenar &&
+           !estado.RepartoEnCurso;
+}
+
 void PulsaFicha() {
     const Integer d = estado.FichaBajoCursor;
     if (!apuestas.ModoApuesta || d == 0 || estado.JugadaHecha)
@@ -248,7 +248,7 @@ void PulsaFicha() {
 
 void DetectaFicha(int x, int y) {
     estado.FichaBajoCursor = 0;
-    if (!PuedePonerFichas())
+    if (!SePuedenPonerFichas())
         return;
     for (Integer d = 1; d <= kDenominaciones && estado.FichaBajoCursor == 0; ++d) {
         const Rectangulo pila = PilaDe(estado.JugadorActual, d);

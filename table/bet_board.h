@@ -22,5 +22,7 @@ void AnulaApuestas(Integer asiento);
 // anything once the seat has ended its turn.
 void PulsaApostadora(Control control);
 void PulsaFicha();
+// Chips may be clicked: the seat on turn bets by hand, with nothing else going on.
+bool SePuedenPonerFichas();
 // The pointer over a chip that the seat on turn may place: FichaBajoCursor, 0 none.
 void DetectaFicha(int x, int y);

@@ -1,5 +1,6 @@
 #include "table/button_column.h"
 
+#include <algorithm>
 #include <array>
 #include <optional>
 #include <string>
@@ -157,6 +158,20 @@ void HabilitaBoton(int indice, bool habilitado) {
                             puede ? Puntero::ManoIndice : Puntero::Prohibido);
     if (plataforma().HayPantalla())
         PintaBoton(indice);
+}
+
+int BotonDesdeArriba(int n) {
+    std::array<int, 8> botones{1, 2, 3, 4, 5, 6, 7, 8};
+    std::ranges::sort(botones, {},
+                      [](int boton) { return kBotones.at(static_cast<std::size_t>(boton)).y; });
+    return botones.at(static_cast<std::size_t>(n - 1));
+}
+
+int TeclaDelBoton(int indice) {
+    int n = 1;
+    while (BotonDesdeArriba(n) != indice)
+        ++n;
+    return n + 1;
 }
 
 bool BotonHabilitado(int indice) {

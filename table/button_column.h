@@ -16,6 +16,11 @@ void HabilitaBoton(int indice, bool habilitado);
 // Whether it is enabled.
 bool BotonHabilitado(int indice);
 
+// The main buttons are also numbered from the top of the column, as their function keys are: which one the n-th (1..8)
+// is, and the key (F2 to F9) of a button.
+int BotonDesdeArriba(int n);
+int TeclaDelBoton(int indice);
+
 // Pic_BotContinuar with its caption, kind 1 up or 2 pressed, and hidden. They write EsperandoJugada.
 void PedirContinuar(int kind);
 void OcultarContinuar();

@@ -236,6 +236,13 @@ void MueveFicha(const FichaMovida& ficha) {
     Sonido(1, sonido::kFicha);
 }
 
+Rectangulo LugarDelBote() {
+    const Punto esquina = LugarDePila(kAreaBote, 1);
+    const Rectangulo placa = PlacaDelBote();
+    const int arriba = esquina.y - kCreceFicha;
+    return {esquina.x, arriba, placa.x + placa.ancho - esquina.x, kCreceFicha + kAltoArea};
+}
+
 Rectangulo PilaDe(Integer asiento, int d) {
     const Integer cuantas = apuestas.Fichas(asiento, d);
     if (cuantas <= 0)

@@ -30,3 +30,5 @@ Rectangulo PilaDe(Integer asiento, int d);
 
 // All that chips, their plates and their marks can take of the felt in the game on the table.
 std::vector<Rectangulo> LugaresDeFichas();
+// What the pot takes on the felt, with the plate of its number.
+Rectangulo LugarDelBote();

@@ -15,6 +15,7 @@ struct ProcedimientoConNombre; // table/procedure_call.h
 using ListaDeProcedimientos = std::vector<ProcedimientoConNombre>;
 
 class PaginaImpresa;
+struct Objetivo; // table/targets.h
 
 // What the form "Normas" can set.
 enum class Regla {
@@ -185,6 +186,17 @@ struct InformesDeJuego {
     void (*estadis)(PaginaImpresa& pagina) = nullptr;
 };
 
+// What keys and screen readers are told beyond hands, pile, chips and controls (table/targets.h).
+struct ObjetivosDeJuego {
+    // Cards and words in the middle of the table, appended. Empty: none.
+    void (*en_la_mesa)(std::vector<Objetivo>& todos) = nullptr;
+    // A card of the seat on turn that a click chooses, and one that has been chosen.
+    const char* elegible = "se puede jugar";
+    const char* elegida = "elegida";
+    // Everybody can reckon how many cards the pile holds.
+    bool mazo_contado = false;
+};
+
 // What must hold, told apart from the code that played it. InvarianteRoto when something does not.
 struct RevisionDeJuego {
     // At any moment of a match. Empty: nothing.
@@ -198,6 +210,7 @@ struct RevisionDeJuego {
 struct FilaJuego {
     Integer id = 0;
     const char* nombre = "";
+    Integer tema = 0; // its page in the help
     // The whole match; returns when it is over or was left.
     void (*driver)() = nullptr;
     // Its deck and its place at the table are there, and it cannot be played yet: no driver.
@@ -214,6 +227,7 @@ struct FilaJuego {
     PartidaDeJuego partida{};
     NormasDeJuego normas{};
     InformesDeJuego informes{};
+    ObjetivosDeJuego objetivos{};
     RevisionDeJuego revision{};
     // What the line console can call by name of this game alone. Empty: nothing.
     const ListaDeProcedimientos& (*procedimientos)() = nullptr;

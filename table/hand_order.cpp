@@ -157,6 +157,14 @@ void SueltaArrastrada() {
     Sonido(0, sonido::kPosa);
 }
 
+void MueveEnLaMano(Integer asiento, int desde, int hasta) {
+    LlevaCarta(asiento, desde, hasta);
+    CompactarMano(asiento);
+    RedibujarAsiento(asiento);
+    TrasReordenar(asiento);
+    Sonido(0, sonido::kPosa);
+}
+
 void AbandonaArrastre() {
     if (!estado.ArrastraCarta)
         return;

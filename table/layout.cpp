@@ -137,18 +137,31 @@ Integer OrientacionDe(int asiento) {
     return EnteroDe(estado.OrientacionAsiento(asiento) % 4 + 1);
 }
 
-void ColocarCarta(int asiento, int lugar, int cartas) {
-    Traza("ColocarCarta", asiento, lugar, cartas);
+Rectangulo CajaDeCarta(int asiento, int lugar, int cartas) {
     const int n = std::max(cartas, 1);
     const bool levantada = estado.Mano(asiento, estado.SerieActual, lugar, kAltura) == kLevantada;
     const int adentro = kBanda + (levantada ? kRealce : 0);
     if (AsientoLateral(asiento)) {
-        estado.CartaX = EnteroDe(asiento == 1 ? adentro : estado.AnchoMesa - adentro - kAltoCarta);
-        estado.CartaY = ALoLargo(estado.MesaArriba(asiento), lugar, n);
-    } else {
-        estado.CartaX = ALoLargo(estado.MesaIzquierda(asiento), lugar, n);
-        estado.CartaY = EnteroDe(asiento == 2 ? adentro : estado.AltoMesa - adentro - kAltoCarta);
+        return {asiento == 1 ? adentro : estado.AnchoMesa - adentro - kAltoCarta,
+                ALoLargo(estado.MesaArriba(asiento), lugar, n), kAltoCarta, kAnchoCarta};
     }
+    return {ALoLargo(estado.MesaIzquierda(asiento), lugar, n),
+            asiento == 2 ? adentro : estado.AltoMesa - adentro - kAltoCarta, kAnchoCarta,
+            kAltoCarta};
+}
+
+Rectangulo CartaALaVista(int asiento, int lugar, int cartas) {
+    Rectangulo caja = CajaDeCarta(asiento, lugar, cartas);
+    if (lugar < cartas)
+        (AsientoLateral(asiento) ? caja.alto : caja.ancho) = PasoDe(cartas);
+    return caja;
+}
+
+void ColocarCarta(int asiento, int lugar, int cartas) {
+    Traza("ColocarCarta", asiento, lugar, cartas);
+    const Rectangulo caja = CajaDeCarta(asiento, lugar, cartas);
+    estado.CartaX = EnteroDe(caja.x);
+    estado.CartaY = EnteroDe(caja.y);
 }
 
 Rectangulo FranjaMano(int asiento, int cartas) {

@@ -14,6 +14,11 @@ void CalculaLugares();
 // that place from Mano and SerieActual. cartas below 1 counts as 1.
 void ColocarCarta(int asiento, int lugar, int cartas);
 
+// The box of that card on the felt, on its side for the seats at the sides, and how much of it the next one (of cartas)
+// leaves to see along the edge. The state stays as it is.
+Rectangulo CajaDeCarta(int asiento, int lugar, int cartas);
+Rectangulo CartaALaVista(int asiento, int lugar, int cartas);
+
 // The strip of the seat's hand of cartas cards, along its edge and wholly inside the zone.
 Rectangulo FranjaMano(int asiento, int cartas);
 

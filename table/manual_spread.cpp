@@ -59,13 +59,16 @@ void CentraReparto() {
     estado.ReparteY = Redondea(estado.AltoMesa / 2.0 - PasoFila() * estado.FilasReparto / 2.0);
 }
 
+Rectangulo LugarEnReparto(int fila, int columna) {
+    return {estado.ReparteX + (columna - 1) * kPasoColumna,
+            estado.ReparteY + (fila - 1) * PasoFila(), kPasoColumna - kHuecoReparto,
+            PasoFila() - kHuecoReparto};
+}
+
 void PintaLugarDelReparto(int fila, int columna) {
     if (!plataforma().HayPantalla())
         return;
-    const int x = estado.ReparteX + (columna - 1) * kPasoColumna;
-    const int y = estado.ReparteY + (fila - 1) * PasoFila();
-    const int ancho = kPasoColumna - kHuecoReparto;
-    const int alto = PasoFila() - kHuecoReparto;
+    const auto [x, y, ancho, alto] = LugarEnReparto(fila, columna);
     const Carta carta = CartaDelReparto(fila, columna);
     const bool colgada =
         estado.ArrastraReparto && fila == estado.FilaReparto && columna == estado.ColumnaReparto;
@@ -103,10 +106,14 @@ Carta LaCartaColgada() {
                                   : Carta{};
 }
 
+bool AdmiteLaColgada(Integer asiento) {
+    return estado.ArrastraReparto && Admite(asiento) && PrimerLugarLibre(asiento) != 0;
+}
+
 bool DaCartaA(Integer asiento) {
-    const int lugar = PrimerLugarLibre(asiento);
-    if (!Admite(asiento) || lugar == 0)
+    if (!AdmiteLaColgada(asiento))
         return false;
+    const int lugar = PrimerLugarLibre(asiento);
     const Carta carta = LaCartaColgada();
     PonCarta(asiento, 1, lugar, carta, kDescubierta);
     if (JuegoEnMesa().reparto.tapa)

@@ -3,6 +3,7 @@
 // into a hand and back.
 
 #include "core/game_state.h"
+#include "platform/canvas.h"
 
 // The spread in the middle of the table: writes ReparteX, ReparteY. Painted anew from CartaEnReparto.
 void CentraReparto();
@@ -20,6 +21,8 @@ Carta CartaDelReparto(int fila, int columna);
 // The deck has a card for the place.
 bool EstaEnLaBaraja(int fila, int columna);
 
+// The box of a place on the felt.
+Rectangulo LugarEnReparto(int fila, int columna);
 // True when the point lies in the spread's box.
 bool EnElReparto(int x, int y);
 
@@ -28,6 +31,8 @@ bool EnElReparto(int x, int y);
 bool TomaDelReparto();
 // The hanging card, kSinCarta when none hangs.
 Carta LaCartaColgada();
+// The seat would take the hanging card.
+bool AdmiteLaColgada(Integer asiento);
 // It enters the seat's hand if the seat takes it: Mano, NumCartas, CartaEnReparto, UltimoRecibe, ArrastraReparto.
 // False, with nothing changed, when it does not.
 bool DaCartaA(Integer asiento);

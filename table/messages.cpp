@@ -136,11 +136,9 @@ void MostrarSugerencia(int tip) {
     ColocaSugerencia();
     MuestraPanel(true);
     PintaSugerencia();
-    if (plataforma().HayPantalla()) {
-        const std::string texto = estado.Sugerencias(tip).Texto;
-        plataforma().Nombra(Control::Pic_Sugerencia, 0, texto);
+    plataforma().Nombra(Control::Pic_Sugerencia, 0, estado.Sugerencias(tip).Texto);
+    if (plataforma().HayPantalla())
         plataforma().Repinta();
-    }
 }
 
 void PintaSugerencia() {

@@ -29,17 +29,16 @@ int EntradaEn(int n) {
 }
 
 void PintaEntrada(Lienzo& lienzo, int n) {
-    const int entrada = EntradaEn(n);
-    const int y = kMargen / 2 + (n - 1) * kAltoEntrada;
+    const Rectangulo lugar = LugarDeOpcion(n);
+    const int y = lugar.y;
     const bool resaltada = n == estado.OpcionResaltada;
     if (resaltada)
-        lienzo.Caja({2, y, kAncho - 4, kAltoEntrada}, color::kAzulOscuro);
+        lienzo.Caja(lugar, color::kAzulOscuro);
     const Color tinta = resaltada ? color::kBlanco : color::kNegro;
-    if (entrada == kEntradaManual && estado.ModoOrdenar)
+    if (OpcionMarcada(n))
         lienzo.Texto(kMarcaX, y + 2, "X", {.alto = 12, .negrita = true}, tinta,
                      Alineacion::Izquierda);
-    lienzo.Texto(kTextoX, y + 2, estado.TextoOrdenar(entrada), {.alto = 12}, tinta,
-                 Alineacion::Izquierda);
+    lienzo.Texto(kTextoX, y + 2, TextoDeOpcion(n), {.alto = 12}, tinta, Alineacion::Izquierda);
 }
 
 void ResaltaOpcion(int n) {
@@ -50,6 +49,18 @@ void ResaltaOpcion(int n) {
 }
 
 } // namespace
+
+std::string TextoDeOpcion(int n) {
+    return estado.TextoOrdenar(EntradaEn(n));
+}
+
+Rectangulo LugarDeOpcion(int n) {
+    return {2, kMargen / 2 + (n - 1) * kAltoEntrada, kAncho - 4, kAltoEntrada};
+}
+
+bool OpcionMarcada(int n) {
+    return EntradaEn(n) == kEntradaManual && estado.ModoOrdenar;
+}
 
 void PintaOpciones() {
     Plataforma& p = plataforma();

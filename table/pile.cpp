@@ -14,10 +14,25 @@ constexpr int kMargenMazo = 18, kAnchoCajaMazo = 133, kAltoCajaMazo = 155;
 constexpr int kCartasPorDorso = 4; // one back is drawn for so many cards of a single deck
 constexpr int kBajadaMazo = 13;
 
+// Backs that are drawn for n cards.
+int Dorsos(int n) {
+    const int porDorso = kCartasPorDorso * std::max<int>(estado.MazosBaraja, 1);
+    return (n + porDorso - 1) / porDorso;
+}
+
 } // namespace
 
 Rectangulo CajaDelMazo() {
     return {estado.MazoX - kMargenMazo, estado.MazoY, kAnchoCajaMazo, kAltoCajaMazo};
+}
+
+Rectangulo LugarDelMazo() {
+    const int dorsos = Dorsos(vista.cartas_mazo);
+    if (dorsos == 0)
+        return {};
+    const Punto esquina = vista.mazo_centrado ? CentroDelMazo() : Punto{estado.MazoX, estado.MazoY};
+    const int crece = dorsos - 1;
+    return {esquina.x, esquina.y + kBajadaMazo - crece, kAnchoCarta + crece, kAltoCarta + crece};
 }
 
 void DibujarMazo(int x, int y, int n) {
@@ -30,7 +45,6 @@ void DibujarMazo(int x, int y, int n) {
     const FilaJuego& juego = JuegoEnMesa();
     if (juego.pintura.bajo_mazo != nullptr)
         juego.pintura.bajo_mazo(x, y);
-    const int porDorso = kCartasPorDorso * std::max<int>(estado.MazosBaraja, 1);
-    for (int k = 0; k * porDorso < n; ++k)
+    for (int k = 0; k < Dorsos(n); ++k)
         mesa.Carta(x + k, y + kBajadaMazo - k, {.cara = kDorso, .orientacion = 1});
 }

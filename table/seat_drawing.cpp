@@ -6,6 +6,7 @@
 #include "core/numeric.h"
 #include "core/text.h"
 #include "table/chips.h"
+#include "table/frames.h"
 #include "table/game_row.h"
 #include "table/layout.h"
 #include "table/messages.h"
@@ -182,7 +183,7 @@ void AnunciaRotulo(int asiento) {
         return;
     vista.rotulo_dicho(asiento) = rotulo;
     if (!rotulo.empty())
-        plataforma().Anuncia(estado.NombreJugador(asiento) + ": " + SinEspaciar(rotulo));
+        plataforma().Anuncia(estado.NombreJugador(asiento) + ": " + RotuloDicho(asiento));
 }
 
 void ParpadeaRotulo(int asiento, Integer serie) {
@@ -270,6 +271,10 @@ void PintaGanador(int asiento) {
 
 } // namespace
 
+std::string RotuloDicho(int asiento) {
+    return SinEspaciar(estado.RotuloSerie(asiento, estado.SerieActual));
+}
+
 void RedibujarAsiento(int asiento) {
     Traza("RedibujarAsiento", asiento);
     const Integer serie = estado.SerieActual;
@@ -294,6 +299,7 @@ void RedibujarAsiento(int asiento) {
         MostrarPuntos(asiento);
     if (juego.pintura.botones_asiento != nullptr)
         juego.pintura.botones_asiento(asiento);
+    RevisaMarcos();
     if (plataforma().HayPantalla())
         plataforma().Repinta();
 }

@@ -20,6 +20,8 @@ void QuitaCante(int asiento);
 
 // The caption of the seat's serie on show.
 void MostrarRotulo(int asiento);
+// The caption of the seat's serie on show as a reader says it; "" without one.
+std::string RotuloDicho(int asiento);
 // The names of the active seats, from now on also whenever a seat is painted.
 void MostrarNombres();
 

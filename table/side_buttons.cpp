@@ -144,17 +144,18 @@ void MostrarPuntos(int asiento) {
         return;
     }
     const bool medios = puntos != static_cast<int>(puntos);
+    const std::string cifra = Formato(puntos, medios ? "#0.0" : "#0");
     // Above the zone at the sides, where the bet board leaves it to see.
     const bool vertical = AsientoLateral(asiento);
     const int a_lo_largo = vertical ? -kSeparacion - placa.alto : kLargoZona + kSeparacion;
     Pon(Control::Pic_Tantos, asiento,
         JuntoAlAsiento(asiento, a_lo_largo, vertical ? -placa.ancho - kDeLaEsquina : -placa.alto,
                        placa.ancho, placa.alto),
-        placa, "", "Puntos de " + estado.NombreJugador(asiento));
+        placa, "", "Puntos de " + estado.NombreJugador(asiento) + ": " + cifra);
     if (plataforma().HayPantalla()) {
         plataforma()
             .LienzoDe(Control::Pic_Tantos, asiento)
-            .Texto(placa.ancho / 2, kPlaca, Formato(puntos, medios ? "#0.0" : "#0"),
-                   {.alto = 16, .negrita = true}, color::kNegro, Alineacion::Centro);
+            .Texto(placa.ancho / 2, kPlaca, cifra, {.alto = 16, .negrita = true}, color::kNegro,
+                   Alineacion::Centro);
     }
 }

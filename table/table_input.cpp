@@ -7,6 +7,7 @@
 #include "core/numeric.h"
 #include "table/bet_board.h"
 #include "table/controls.h"
+#include "table/frames.h"
 #include "table/game_row.h"
 #include "table/hand_order.h"
 #include "table/hit_tests.h"
@@ -41,13 +42,24 @@ Integer Codigo(Puntero puntero) {
     return static_cast<Integer>(puntero);
 }
 
-Integer PunteroEnCarta() {
+bool EsLegal(int lugar) {
+    const auto carta_legal = JuegoEnMesa().entrada.carta_legal;
+    return carta_legal == nullptr || carta_legal(lugar);
+}
+
+Puntero PunteroEnCarta(int lugar) {
     const FilaJuego& juego = JuegoEnMesa();
     if (juego.entrada.puntero != nullptr)
-        return Codigo(juego.entrada.puntero(estado.CartaBajoCursor));
+        return juego.entrada.puntero(lugar);
     if (apuestas.ModoApuesta)
-        return 0;
-    return Codigo(CartaLegal() ? Puntero::ManoVerde : Puntero::ManoRoja);
+        return Puntero::Flecha;
+    return EsLegal(lugar) ? Puntero::ManoVerde : Puntero::ManoRoja;
+}
+
+// The pile is offered at all, whatever it looks like.
+bool HayCambioEnElMazo() {
+    const FilaJuego& juego = JuegoEnMesa();
+    return juego.entrada.cambio_en_mazo != nullptr && juego.entrada.cambio_en_mazo();
 }
 
 bool EnElMazo(int x, int y) {
@@ -56,16 +68,14 @@ bool EnElMazo(int x, int y) {
 }
 
 bool CambioEnMazo(int x, int y) {
-    const FilaJuego& juego = JuegoEnMesa();
-    return juego.entrada.cambio_en_mazo != nullptr && juego.entrada.cambio_en_mazo() &&
-           EnElMazo(x, y);
+    return HayCambioEnElMazo() && EnElMazo(x, y);
 }
 
 Integer PunteroDeMano(int x, int y) {
     DetectaJdorYCar(x, y);
     Integer codigo = 0;
     if (estado.AsientoBajoCursor == estado.JugadorActual && estado.CartaBajoCursor != 0)
-        codigo = PunteroEnCarta();
+        codigo = Codigo(PunteroEnCarta(estado.CartaBajoCursor));
     return CambioEnMazo(x, y) ? Codigo(Puntero::Cambiar) : codigo;
 }
 
@@ -91,6 +101,62 @@ Integer PunteroDeReparto(int x, int y) {
     return estado.CartaBajoCursor != 0 ? Codigo(Puntero::ManoVerde) : Integer{0};
 }
 
+// The outlined card, asiento 0 for none.
+struct Contorno {
+    Integer asiento = 0, lugar = 0;
+    Rectangulo donde;
+};
+Contorno contorno;
+
+bool SeMueveCarta(Integer asiento) {
+    return estado.ModoOrdenar && !estado.ArrastraCarta &&
+           estado.CartasJugador(asiento) == kVisibles;
+}
+
+// A press on the card does something, and the pointer is still over what is to be seen of it.
+bool SeContornea(Integer asiento, Integer lugar) {
+    const Integer cartas = estado.NumCartas(asiento, estado.SerieActual);
+    if (lugar == 0 || lugar > cartas || HayMarco(Marco::DeTeclas))
+        return false;
+    const Rectangulo carta = CajaDeCarta(asiento, lugar, cartas);
+    return (SeTocaCarta(asiento, lugar) || SeMueveCarta(asiento)) &&
+           Dentro(vista.puntero_x, carta.x, carta.x + carta.ancho - 1) &&
+           Dentro(vista.puntero_y, carta.y, carta.y + carta.alto - 1);
+}
+
+void RevisaContorno();
+
+void Contornea(const Contorno& nuevo) {
+    contorno = nuevo;
+    const bool hay = nuevo.asiento != 0;
+    PonMarco(Marco::DePuntero, hay ? std::optional(nuevo.donde) : std::nullopt, RevisaContorno);
+}
+
+void ContorneaCarta(Integer asiento, Integer lugar) {
+    if (asiento == 0 || !SeContornea(asiento, lugar))
+        return Contornea({});
+    const Integer cartas = estado.NumCartas(asiento, estado.SerieActual);
+    Contornea({asiento, lugar, CartaALaVista(asiento, lugar, cartas)});
+}
+
+void RevisaContorno() {
+    ContorneaCarta(contorno.asiento, contorno.lugar);
+}
+
+// Over the spread and the pile the card found last is not under the pointer.
+void ContorneaBajoElPuntero() {
+    switch (static_cast<Puntero>(estado.CursorNuevo)) {
+    case Puntero::ManoVerde:
+    case Puntero::Voltear:
+    case Puntero::Cambiar:
+    case Puntero::Abrirse:
+    case Puntero::Ordenar:
+        return ContorneaCarta(estado.AsientoBajoCursor, estado.CartaBajoCursor);
+    default:
+        return Contornea({});
+    }
+}
+
 void CalculaPuntero(int x, int y) {
     vista.puntero_x = x;
     vista.puntero_y = y;
@@ -108,6 +174,7 @@ void CalculaPuntero(int x, int y) {
         CambiarCursor(Control::Mesa, 0, static_cast<Puntero>(estado.CursorNuevo));
         estado.CursorTabla = estado.CursorNuevo;
     }
+    ContorneaBajoElPuntero();
 }
 
 void MueveColgada(int x, int y) {
@@ -177,9 +244,43 @@ void PulsaSegunPuntero() {
 } // namespace
 
 bool CartaLegal() {
-    const FilaJuego& juego = JuegoEnMesa();
-    return juego.entrada.carta_legal == nullptr ||
-           juego.entrada.carta_legal(estado.CartaBajoCursor);
+    return EsLegal(estado.CartaBajoCursor);
+}
+
+Puntero PunteroSobreCarta(Integer asiento, int lugar) {
+    if (estado.RepartoEnCurso)
+        return estado.ArrastraReparto ? Puntero::ManoCerrada : Puntero::ManoVerde;
+    if (estado.ModoOrdenar)
+        return estado.CartasJugador(asiento) == kVisibles ? Puntero::Ordenar : Puntero::Flecha;
+    return ManoJugable() && asiento == estado.JugadorActual ? PunteroEnCarta(lugar)
+                                                            : Puntero::Flecha;
+}
+
+bool SeTocaCarta(Integer asiento, int lugar) {
+    switch (PunteroSobreCarta(asiento, lugar)) {
+    case Puntero::ManoVerde:
+        return estado.RepartoEnCurso || estado.EligeCarta;
+    case Puntero::Voltear:
+        return estado.EligeCarta;
+    case Puntero::Cambiar:
+    case Puntero::Abrirse:
+        return true;
+    default: // a card is put in order by being dragged, not by a click
+        return false;
+    }
+}
+
+bool OfreceOrdenar(Integer asiento) {
+    return (estado.EsperandoJugada || !estado.PartidaEnCurso) && estado.ManoEnCurso &&
+           JuegoEnMesa().entrada.menu_ordenar && estado.CartasJugador(asiento) == kVisibles;
+}
+
+bool SeCambiaEnElMazo() {
+    return ManoJugable() && HayCambioEnElMazo();
+}
+
+Punto ToqueDelCambio() {
+    return {estado.MazoX - kMargenCambio / 2, estado.MazoY + kAltoCarta / 2};
 }
 
 void RefrescaPuntero() {
@@ -230,9 +331,7 @@ void Form_Click() {
     if (estado.BotonRaton == kBotonDerecho && (estado.EsperandoJugada || !estado.PartidaEnCurso) &&
         JuegoEnMesa().entrada.menu_ordenar) {
         const Integer zona = estado.ZonaBajoCursor;
-        const bool ofrece =
-            zona != 0 && estado.ManoEnCurso && estado.CartasJugador(zona) == kVisibles;
-        PonOpciones(ofrece);
+        PonOpciones(zona != 0 && OfreceOrdenar(zona));
         MuestraOpciones();
     }
     if (estado.ZonaBajoCursor == 0)

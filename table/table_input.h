@@ -3,9 +3,19 @@
 // never go on with the game themselves.
 
 #include "platform/platform.h"
+#include "table/layout.h"
 
 // True when place CartaBajoCursor of JugadorActual may be played now.
 bool CartaLegal();
+
+// The shape over that place of a seat's hand now, and whether a left click there does something.
+Puntero PunteroSobreCarta(Integer asiento, int lugar);
+bool SeTocaCarta(Integer asiento, int lugar);
+// A right click in the seat's zone opens the pop-up.
+bool OfreceOrdenar(Integer asiento);
+// A click on the pile changes the trump, at this point of it.
+bool SeCambiaEnElMazo();
+Punto ToqueDelCambio();
 
 // The pointer moves over the table, in its pixels: what lies under it takes its shape, what is dragged follows.
 void Form_MouseMove(int x, int y);

@@ -4,6 +4,7 @@
 #include "core/session_state.h"
 #include "table/button_column.h"
 #include "table/controls.h"
+#include "table/frames.h"
 
 namespace {
 
@@ -48,6 +49,7 @@ bool EsperaHasta(bool (*lista)()) {
         AtiendeCierrePendiente();
         if (!PartidaSigue())
             return false;
+        RevisaMarcos();
         if (!plataforma().EsperaEvento()) {
             sesion.sin_eventos = true;
             estado.PartidaEnCurso = false;

@@ -8,8 +8,10 @@
 #include "table/bet_board.h"
 #include "table/button_column.h"
 #include "table/controls.h"
+#include "table/frames.h"
 #include "table/game_row.h"
 #include "table/hand_order.h"
+#include "table/keyboard_walk.h"
 #include "table/layout.h"
 #include "table/manual_spread.h"
 #include "table/messages.h"
@@ -99,6 +101,7 @@ void OcultaControlesMesa() {
 }
 
 void LimpiarMesa() {
+    OlvidaMarco();
     const VistaMesa antes = std::exchange(vista, {});
     vista.puntero_x = antes.puntero_x;
     vista.puntero_y = antes.puntero_y;
@@ -136,6 +139,7 @@ void RedibujarMesa() {
     PintaOpciones();
     PintaMover();
     RefrescaAviso();
+    RevisaMarcos();
     plataforma().Repinta();
 }
 

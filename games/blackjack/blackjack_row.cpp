@@ -72,6 +72,7 @@ const FilaJuego& FilaBlackJack() {
     static const FilaJuego kFila{
         .id = kBlackJack,
         .nombre = "Black Jack",
+        .tema = 3120,
         .driver = ManoBlackJack,
         .asientos = {.banca = kBanca,
                      .candados = {{Candado::Ajuste::Estado, kBanca, kBancaFija},

@@ -40,6 +40,7 @@ const FilaJuego& FilaCinquillo() {
     static const FilaJuego kFila{
         .id = kCinquillo,
         .nombre = "Cinquillo",
+        .tema = 3160,
         .driver = ManoCinquillo,
         .asientos = {.minimo = 4,
                      .sin_parejas = true,
@@ -53,6 +54,7 @@ const FilaJuego& FilaCinquillo() {
         .partida = {.nueva = OlvidaBazas},
         .normas = {.reglas = {Regla::Reparto, Regla::Limite}},
         .informes = {.en_contra = true, .estadis = EstadisC},
+        .objetivos = {.en_la_mesa = AgregaTendidas},
         .revision = {.mano = RevisaManoCinquillo, .partida = RevisaPartidaCinquillo},
         .procedimientos = ProcedimientosDeCinquillo,
     };

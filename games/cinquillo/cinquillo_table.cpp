@@ -95,7 +95,36 @@ void PintaColumna(Lienzo& mesa, Integer palo) {
     }
 }
 
+bool Tendida(Integer palo, Integer valor) {
+    return valor >= 1 && valor <= 12 && bazas.CartaJugada(palo, valor) != 0;
+}
+
+// The one after 7 is the Sota.
+Integer Vecina(Integer valor, int hacia) {
+    const int vecina = valor + hacia;
+    return EnteroDe(vecina > 7 && vecina < 10 ? vecina + 2 * hacia : vecina);
+}
+
+Objetivo TendidaComoObjetivo(Integer palo, Integer valor) {
+    const Punto lugar = LugarTendido(palo, valor);
+    const bool tapada = Tendida(palo, Vecina(valor, -1)); // the lower card lies over it
+    const bool en_medio = tapada && Tendida(palo, Vecina(valor, 1));
+    const int alto = tapada ? LugarTendido(palo, Vecina(valor, -1)).y - lugar.y : kAltoCarta;
+    Objetivo carta = CartaEnLaMesa({palo, valor}, 0, {lugar.x, lugar.y, kAnchoCarta, alto});
+    carta.estado = en_medio ? "" : "en un extremo";
+    return carta;
+}
+
 } // namespace
+
+void AgregaTendidas(std::vector<Objetivo>& todos) {
+    for (Integer palo = kOros; palo <= kBastos; ++palo) {
+        for (Integer valor = 12; valor >= 1; --valor) {
+            if (Tendida(palo, valor))
+                todos.push_back(TendidaComoObjetivo(palo, valor));
+        }
+    }
+}
 
 Punto LugarTendido(Integer palo, Integer valor) {
     const Rejilla r = LaRejilla();

@@ -9,12 +9,6 @@ namespace {
 constexpr int kPrimerPalo = 9, kEntrePalos = 11; // columns
 constexpr Integer kUltimoValor = 13;
 
-constexpr std::array<const char*, 4> kNombresDePalo{"Oros", "Copas", "Espadas", "Bastos"};
-
-bool EsPalo(Integer palo) {
-    return palo >= kOros && palo <= kBastos;
-}
-
 void ImprimeFila(PaginaImpresa& pagina, int y, Integer valor, CeldaDeBaraja (*celda)(Carta carta)) {
     pagina.Texto(0, y, estado.NombreValor(valor), Tinta::Negro);
     for (Integer palo = kOros; palo <= kBastos; ++palo) {
@@ -28,14 +22,6 @@ void ImprimeFila(PaginaImpresa& pagina, int y, Integer valor, CeldaDeBaraja (*ce
 
 int Columna(int letras) {
     return letras * AnchoLetra({});
-}
-
-const char* NombreDePalo(Integer palo) {
-    return EsPalo(palo) ? kNombresDePalo[static_cast<std::size_t>(palo - kOros)] : "";
-}
-
-std::string NombreDeCarta(Carta carta) {
-    return estado.NombreValor(carta.valor) + " de " + NombreDePalo(carta.palo);
 }
 
 std::string RangoFrances(Integer valor) {

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "core/game_state.h"
+#include "table/card_names.h"
 #include "table/printed_page.h"
 
 inline constexpr Letra kLetraDeTitulo{.negrita = true};
@@ -12,11 +13,6 @@ inline constexpr int kRenglon = 16; // from one line to the next
 
 // Where a column begins.
 int Columna(int letras);
-
-// "Oros", "Copas", "Espadas", "Bastos"; "" for a palo that is no suit.
-const char* NombreDePalo(Integer palo);
-// "Sota de Espadas". The rank by NombreValor, 0..14.
-std::string NombreDeCarta(Carta carta);
 
 // The rank of a card of the French deck, 1..13, as it is printed on it: "A", "2" to "10", "J", "Q", "K".
 std::string RangoFrances(Integer valor);

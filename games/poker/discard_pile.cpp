@@ -107,6 +107,17 @@ void MezclaDescartes(Integer /*asiento*/, Integer n) {
     PintaDescartes();
 }
 
+void AgregaDescartes(std::vector<Objetivo>& todos) {
+    if (estado.NumDescartes == 0)
+        return;
+    const Punto monton = LugarDeDescartes();
+    todos.push_back({.clase = ClaseObjetivo::Rotulo,
+                     .lugar = kRotuloDescartes,
+                     .donde = {monton.x, monton.y, kAnchoCarta, kAltoCarta},
+                     .toque = {monton.x + kAnchoCarta / 2, monton.y + kAltoCarta / 2},
+                     .nombre = "Montón de descartes"});
+}
+
 void BorraDescartes() {
     estado.NumDescartes = 0;
 }

@@ -2,7 +2,9 @@
 // The discards of Póker: what is thrown away lies covered on the other side of the pot from the pile, and is mixed
 // again when the pile runs out. Seats 1..4; Descartes and NumDescartes are written.
 
-#include "core/tabla.h"
+#include <vector>
+
+#include "table/targets.h"
 
 // The raised cards of the seat, or its whole hand, fly to the discards. How many.
 Integer TiraLasLevantadas(Integer asiento);
@@ -17,3 +19,5 @@ void BorraDescartes();
 
 // The discards as they lie.
 void PintaDescartes();
+// It is told when there is one; nobody looks into it.
+void AgregaDescartes(std::vector<Objetivo>& todos);

@@ -86,6 +86,7 @@ const FilaJuego& FilaPoker() {
     static const FilaJuego kFila{
         .id = kPoker,
         .nombre = "Póker",
+        .tema = 3110,
         .driver = ManoPoker,
         .baraja = {.prepara = PreparaBaraja,
                    .coloca_mazo = ColocaMazo,
@@ -114,6 +115,9 @@ const FilaJuego& FilaPoker() {
                      .resultado = "Ganancias",
                      .cuenta_parejas = true,
                      .estadis = EstadisPoker},
+        .objetivos = {.en_la_mesa = AgregaDescartes,
+                      .elegible = "se puede descartar",
+                      .elegida = "elegida para descartar"},
         .revision = {.paso = RevisaPasoPoker,
                      .mano = RevisaManoPoker,
                      .partida = RevisaPartidaPoker},

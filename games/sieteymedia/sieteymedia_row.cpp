@@ -90,6 +90,7 @@ const FilaJuego& FilaSieteYMedia() {
     static const FilaJuego kFila{
         .id = kSieteYMedia,
         .nombre = "Siete y media",
+        .tema = 3150,
         .driver = ManoSieteYMedia,
         .baraja = {.prepara = PreparaBaraja,
                    .coloca_mazo = ColocaMazo,

@@ -95,6 +95,7 @@ FilaJuego FilaDeBazas(Integer id, const char* nombre, void (*prepara)(), void (*
         .partida = {.nueva = OlvidaBazas},
         .normas = {.reglas = {Regla::Reparto, Regla::Modalidad, Regla::Limite}},
         .informes = {.cuenta_parejas = true, .estadis = EstadisTB},
+        .objetivos = {.en_la_mesa = AgregaBazaYTriunfo, .mazo_contado = true},
         .revision = {.mano = RevisaManoBazas, .partida = RevisaPartidaBazas},
         .procedimientos = ProcedimientosDeBazas,
     };
@@ -102,6 +103,7 @@ FilaJuego FilaDeBazas(Integer id, const char* nombre, void (*prepara)(), void (*
 
 FilaJuego HazFilaTute() {
     FilaJuego fila = FilaDeBazas(kTute, "Tute", PreparaTute, ManoTute);
+    fila.tema = 3130;
     fila.entrada.carta_legal = CartaLegalTute;
     fila.entrada.tras_reordenar = EligeCartaTute;
     fila.normas.encabezado = "Baraja Española";
@@ -110,6 +112,7 @@ FilaJuego HazFilaTute() {
 
 FilaJuego HazFilaBrisca() {
     FilaJuego fila = FilaDeBazas(kBrisca, "Brisca", PreparaBrisca, ManoBrisca);
+    fila.tema = 3140;
     fila.informes.sin_nota = true;
     return fila;
 }

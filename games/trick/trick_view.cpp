@@ -2,11 +2,13 @@
 
 #include "core/game_state.h"
 #include "games/common/trick_state.h"
+#include "table/card_names.h"
 #include "table/drawing.h"
 #include "table/messages.h"
 #include "table/pile.h"
 #include "table/seat_drawing.h"
 #include "table/sounds.h"
+#include "table/table_input.h"
 
 namespace {
 
@@ -25,6 +27,35 @@ bool BazaEnMesa() {
 
 bool TriunfoEnMesa() {
     return estado.PaloTriunfo != kSinCarta && (estado.CartasEnMazo > 0 || triunfo_sin_mazo);
+}
+
+// Under the pile its short side looks out; without one it lies free.
+Rectangulo TriunfoALaVista() {
+    const Punto esquina = LugarTriunfo();
+    return {esquina.x, esquina.y, triunfo_sin_mazo ? kAltoCarta : kAsomaTriunfo, kAnchoCarta};
+}
+
+std::string CambioEnOferta() {
+    return SeCambiaEnElMazo() ? "se puede cambiar por el " + estado.NombreValor(bazas.CartaCambio)
+                              : std::string();
+}
+
+Objetivo ElTriunfo() {
+    return {.clase = ClaseObjetivo::Triunfo,
+            .donde = TriunfoALaVista(),
+            .toque = ToqueDelCambio(),
+            .nombre = "Triunfo: " + NombreDeCarta({estado.PaloTriunfo, estado.ValorTriunfo}),
+            .estado = CambioEnOferta(),
+            .se_pulsa = SeCambiaEnElMazo()};
+}
+
+// Where it lay: everybody knows it for the rest of the hand.
+Objetivo ElPaloDeTriunfo() {
+    return {.clase = ClaseObjetivo::Rotulo,
+            .lugar = kRotuloTriunfo,
+            .donde = TriunfoALaVista(),
+            .toque = LugarTriunfo(),
+            .nombre = std::string("Triunfo: ") + NombreDePalo(estado.PaloTriunfo)};
 }
 
 void PonCartas(Integer asiento, const std::vector<Integer>& lugares, Integer cara, Integer altura) {
@@ -49,6 +80,26 @@ void PintaTriunfo(int x, int y) {
     if (TriunfoEnMesa()) {
         DibujarCarta(Control::Mesa, x - kAsomaTriunfo, y + kBajadaTriunfo, kOrientacionTriunfo,
                      estado.PaloTriunfo, estado.ValorTriunfo, kDescubierta, kEnLinea);
+    }
+}
+
+void AgregaBazaYTriunfo(std::vector<Objetivo>& todos) {
+    if (TriunfoEnMesa())
+        todos.push_back(ElTriunfo());
+    else if (estado.ManoEnCurso && estado.PaloTriunfo != kSinCarta)
+        todos.push_back(ElPaloDeTriunfo());
+    if (!BazaEnMesa())
+        return;
+    Integer asiento = estado.JugadorSalida;
+    for (int turno = 1; turno <= 4; ++turno, SiguienteAsiento(asiento)) {
+        const Carta carta{bazas.CartaEnMesa(asiento, 1), bazas.CartaEnMesa(asiento, 2)};
+        const Punto lugar = LugarCentro(asiento);
+        const bool acostada = AsientoLateral(asiento);
+        if (carta.palo != kSinCarta) {
+            todos.push_back(CartaEnLaMesa(carta, asiento,
+                                          {lugar.x, lugar.y, acostada ? kAltoCarta : kAnchoCarta,
+                                           acostada ? kAnchoCarta : kAltoCarta}));
+        }
     }
 }
 

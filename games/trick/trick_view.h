@@ -7,6 +7,7 @@
 
 #include "core/tabla.h"
 #include "table/layout.h"
+#include "table/targets.h"
 
 // The turned card, as long as it lies under the pile; (x, y) is the pile's corner. Draws only.
 void PintaTriunfo(int x, int y);
@@ -30,6 +31,10 @@ void RecogeMesa();
 
 // The winner's card blinks on the table.
 void ParpadeaBaza();
+
+// The turned card, which a click changes while that is on offer, or the trump's name when the pile is gone; and the cards
+// of the trick in the order in which they were laid.
+void AgregaBazaYTriunfo(std::vector<Objetivo>& todos);
 
 // The cards at these places of the seat's hand blink three times face up, raised out of it, and go back to the
 // seat's face setting; as long as they do the words stand before them. Writes CaraCarta and AlturaCarta of those places.

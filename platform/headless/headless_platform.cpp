@@ -56,6 +56,7 @@ void PlataformaSinPantalla::Limpia() {
     temas_ayuda.clear();
     formas_abiertas.clear();
     minimizadas = 0;
+    marcos.clear();
     reloj_ = 0;
     primer_dia = {};
     Mide(800, 600);
@@ -129,6 +130,21 @@ Puntero PlataformaSinPantalla::PunteroDe(Control control, int indice) const {
 
 void PlataformaSinPantalla::Nombra(Control control, int indice, std::string_view nombre) {
     tablero_.Nombra({control, indice}, nombre);
+}
+
+Rectangulo PlataformaSinPantalla::LugarDe(Control control, int indice) const {
+    return tablero_.LugarDe({control, indice});
+}
+
+std::string PlataformaSinPantalla::NombreDicho(Control control, int indice) const {
+    return tablero_.NombreDe({control, indice});
+}
+
+void PlataformaSinPantalla::Enmarca(Marco cual, const std::optional<Rectangulo>& donde) {
+    if (donde)
+        marcos[cual] = *donde;
+    else
+        marcos.erase(cual);
 }
 
 void PlataformaSinPantalla::Anuncia(std::string_view texto) {

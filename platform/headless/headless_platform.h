@@ -44,6 +44,8 @@ public:
     std::vector<int> temas_ayuda;
     std::vector<Forma> formas_abiertas;
     int minimizadas = 0;
+    // The frames as they are.
+    std::map<Marco, Rectangulo> marcos;
 
     // The day on the wall when the virtual clock stands at 0.
     FechaHora primer_dia;
@@ -85,7 +87,10 @@ public:
     bool EstaVisible(Control control, int indice) const override;
     void PonPuntero(Control control, int indice, Puntero puntero) override;
     Puntero PunteroDe(Control control, int indice) const override;
+    Rectangulo LugarDe(Control control, int indice) const override;
     void Nombra(Control control, int indice, std::string_view nombre) override;
+    std::string NombreDicho(Control control, int indice) const override;
+    void Enmarca(Marco cual, const std::optional<Rectangulo>& donde) override;
     void Anuncia(std::string_view texto) override;
     void Vuela(int, int, const ImagenCarta&) override {}
     void Posa() override {}

@@ -8,6 +8,7 @@
 
 #include "platform/qt/pointers.h"
 #include "platform/qt/scale.h"
+#include "table/button_column.h"
 
 namespace {
 
@@ -141,7 +142,9 @@ void VistaControl::PonPuntero(Puntero puntero) {
 
 void VistaControl::Nombra(const QString& nombre) {
     setAccessibleName(nombre);
-    setToolTip(nombre);
+    setToolTip(control_ == Control::Pic_Boton
+                   ? nombre + QStringLiteral(" (F%1)").arg(TeclaDelBoton(indice_))
+                   : nombre);
 }
 
 void VistaControl::Pulsa(std::optional<Milisegundos> desde) {
@@ -204,14 +207,6 @@ void VistaControl::keyPressEvent(QKeyEvent* evento) {
         if (EsBoton() && !evento->isAutoRepeat())
             return Pulsa();
         break;
-    case Qt::Key_Up:
-    case Qt::Key_Left:
-        focusPreviousChild();
-        return;
-    case Qt::Key_Down:
-    case Qt::Key_Right:
-        focusNextChild();
-        return;
     default:
         break;
     }

@@ -27,6 +27,8 @@ public:
     void Coloca(const Rectangulo& donde);
     // As for the felt: the place and the picture for other images.
     void AdaptaRatio();
+    // In table pixels, as it was placed.
+    const Rectangulo& ElLugar() const { return donde_; }
     void PonPuntero(Puntero puntero);
     Puntero ElPuntero() const { return puntero_; }
     void Nombra(const QString& nombre);

@@ -26,6 +26,9 @@ private:
 };
 
 // The character number of a key as the game counts keys, or nothing: auto-repeat, Tab, arrows, the modifiers
-// alone and function keys are no keys of the game.
+// alone, function keys, and characters with Ctrl, Alt or Meta are none.
 class QKeyEvent;
 std::optional<int> CaracterDe(const QKeyEvent& tecla);
+// What a key that is no character asks of the table: the arrows, alone or two of them with the shift key, and F1 to F9.
+// Only the walk repeats while a key is held.
+std::optional<Evento> MandoDe(const QKeyEvent& tecla);

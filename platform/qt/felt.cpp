@@ -163,6 +163,10 @@ void Tapete::NotaSueltaCallada() {
 }
 
 void Tapete::keyPressEvent(QKeyEvent* evento) {
+    if (const auto mando = MandoDe(*evento)) {
+        setFocus(); // from a button that had it: one mark at a time tells where the keys go
+        return cola_.Pon(*mando);
+    }
     const auto caracter = CaracterDe(*evento);
     if (!caracter)
         return QWidget::keyPressEvent(evento);

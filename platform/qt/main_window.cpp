@@ -6,6 +6,7 @@
 #include <QScreen>
 #include <QScrollBar>
 #include <QSettings>
+#include <QShortcut>
 #include <QStandardPaths>
 #include <QTimer>
 #include <QWindow>
@@ -78,6 +79,8 @@ VentanaPrincipal::VentanaPrincipal(QWidget* mesa) {
     // A menu would hold the game up in the middle of a pause.
     for (QScrollBar* barra : {horizontalScrollBar(), verticalScrollBar()})
         barra->setContextMenuPolicy(Qt::NoContextMenu);
+    connect(new QShortcut(Qt::Key_F11, this), &QShortcut::activated, this,
+            &VentanaPrincipal::AlternaPantallaCompleta);
     // The size that a maximized window goes back to: on the screen with its frame and all.
     const QSize pantalla = QApplication::primaryScreen()->availableSize();
     resize((pantalla * kParteDePantalla).expandedTo(minimumSize()));
@@ -135,6 +138,12 @@ void VentanaPrincipal::Aparece() {
         showMaximized();
     raise();
     activateWindow();
+}
+
+void VentanaPrincipal::AlternaPantallaCompleta() {
+    if (NoCabeConMarco())
+        return;
+    setWindowState(windowState() ^ Qt::WindowFullScreen);
 }
 
 void VentanaPrincipal::GuardaSitio() {

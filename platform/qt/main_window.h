@@ -12,6 +12,8 @@ public:
     // The first time it fills the screen, later it comes up where and as large as it was left; on a screen that
     // has no room for a frame around the table it always takes the whole screen.
     void Aparece();
+    // F11: the whole screen and back.
+    void AlternaPantallaCompleta();
     // Remembers place and size for the next start; the whole screen is nothing to remember.
     void GuardaSitio();
     // The table's factor that the player has chosen, 0 for none; kept with the window's place.

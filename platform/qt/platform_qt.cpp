@@ -44,9 +44,10 @@ QRegion ALaMesa(const QRegion& dispositivo, double ratio) {
 } // namespace
 
 PlataformaQt::PlataformaQt(const QString& carpeta)
-    : carpeta_(carpeta), imagenes_(qApp->devicePixelRatio()), mesa_(nullptr) {
+    : carpeta_(carpeta), imagenes_(qApp->devicePixelRatio()), mesa_(nullptr), marcos_(nullptr) {
     PonFactorDeMesa(1);
     mesa_ = new Tapete(imagenes_, cola_);
+    marcos_ = new CapaMarcos(mesa_);
     reloj_.start();
     origen_ = QDateTime::currentMSecsSinceEpoch();
     despertador_.setSingleShot(true);
@@ -204,6 +205,7 @@ void PlataformaQt::OrdenaCapas() {
     mesa_->ElVuelo().raise();
     alza(Control::Pic_NumerosCristal);
     alza(Control::Pic_Mover);
+    marcos_->raise();
 }
 
 Lienzo& PlataformaQt::LienzoDe(Control control, int indice) {
@@ -257,6 +259,30 @@ void PlataformaQt::Nombra(Control control, int indice, std::string_view nombre) 
     } else {
         Vista(control, indice).Nombra(letras);
     }
+}
+
+Rectangulo PlataformaQt::LugarDe(Control control, int indice) const {
+    const VistaControl* vista = VistaSiHay(control, indice);
+    if (control == Control::Mesa)
+        return {0, 0, AnchoVentana(), AltoVentana()};
+    if (vista == nullptr)
+        return {};
+    Rectangulo lugar = vista->ElLugar();
+    if (const Control padre = PadreDe(control); padre != Control::Mesa) {
+        const Rectangulo base = LugarDe(padre, 0);
+        lugar.x += base.x;
+        lugar.y += base.y;
+    }
+    return lugar;
+}
+
+std::string PlataformaQt::NombreDicho(Control control, int indice) const {
+    const VistaControl* vista = VistaSiHay(control, indice);
+    return vista == nullptr ? "" : vista->accessibleName().toStdString();
+}
+
+void PlataformaQt::Enmarca(Marco cual, const std::optional<Rectangulo>& donde) {
+    marcos_->Pon(cual, donde);
 }
 
 // The table has the focus while a hand is played, and screen readers tell what changes in the description of that.

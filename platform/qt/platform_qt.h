@@ -11,6 +11,7 @@
 #include "platform/platform.h"
 #include "platform/qt/control_view.h"
 #include "platform/qt/felt.h"
+#include "platform/qt/frame_layer.h"
 #include "platform/qt/main_window.h"
 
 class QDialog;
@@ -59,7 +60,10 @@ public:
     bool EstaVisible(Control control, int indice) const override;
     void PonPuntero(Control control, int indice, Puntero puntero) override;
     Puntero PunteroDe(Control control, int indice) const override;
+    Rectangulo LugarDe(Control control, int indice) const override;
     void Nombra(Control control, int indice, std::string_view nombre) override;
+    std::string NombreDicho(Control control, int indice) const override;
+    void Enmarca(Marco cual, const std::optional<Rectangulo>& donde) override;
     void Anuncia(std::string_view texto) override;
     void Vuela(int x, int y, const ImagenCarta& carta) override;
     void Posa() override;
@@ -108,6 +112,7 @@ private:
     Imagenes imagenes_;
     std::unique_ptr<VentanaPrincipal> ventana_;
     Tapete* mesa_;
+    CapaMarcos* marcos_;
     std::map<std::pair<Control, int>, VistaControl*> vistas_;
     std::map<Forma, AbreForma> formas_;
     std::unique_ptr<Careta> careta_;
