@@ -1,13 +1,16 @@
 #include "platform/qt/help_pictures.h"
 
-#include <QPainter>
+#include <QPixmap>
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <utility>
 
 #include "core/game_state.h"
 #include "platform/platform.h"
 #include "platform/qt/card_images.h"
+#include "platform/qt/pointers.h"
+#include "platform/qt/sheet_images.h"
 #include "table/sheet_layout.h"
 
 namespace {
@@ -37,6 +40,12 @@ struct NombreDeValor {
 constexpr std::array kNombres{NombreDeValor{"as", {1, 1}},       NombreDeValor{"sota", {0, 10}},
                               NombreDeValor{"caballo", {0, 11}}, NombreDeValor{"jota", {11, 0}},
                               NombreDeValor{"dama", {12, 0}},    NombreDeValor{"rey", {13, 12}}};
+
+constexpr std::array kFormas{
+    std::pair{"mano_indice", Puntero::ManoIndice}, std::pair{"mano_verde", Puntero::ManoVerde},
+    std::pair{"mano_roja", Puntero::ManoRoja},     std::pair{"ordenar", Puntero::Ordenar},
+    std::pair{"cambiar", Puntero::Cambiar},        std::pair{"mano_cerrada", Puntero::ManoCerrada},
+    std::pair{"voltear", Puntero::Voltear},        std::pair{"abrirse", Puntero::Abrirse}};
 
 struct Naipe {
     int baraja;
@@ -71,7 +80,8 @@ int AnchoPedido(const QStringList& partes, qsizetype lugar, int si_no) {
     return ancho > 0 ? std::min(ancho, kAnchoMaximo) : si_no;
 }
 
-QImage Escalada(const QImage& dibujo, int ancho, double ratio) {
+QImage Escalada(QImage dibujo, int ancho, double ratio) {
+    dibujo.setDevicePixelRatio(1);
     const int pixeles = qRound(ancho * ratio);
     return dibujo.width() == pixeles ? dibujo
                                      : dibujo.scaledToWidth(pixeles, Qt::SmoothTransformation);
@@ -84,19 +94,16 @@ QImage DibujaPieza(const QStringList& partes, double ratio) {
     });
     if (pieza == lamina::kPiezas.end())
         return {};
-    static const QImage kLaminas(QStringLiteral(":/arte/laminas.png"));
-    const auto& [x, y, ancho, alto] = pieza->sitio;
-    const QRect donde(x * lamina::kEscala, y * lamina::kEscala, ancho * lamina::kEscala,
-                      alto * lamina::kEscala);
-    return Escalada(kLaminas.copy(donde), AnchoPedido(partes, 1, ancho), ratio);
+    const int ancho = AnchoPedido(partes, 1, pieza->sitio.ancho);
+    return PiezaDe(pieza->sitio, ratio * ancho / pieza->sitio.ancho);
 }
 
-// From the size above, so that nothing is drawn out.
 QImage DibujaPuntero(const QString& nombre, double ratio) {
-    const char* sufijo = ratio > 2 ? "@3x" : ratio > 1 ? "@2x" : "";
-    QImage dibujo(QStringLiteral(":/arte/%1%2.png").arg(nombre, QLatin1String(sufijo)));
-    dibujo.setDevicePixelRatio(1); // the reader takes it from the name
-    return dibujo.isNull() ? dibujo : Escalada(dibujo, lamina::kLadoPuntero, ratio);
+    const auto forma = std::ranges::find_if(
+        kFormas, [&](const auto& una) { return nombre == QLatin1String(una.first); });
+    return forma == kFormas.end()
+               ? QImage()
+               : Escalada(CursorDe(forma->second).pixmap().toImage(), lamina::kLadoPuntero, ratio);
 }
 
 } // namespace
