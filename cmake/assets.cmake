@@ -54,11 +54,17 @@ add_custom_target(zovin_contact_sheets
   DEPENDS render_assets ${deck_drawings} ${picture_drawings}
   COMMENT "Painting the contact sheets" VERBATIM)
 
-# The hands that the help's page of Póker shows, painted on demand: they lie beside the pages.
-add_custom_target(zovin_help_hands
-  COMMAND ${render} hands "${drawings}" "${drawings}/help"
-  DEPENDS render_assets ${deck_drawings} ${picture_drawings}
-  COMMENT "Painting the hands of the help" VERBATIM)
+# The picture of a table with numbers that the help shows, taken on demand: it lies beside the pages.
+if(TARGET sonda)
+  set(help_table "${drawings}/help/mesa.png")
+  add_custom_target(zovin_help_table
+    COMMAND "${CMAKE_COMMAND}" "-DSONDA=$<TARGET_FILE:sonda>"
+      "-DSCRIPT=${CMAKE_SOURCE_DIR}/tools/render_assets/table.esc" "-DPICTURE=${help_table}"
+      -P "${CMAKE_SOURCE_DIR}/cmake/table_picture.cmake"
+    COMMAND ${render} table "${drawings}" "${drawings}/help"
+    DEPENDS render_assets sonda ${decks}
+    COMMENT "Taking the picture of the table" VERBATIM)
+endif()
 
 # Puts them into a target as Qt resources: what has been painted as ":/arte/zovin-48.png", and the drawings that the
 # program paints itself as ":/dibujos/sheet/ficha1.svg".

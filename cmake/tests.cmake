@@ -39,6 +39,15 @@ if(Python3_FOUND)
   set_tests_properties(structure.drawings PROPERTIES LABELS structure TIMEOUT 60)
 endif()
 
+# The help: words that the dictionary knows, and the hand that it plays as the scenario plays it.
+if(Python3_FOUND)
+  foreach(proof spelling played_hand)
+    add_test(NAME structure.help_${proof}
+      COMMAND Python3::Interpreter "${CMAKE_SOURCE_DIR}/tests/help/${proof}.py" "${CMAKE_SOURCE_DIR}")
+    set_tests_properties(structure.help_${proof} PROPERTIES LABELS structure TIMEOUT 60)
+  endforeach()
+endif()
+
 # Real widgets, real events, no screen: one Qt Test program a file. Those that measure time have the machine to themselves.
 set(gui_that_measure flight_test)
 zovin_sources(gui_sources PATTERNS tests/gui/*_test.cpp)

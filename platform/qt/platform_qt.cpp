@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QDateTime>
 #include <QDialog>
+#include <QFileInfo>
 #include <QScreen>
 #include <QStandardPaths>
 #include <QToolTip>
@@ -356,6 +357,7 @@ void PlataformaQt::PideFactor(int sentido) {
 
 void PlataformaQt::CargaBaraja(const std::string& ruta, int columnas) {
     imagenes_.CargaBaraja(QString::fromStdString(ruta), columnas);
+    carpeta_barajas_ = QFileInfo(QString::fromStdString(ruta)).path();
 }
 
 QWidget* PlataformaQt::Padre() {
@@ -406,8 +408,8 @@ void PlataformaQt::Suena(int id, bool espera) {
 
 void PlataformaQt::Ayuda(int tema) {
     if (!ayuda_)
-        ayuda_ = std::make_unique<VistaAyuda>(CarpetaAyuda(carpeta_));
-    ayuda_->MuestraTema(tema);
+        ayuda_ = std::make_unique<VistaAyuda>(CarpetaAyuda(carpeta_), carpeta_barajas_);
+    ayuda_->MuestraTema(tema, ventana_->isVisible() ? ventana_->frameGeometry() : QRect());
 }
 
 void PlataformaQt::Minimiza() {

@@ -103,6 +103,7 @@ private:
     QWidget* Padre();
 
     QString carpeta_;
+    QString carpeta_barajas_; // of the deck on the table, whose cards the help shows
     ArchivosDisco archivos_;
     QElapsedTimer reloj_;
     Milisegundos
