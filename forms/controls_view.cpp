@@ -119,6 +119,11 @@ void PintaFoco(QPainter& p, const QRect& donde, const QPalette& paleta) {
 
 // ---- selector
 
+void PanelHundido::paintEvent(QPaintEvent*) {
+    QPainter p(this);
+    forma::PintaPanel(p, rect(), lamina::kPanelHundido);
+}
+
 SelectorVista::SelectorVista(const QString& titulo, const QString& que, int ancho, QWidget* padre)
     : QAbstractButton(padre), titulo_(titulo), que_(que) {
     setFixedSize(ancho, forma::kAltoCelda);

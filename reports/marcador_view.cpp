@@ -77,18 +77,6 @@ private:
     const int cual_;
 };
 
-// The slot from which the paper rises.
-class Ranura : public QWidget {
-public:
-    using QWidget::QWidget;
-
-protected:
-    void paintEvent(QPaintEvent*) override {
-        QPainter p(this);
-        forma::PintaPanel(p, rect(), lamina::kPanelHundido);
-    }
-};
-
 class MarcadorVista : public FormaVista {
 public:
     explicit MarcadorVista(QWidget* sobre)
@@ -119,7 +107,7 @@ private:
                               kAltoBanda + 3 * kMargen + kAltoFila + 2 * kHueco);
         const QSize sitio = SitioParaHojas(*this) - alrededor;
         const QSize hoja = HojaVista::TamanoDe(pagina, HojaVista::EscalaPara(pagina, sitio));
-        ranura_ = new Ranura(this);
+        ranura_ = new PanelHundido(this);
         ranura_->setObjectName(QStringLiteral("Pic_Informe"));
         ranura_->setFixedSize(hoja + QSize(2 * kHueco, 2 * kHueco));
         papel_ = new HojaVista(QStringLiteral("Informe de la partida"), ranura_);
@@ -237,7 +225,7 @@ private:
         Mensaje("Informe de la partida", texto, LineasDe(texto), 1);
     }
 
-    QWidget* ranura_ = nullptr;
+    QWidget* ranura_ = nullptr; // the slot from which the paper rises
     HojaVista* papel_ = nullptr;
 };
 
