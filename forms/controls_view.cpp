@@ -95,6 +95,11 @@ void PintaFoco(QPainter& p, const QRect& donde, const QPalette& paleta) {
 
 // ---- selector
 
+void PanelHundido::paintEvent(QPaintEvent*) {
+    estilo::PintorDeVista p(this);
+    forma::PintaPanel(p, estilo::CajaDe(*this), lamina::kPanelHundido);
+}
+
 SelectorVista::SelectorVista(const QString& titulo, const QString& que, int ancho, QWidget* padre)
     : QAbstractButton(padre), titulo_(titulo), que_(que) {
     setFixedSize(ancho, forma::kAltoCelda);

@@ -29,6 +29,16 @@ void PintaFoco(QPainter& pintor, const QRect& donde, const QPalette& paleta);
 
 } // namespace forma
 
+// The green ground of what belongs together: a seat's controls, a report's page.
+class PanelHundido : public QWidget {
+    Q_OBJECT
+public:
+    using QWidget::QWidget;
+
+protected:
+    void paintEvent(QPaintEvent* evento) override;
+};
+
 // A framed selector: its title, its present value, and the arrow that a click or Space advances.
 class SelectorVista : public QAbstractButton {
     Q_OBJECT

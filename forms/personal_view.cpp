@@ -35,18 +35,6 @@ QString DelAsiento(const QString& que, int asiento) {
                               que, QString::fromUtf8(kLugares[static_cast<std::size_t>(asiento)]));
 }
 
-// The green ground of a seat.
-class Panel : public QWidget {
-public:
-    using QWidget::QWidget;
-
-protected:
-    void paintEvent(QPaintEvent*) override {
-        estilo::PintorDeVista p(this);
-        forma::PintaPanel(p, estilo::CajaDe(*this), lamina::kPanelHundido);
-    }
-};
-
 // Which way the turn goes round the table.
 class Rosa : public QWidget {
 public:
@@ -157,7 +145,7 @@ private:
 
     // The panel of a seat: name, state, control, cards, character and level, in so many columns.
     QWidget* HazPanel(int asiento, int columnas) {
-        auto* panel = new Panel(this);
+        auto* panel = new PanelHundido(this);
         QPalette paleta = panel->palette();
         paleta.setColor(QPalette::WindowText, estilo::kTitulo);
         panel->setPalette(paleta);

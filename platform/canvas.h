@@ -37,6 +37,20 @@ struct Fuente {
 
 enum class Alineacion { Izquierda, Centro, Derecha };
 
+// Where something as wide begins that has its left, its middle or its right at x.
+template <class Numero>
+constexpr Numero BordeIzquierdo(Numero x, Numero ancho, Alineacion alineacion) {
+    switch (alineacion) {
+    case Alineacion::Centro:
+        return x - ancho / 2;
+    case Alineacion::Derecha:
+        return x - ancho;
+    case Alineacion::Izquierda:
+        break;
+    }
+    return x;
+}
+
 // One card as it is to be drawn. orientacion 1..4: 1 stands upright as in the deck image, each step turns
 // it a quarter clockwise; 2 and 4 lie on their side (141 by 101). cara: 1 the back shows, 2 the face. tapada: a
 // face on show is half covered by the back; the corner that a hand of cards leaves to see stays clear.

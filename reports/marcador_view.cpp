@@ -78,18 +78,6 @@ private:
     const int cual_;
 };
 
-// The slot from which the paper rises.
-class Ranura : public QWidget {
-public:
-    using QWidget::QWidget;
-
-protected:
-    void paintEvent(QPaintEvent*) override {
-        estilo::PintorDeVista p(this);
-        forma::PintaPanel(p, estilo::CajaDe(*this), lamina::kPanelHundido);
-    }
-};
-
 class MarcadorVista : public FormaVista {
 public:
     explicit MarcadorVista(QWidget* sobre)
@@ -120,7 +108,7 @@ private:
                               kAltoBanda + 3 * kMargen + kAltoFila + 2 * kHueco);
         const QSize sitio = SitioParaHojas(*this) - alrededor;
         const QSize hoja = HojaVista::TamanoDe(pagina, HojaVista::EscalaPara(pagina, sitio));
-        ranura_ = new Ranura(this);
+        ranura_ = new PanelHundido(this);
         ranura_->setObjectName(QStringLiteral("Pic_Informe"));
         ranura_->setFixedSize(hoja + QSize(2 * kHueco, 2 * kHueco));
         papel_ = new HojaVista(QStringLiteral("Informe de la partida"), ranura_);
@@ -238,7 +226,7 @@ private:
         Mensaje("Informe de la partida", texto, LineasDe(texto), 1);
     }
 
-    QWidget* ranura_ = nullptr;
+    QWidget* ranura_ = nullptr; // the slot from which the paper rises
     HojaVista* papel_ = nullptr;
 };
 

@@ -56,7 +56,6 @@ constexpr Recorte BotonLateral(int numero, bool vertical, bool pulsado = false) 
 }
 
 inline constexpr Recorte kDigitoVacio{110, 52, 10, 17}; // a display place with no figure lit
-inline constexpr Recorte kMarcaSerieTerminada{155, 52, 32, 32};
 inline constexpr Recorte kMarcaPasado{188, 52, 32, 32}; // the burst over a bust stake
 inline constexpr Recorte kMarcaTurno{221, 52, 32, 32};
 inline constexpr Recorte kMarcaMano{254, 52, 32, 32};
@@ -167,7 +166,6 @@ inline constexpr std::array kPiezas{
     Pieza{"ficha20", Ficha(5)},
     Pieza{"ficha50", Ficha(6)},
     Pieza{"marca_ganador", kMarcaGanador},
-    Pieza{"marca_serie_terminada", kMarcaSerieTerminada},
     Pieza{"marca_pasado", kMarcaPasado},
     Pieza{"marca_turno", kMarcaTurno},
     Pieza{"marca_mano", kMarcaMano},

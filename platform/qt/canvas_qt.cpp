@@ -12,18 +12,6 @@ QString Qt8(std::string_view texto) {
     return QString::fromUtf8(texto.data(), static_cast<qsizetype>(texto.size()));
 }
 
-double Izquierda(double x, double ancho, Alineacion alineacion) {
-    switch (alineacion) {
-    case Alineacion::Centro:
-        return x - ancho / 2;
-    case Alineacion::Derecha:
-        return x - ancho;
-    case Alineacion::Izquierda:
-        break;
-    }
-    return x;
-}
-
 // The light falls from above: the felt is darker towards the foot of the canvas. A row has one shade along all of its
 // length, so that a part that is cleared is the same to the pixel as when all of it is painted.
 void PintaFieltro(QPainter& p, const QRect& sitio, const Imagenes& imagenes) {
@@ -127,7 +115,8 @@ void LienzoQt::Texto(int x, int y, std::string_view texto, const Fuente& fuente,
     const QFontMetricsF medida(letra);
     const double ancho = medida.horizontalAdvance(letras);
     const double estrecho = fuente.tope > 0 && ancho > fuente.tope ? fuente.tope / ancho : 1;
-    const QPointF base(Izquierda(x, ancho * estrecho, alineacion), y + medida.ascent());
+    const QPointF base(BordeIzquierdo<double>(x, ancho * estrecho, alineacion),
+                       y + medida.ascent());
     const double r = imagenes_.Ratio();
     const QTransform sitio = QTransform::fromScale(estrecho, 1) *
                              QTransform::fromTranslate(base.x(), base.y()) *

@@ -130,20 +130,6 @@ def suit_tile(suit):
     return g
 
 
-def mark_finished():
-    """A closed wax seal with a tick: this serie takes no more cards."""
-    g = canvas(32, 32)
-    rim = []
-    for k in range(40):
-        r = 41 + 2.6 * math.cos(k * math.pi / 2)
-        rim.append((48 + r * math.sin(math.pi * k / 20), 48 - r * math.cos(math.pi * k / 20)))
-    g.path(spline(rim, closed=True), BLUE, INK, 3.6)
-    g.circle(48, 48, 32, BLUE_DARK, BLUE_LIGHT, 2.6)
-    g.path("M 30,49 L 43,63 L 67,33", None, INK, 15)
-    g.path("M 30,49 L 43,63 L 67,33", None, GOLD_LIGHT, 9)
-    return g
-
-
 def mark_bust():
     """A burst with a cross: the serie has gone over."""
     g = canvas(32, 32)
@@ -409,7 +395,7 @@ def pieces():
     yield "digito_vacio", digit(" ")
     for value in CHIPS:
         yield f"ficha{value}", chip(value)
-    yield from (("marca_ganador", mark_winner()), ("marca_serie_terminada", mark_finished()), ("marca_pasado", mark_bust()),
+    yield from (("marca_ganador", mark_winner()), ("marca_pasado", mark_bust()),
                 ("marca_turno", mark_turn()), ("marca_mano", mark_lead()), ("marca_banca", mark_bank()))
     for state, down in (("arriba", False), ("pulsado", True)):
         yield f"cerrar_{state}", close_button(down)
