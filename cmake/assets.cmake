@@ -1,6 +1,7 @@
 # The drawings become pictures: the two deck images in the folder of the programs, where the game
-# reads them, and everything else as resources inside zovin_qt, under ":/arte". The SVG files are
-# what tools/draw_cards wrote; a build needs no Python.
+# reads them, and the icon as resources inside zovin_qt. All else goes in as drawings, which the
+# program paints at the size that it needs; the cards of those two images it paints from theirs too.
+# The SVG files are what tools/draw_cards wrote; a build needs no Python.
 
 if(NOT ZOVIN_DESKTOP)
   return()
@@ -30,25 +31,22 @@ add_custom_command(OUTPUT ${decks}
   DEPENDS render_assets ${deck_drawings}
   COMMENT "Painting the decks" VERBATIM)
 
+set(signatures "${pictures}/french.firma" "${pictures}/spanish.firma")
+add_custom_command(OUTPUT ${signatures}
+  COMMAND ${render} signatures "${CMAKE_BINARY_DIR}/bin" "${pictures}"
+  DEPENDS render_assets ${decks}
+  COMMENT "Signing the decks" VERBATIM)
+
 zovin_drawings(picture_drawings cards/*.svg sheet/*.svg cursors/*.svg icon/*.svg)
 set(icon_sizes 16 22 24 32 48 64 128 256 512)
-set(picture_names laminas comodin1 comodin2 dorso)
-zovin_drawings(pointers cursors/*.svg)
-foreach(pointer IN LISTS pointers)
-  get_filename_component(name "${pointer}" NAME_WE)
-  list(APPEND picture_names ${name} ${name}@2x ${name}@3x)
-endforeach()
-foreach(size IN LISTS icon_sizes)
-  list(APPEND picture_names zovin-${size})
-endforeach()
-set(picture_files ${picture_names})
-list(TRANSFORM picture_files REPLACE "(.+)" "${pictures}/\\1.png")
-add_custom_command(OUTPUT ${picture_files}
+set(icons ${icon_sizes})
+list(TRANSFORM icons REPLACE "(.+)" "${pictures}/zovin-\\1.png")
+add_custom_command(OUTPUT ${icons}
   COMMAND ${render} resources "${drawings}" "${pictures}"
   DEPENDS render_assets ${picture_drawings}
-  COMMENT "Painting the sheet, the pointers and the icon" VERBATIM)
+  COMMENT "Painting the icon" VERBATIM)
 
-add_custom_target(zovin_assets ALL DEPENDS ${decks} ${picture_files})
+add_custom_target(zovin_assets ALL DEPENDS ${decks} ${signatures} ${icons})
 
 # Contact sheets for the documentation, painted on demand.
 add_custom_target(zovin_contact_sheets
@@ -56,15 +54,25 @@ add_custom_target(zovin_contact_sheets
   DEPENDS render_assets ${deck_drawings} ${picture_drawings}
   COMMENT "Painting the contact sheets" VERBATIM)
 
-# The hands that the help's page of Póker shows, painted on demand: they lie beside the pages.
-add_custom_target(zovin_help_hands
-  COMMAND ${render} hands "${drawings}" "${drawings}/help"
-  DEPENDS render_assets ${deck_drawings} ${picture_drawings}
-  COMMENT "Painting the hands of the help" VERBATIM)
+# The picture of a table with numbers that the help shows, taken on demand: it lies beside the pages.
+if(TARGET sonda)
+  set(help_table "${drawings}/help/mesa.png")
+  add_custom_target(zovin_help_table
+    COMMAND "${CMAKE_COMMAND}" "-DSONDA=$<TARGET_FILE:sonda>"
+      "-DSCRIPT=${CMAKE_SOURCE_DIR}/tools/render_assets/table.esc" "-DPICTURE=${help_table}"
+      -P "${CMAKE_SOURCE_DIR}/cmake/table_picture.cmake"
+    COMMAND ${render} table "${drawings}" "${drawings}/help"
+    DEPENDS render_assets sonda ${decks}
+    COMMENT "Taking the picture of the table" VERBATIM)
+endif()
 
-# Puts the pictures into a target as Qt resources: ":/arte/laminas.png", ":/arte/mano_indice@2x.png"...
+# Puts them into a target as Qt resources: what has been painted as ":/arte/zovin-48.png", and the drawings that the
+# program paints itself as ":/dibujos/sheet/ficha1.svg".
+zovin_drawings(own_drawings cards/*.svg cards/spanish/*.svg cards/french/*.svg sheet/*.svg
+  cursors/*.svg)
 function(zovin_add_assets target)
-  qt_add_resources(${target} arte PREFIX /arte BASE "${pictures}" FILES ${picture_files})
+  qt_add_resources(${target} arte PREFIX /arte BASE "${pictures}" FILES ${signatures} ${icons})
+  qt_add_resources(${target} dibujos PREFIX /dibujos BASE "${drawings}" FILES ${own_drawings})
   add_dependencies(${target} zovin_assets)
 endfunction()
 

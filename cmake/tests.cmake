@@ -39,6 +39,15 @@ if(Python3_FOUND)
   set_tests_properties(structure.drawings PROPERTIES LABELS structure TIMEOUT 60)
 endif()
 
+# The help: words that the dictionary knows, and the hand that it plays as the scenario plays it.
+if(Python3_FOUND)
+  foreach(proof spelling played_hand)
+    add_test(NAME structure.help_${proof}
+      COMMAND Python3::Interpreter "${CMAKE_SOURCE_DIR}/tests/help/${proof}.py" "${CMAKE_SOURCE_DIR}")
+    set_tests_properties(structure.help_${proof} PROPERTIES LABELS structure TIMEOUT 60)
+  endforeach()
+endif()
+
 # Real widgets, real events, no screen: one Qt Test program a file. Those that measure time have the machine to themselves.
 set(gui_that_measure flight_test)
 zovin_sources(gui_sources PATTERNS tests/gui/*_test.cpp)
@@ -51,7 +60,7 @@ if(gui_sources AND TARGET zovin_qt)
       AUTOMOC ON RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
     target_link_libraries(gui_${name} PRIVATE zovin_qt Qt6::Test)
     add_test(NAME gui.${name} COMMAND gui_${name} WORKING_DIRECTORY "${test_scratch}")
-    set_tests_properties(gui.${name} PROPERTIES LABELS gui TIMEOUT 240
+    set_tests_properties(gui.${name} PROPERTIES LABELS gui TIMEOUT 240 PROCESSORS 2
       ENVIRONMENT "${test_environment_offscreen}")
     if(name IN_LIST gui_that_measure)
       set_tests_properties(gui.${name} PROPERTIES RUN_SERIAL TRUE)
@@ -101,8 +110,8 @@ if(TARGET zovin)
     ENVIRONMENT "${test_environment_offscreen}")
 endif()
 
-# The real program in a real window, each on a screen of its own, most of the time waiting for the table: two at once do not
-# get in each other's way. Who counts wake-ups has the machine to itself.
+# The real program in a real window, each on a screen of its own, most of the time waiting for the table: four at once do not
+# get in each other's way on two cores. They take longest and so begin first. Who counts wake-ups has the machine to itself.
 if(TARGET zovin)
   # The same program, with the cards known that it will deal.
   add_executable(zovin_prepared platform/qt/app_main.cpp tests/e2e/prepared/chance.cpp)
@@ -117,7 +126,7 @@ if(TARGET zovin)
     cmake_path(GET script STEM name)
     add_test(NAME e2e.${name}
       COMMAND "${CMAKE_SOURCE_DIR}/cmake/under_xvfb.sh" "${script}")
-    set_tests_properties(e2e.${name} PROPERTIES LABELS e2e TIMEOUT 600
+    set_tests_properties(e2e.${name} PROPERTIES LABELS e2e TIMEOUT 600 COST 100
       WORKING_DIRECTORY "${test_scratch}"
       ENVIRONMENT "${test_environment}")
   endforeach()
@@ -133,4 +142,5 @@ if(TARGET zovin)
   endforeach()
   set_tests_properties(e2e.idle_table PROPERTIES RUN_SERIAL TRUE)
   set_property(TEST e2e.small_screen APPEND PROPERTY ENVIRONMENT "ZOVIN_SCREEN=800x600")
+  set_property(TEST e2e.screen_changes APPEND PROPERTY ENVIRONMENT "ZOVIN_SCREEN=1920x1080")
 endif()

@@ -4,13 +4,11 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 #include "core/game_state.h"
 #include "platform/qt/canvas_qt.h"
 #include "platform/qt/pointers.h"
-#include "platform/qt/sheet_images.h"
 #include "platform/qt/suite_paint.h"
 #include "table/messages.h"
 
@@ -46,9 +44,9 @@ bool EsIntro(const QKeyEvent& evento) {
 
 // A mark and its words behind it.
 void PintaMarca(QPainter& p, const QAbstractButton& boton, const lamina::Recorte& pieza) {
-    const QRect todo = boton.rect();
+    const QRect todo = estilo::CajaDe(boton);
     p.setOpacity(boton.isEnabled() ? 1 : 0.45);
-    forma::PintaPieza(p, {0, (todo.height() - kLadoMarca) / 2}, pieza);
+    estilo::PintaPieza(p, QPointF(0, (todo.height() - kLadoMarca) / 2), pieza);
     p.setFont(boton.font());
     p.setPen(boton.palette().color(QPalette::WindowText));
     const QRect letras = todo.adjusted(kLadoMarca + 6, 0, 0, 0);
@@ -66,30 +64,8 @@ QSize TamanoMarca(const QAbstractButton& boton) {
 
 namespace forma {
 
-void PintaPieza(QPainter& pintor, QPoint donde, const lamina::Recorte& pieza) {
-    const double ratio = pintor.device()->devicePixelRatioF();
-    pintor.drawImage(QRect(donde, QSize(pieza.ancho, pieza.alto)), PiezaDe(pieza, ratio));
-}
-
 void PintaPanel(QPainter& pintor, const QRect& donde, const lamina::Recorte& pieza) {
-    const double ratio = pintor.device()->devicePixelRatioF();
-    const QImage& imagen = PiezaDe(pieza, ratio);
-    constexpr int k = lamina::kBordePanel;
-    const std::array destino_x{donde.left(), donde.left() + k, donde.right() + 1 - k,
-                               donde.right() + 1};
-    const std::array destino_y{donde.top(), donde.top() + k, donde.bottom() + 1 - k,
-                               donde.bottom() + 1};
-    const std::array<double, 4> origen{0, k * ratio, imagen.width() - k * ratio,
-                                       static_cast<double>(imagen.width())};
-    for (std::size_t fila = 0; fila < 3; ++fila) {
-        for (std::size_t columna = 0; columna < 3; ++columna) {
-            const QRectF a(QPointF(destino_x[columna], destino_y[fila]),
-                           QPointF(destino_x[columna + 1], destino_y[fila + 1]));
-            const QRectF de(QPointF(origen[columna], origen[fila]),
-                            QPointF(origen[columna + 1], origen[fila + 1]));
-            pintor.drawImage(a, imagen, de);
-        }
-    }
+    estilo::PintaPieza(pintor, donde, pieza, lamina::kBordePanel);
 }
 
 void PintaRecuadro(QPainter& p, const QRect& donde, const QString& titulo, const QPalette& paleta) {
@@ -119,6 +95,11 @@ void PintaFoco(QPainter& p, const QRect& donde, const QPalette& paleta) {
 
 // ---- selector
 
+void PanelHundido::paintEvent(QPaintEvent*) {
+    estilo::PintorDeVista p(this);
+    forma::PintaPanel(p, estilo::CajaDe(*this), lamina::kPanelHundido);
+}
+
 SelectorVista::SelectorVista(const QString& titulo, const QString& que, int ancho, QWidget* padre)
     : QAbstractButton(padre), titulo_(titulo), que_(que) {
     setFixedSize(ancho, forma::kAltoCelda);
@@ -138,7 +119,8 @@ QSize SelectorVista::sizeHint() const {
 
 QRect SelectorVista::Flecha() const {
     const lamina::Recorte& pieza = lamina::kSelectorArriba;
-    return {width() - kMargen - pieza.ancho, kAltoTitulo + 3, pieza.ancho, pieza.alto};
+    return {estilo::CajaDe(*this).width() - kMargen - pieza.ancho, kAltoTitulo + 3, pieza.ancho,
+            pieza.alto};
 }
 
 QRect SelectorVista::Campo() const {
@@ -147,19 +129,19 @@ QRect SelectorVista::Campo() const {
 }
 
 bool SelectorVista::hitButton(const QPoint& donde) const {
-    return Flecha().contains(donde);
+    return Flecha().contains(estilo::PuntoEn(*this, donde).toPoint());
 }
 
 void SelectorVista::paintEvent(QPaintEvent*) {
-    QPainter p(this);
-    forma::PintaRecuadro(p, rect(), titulo_, palette());
+    estilo::PintorDeVista p(this);
+    forma::PintaRecuadro(p, estilo::CajaDe(*this), titulo_, palette());
     const QRect campo = Campo();
     PintaCampo(p, campo, hasFocus());
     p.setFont(font());
     p.setPen(palette().color(QPalette::Text));
     p.drawText(campo.adjusted(6, 0, -2, 0), Qt::AlignVCenter | Qt::AlignLeft, valor_);
-    forma::PintaPieza(p, Flecha().topLeft(),
-                      isDown() ? lamina::kSelectorPulsado : lamina::kSelectorArriba);
+    estilo::PintaPieza(p, Flecha().topLeft(),
+                       isDown() ? lamina::kSelectorPulsado : lamina::kSelectorArriba);
 }
 
 void SelectorVista::keyPressEvent(QKeyEvent* evento) {
@@ -184,7 +166,7 @@ bool CasillaVista::hitButton(const QPoint& donde) const {
 }
 
 void CasillaVista::paintEvent(QPaintEvent*) {
-    QPainter p(this);
+    estilo::PintorDeVista p(this);
     PintaMarca(p, *this, isChecked() ? lamina::kCasillaMarcada : lamina::kCasillaVacia);
 }
 
@@ -202,7 +184,7 @@ bool OpcionVista::hitButton(const QPoint& donde) const {
 }
 
 void OpcionVista::paintEvent(QPaintEvent*) {
-    QPainter p(this);
+    estilo::PintorDeVista p(this);
     PintaMarca(p, *this, isChecked() ? lamina::kOpcionMarcada : lamina::kOpcionVacia);
 }
 
@@ -231,7 +213,8 @@ QSize DeslizadorVista::sizeHint() const {
 
 QRect DeslizadorVista::Carril() const {
     const lamina::Recorte& pieza = lamina::kCarrilDeslizador;
-    return {kMargen, kAltoTitulo + 10, width() - 2 * kMargen - kAnchoValor, pieza.alto};
+    return {kMargen, kAltoTitulo + 10, estilo::CajaDe(*this).width() - 2 * kMargen - kAnchoValor,
+            pieza.alto};
 }
 
 QRect DeslizadorVista::Pomo() const {
@@ -243,29 +226,29 @@ QRect DeslizadorVista::Pomo() const {
 }
 
 void DeslizadorVista::paintEvent(QPaintEvent*) {
-    QPainter p(this);
-    forma::PintaRecuadro(p, rect(), titulo_, palette());
-    const double ratio = devicePixelRatioF();
-    p.setRenderHint(QPainter::SmoothPixmapTransform);
-    p.drawImage(Carril(), PiezaDe(lamina::kCarrilDeslizador, ratio));
-    forma::PintaPieza(p, Pomo().topLeft(), lamina::kPomoDeslizador);
+    estilo::PintorDeVista p(this);
+    forma::PintaRecuadro(p, estilo::CajaDe(*this), titulo_, palette());
+    estilo::PintaPieza(p, Carril(), lamina::kCarrilDeslizador, Carril().height() / 2);
+    estilo::PintaPieza(p, Pomo().topLeft(), lamina::kPomoDeslizador);
     p.setFont(font());
     p.setPen(palette().color(QPalette::WindowText));
-    p.drawText(QRect(width() - kMargen - kAnchoValor, kAltoTitulo, kAnchoValor, 28),
-               Qt::AlignVCenter | Qt::AlignRight, texto_);
+    p.drawText(
+        QRect(estilo::CajaDe(*this).width() - kMargen - kAnchoValor, kAltoTitulo, kAnchoValor, 28),
+        Qt::AlignVCenter | Qt::AlignRight, texto_);
     if (hasFocus())
         forma::PintaFoco(p, Carril().adjusted(-3, -9, 3, 9), palette());
 }
 
 void DeslizadorVista::mousePressEvent(QMouseEvent* evento) {
-    arrastra_ = evento->button() == Qt::LeftButton && Pomo().contains(evento->position().toPoint());
-    raton_al_pulsar_ = static_cast<int>(evento->position().x());
+    const QPoint donde = estilo::PuntoEn(*this, evento->position()).toPoint();
+    arrastra_ = evento->button() == Qt::LeftButton && Pomo().contains(donde);
+    raton_al_pulsar_ = donde.x();
     valor_al_pulsar_ = value();
     evento->accept();
 }
 
 void DeslizadorVista::mouseMoveEvent(QMouseEvent* evento) {
-    const QPoint donde = evento->position().toPoint();
+    const QPoint donde = estilo::PuntoEn(*this, evento->position()).toPoint();
     if (arrastra_) {
         const int camino = Carril().width() - Pomo().width();
         const double cambio = (donde.x() - raton_al_pulsar_) * 100.0 / camino;
@@ -293,8 +276,8 @@ TextoVista::TextoVista(QWidget* padre) : QLineEdit(padre) {
 
 // What the widget adds on the painted field are the letters, the selection and the cursor.
 void TextoVista::paintEvent(QPaintEvent* evento) {
-    QPainter p(this);
-    PintaCampo(p, rect(), hasFocus(), isReadOnly());
+    estilo::PintorDeVista p(this);
+    PintaCampo(p, estilo::CajaDe(*this), hasFocus(), isReadOnly());
     p.end();
     QLineEdit::paintEvent(evento);
 }
@@ -309,10 +292,10 @@ FlechaSpin::FlechaSpin(bool sube, std::function<bool()> paso, QWidget* padre)
 }
 
 void FlechaSpin::paintEvent(QPaintEvent*) {
-    QPainter p(this);
+    estilo::PintorDeVista p(this);
     const lamina::Recorte& arriba = sube_ ? lamina::kSpinSubeArriba : lamina::kSpinBajaArriba;
     const lamina::Recorte& pulsada = sube_ ? lamina::kSpinSubePulsado : lamina::kSpinBajaPulsado;
-    forma::PintaPieza(p, {0, 0}, hundida_ ? pulsada : arriba);
+    estilo::PintaPieza(p, QPointF(0, 0), hundida_ ? pulsada : arriba);
 }
 
 void FlechaSpin::mousePressEvent(QMouseEvent* evento) {
@@ -381,11 +364,11 @@ SpinVista::SpinVista(int indice, const QString& rotulo, Tratos tratos, QWidget* 
 }
 
 void SpinVista::paintEvent(QPaintEvent*) {
-    QPainter p(this);
+    estilo::PintorDeVista p(this);
     p.setFont(LetraDe(kLetraTitulo));
     p.setPen(palette().color(QPalette::WindowText));
-    p.drawText(QRect(kMargen, 0, width() - kMargen, kAltoTitulo), Qt::AlignVCenter | Qt::AlignLeft,
-               rotulo_);
+    p.drawText(QRect(kMargen, 0, estilo::CajaDe(*this).width() - kMargen, kAltoTitulo),
+               Qt::AlignVCenter | Qt::AlignLeft, rotulo_);
 }
 
 bool SpinVista::eventFilter(QObject* quien, QEvent* evento) {

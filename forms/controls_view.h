@@ -19,8 +19,6 @@ namespace forma {
 inline constexpr int kAltoCelda = 46;                         // a framed control
 inline constexpr int kAnchoEstrecho = 145, kAnchoAncho = 175; // of a seat, of the table
 
-// A piece of the sheet at a place in the widget's own pixels.
-void PintaPieza(QPainter& pintor, QPoint donde, const lamina::Recorte& pieza);
 // A panel piece drawn out over donde, its rim kept.
 void PintaPanel(QPainter& pintor, const QRect& donde, const lamina::Recorte& pieza);
 // A thin frame with a title in its upper line.
@@ -30,6 +28,16 @@ void PintaRecuadro(QPainter& pintor, const QRect& donde, const QString& titulo,
 void PintaFoco(QPainter& pintor, const QRect& donde, const QPalette& paleta);
 
 } // namespace forma
+
+// The green ground of what belongs together: a seat's controls, a report's page.
+class PanelHundido : public QWidget {
+    Q_OBJECT
+public:
+    using QWidget::QWidget;
+
+protected:
+    void paintEvent(QPaintEvent* evento) override;
+};
 
 // A framed selector: its title, its present value, and the arrow that a click or Space advances.
 class SelectorVista : public QAbstractButton {

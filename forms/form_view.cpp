@@ -39,6 +39,7 @@ void FormaVista::Muestra(QWidget* sobre) {
     mandos_.abre();
     auto el_de_debajo = PonRefresco([this] { Refresca(); });
     Refresca();
+    CreceConLaMesa();
     CentraEn(sobre != nullptr ? sobre->frameGeometry() : screen()->availableGeometry());
     exec();
     PonRefresco(std::move(el_de_debajo));
@@ -85,7 +86,7 @@ QWidget* FormaVista::HazBotonAyuda() {
 }
 
 QWidget* FormaVista::HazBotonSalir() {
-    auto* boton = new BotonSuite(QStringLiteral("Salir"), this);
+    auto* boton = new BotonSuite(QStringLiteral("Cerrar"), this);
     boton->setObjectName(QStringLiteral("Pic_BotSalir"));
     connect(boton, &QPushButton::clicked, this, &FormaVista::reject);
     return boton;

@@ -2,7 +2,6 @@
 
 #include <QGridLayout>
 #include <QLabel>
-#include <QPainter>
 #include <QVBoxLayout>
 #include <map>
 
@@ -40,8 +39,8 @@ public:
 
 protected:
     void paintEvent(QPaintEvent*) override {
-        QPainter p(this);
-        forma::PintaRecuadro(p, rect(), QStringLiteral("Juego Activado"), palette());
+        estilo::PintorDeVista p(this);
+        forma::PintaRecuadro(p, estilo::CajaDe(*this), QStringLiteral("Juego Activado"), palette());
     }
 };
 

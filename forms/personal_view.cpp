@@ -1,7 +1,6 @@
 #include "forms/personal_view.h"
 
 #include <QGridLayout>
-#include <QPainter>
 #include <QVBoxLayout>
 #include <array>
 #include <map>
@@ -36,18 +35,6 @@ QString DelAsiento(const QString& que, int asiento) {
                               que, QString::fromUtf8(kLugares[static_cast<std::size_t>(asiento)]));
 }
 
-// The green ground of a seat.
-class Panel : public QWidget {
-public:
-    using QWidget::QWidget;
-
-protected:
-    void paintEvent(QPaintEvent*) override {
-        QPainter p(this);
-        forma::PintaPanel(p, rect(), lamina::kPanelHundido);
-    }
-};
-
 // Which way the turn goes round the table.
 class Rosa : public QWidget {
 public:
@@ -58,10 +45,10 @@ public:
 
 protected:
     void paintEvent(QPaintEvent*) override {
-        QPainter p(this);
-        forma::PintaPieza(p, {0, 0},
-                          estado.SentidoJuego == kInverso ? lamina::kSentidoInverso
-                                                          : lamina::kSentidoDirecto);
+        estilo::PintorDeVista p(this);
+        estilo::PintaPieza(p, QPointF(0, 0),
+                           estado.SentidoJuego == kInverso ? lamina::kSentidoInverso
+                                                           : lamina::kSentidoDirecto);
     }
 };
 
@@ -78,10 +65,11 @@ public:
 
 protected:
     void paintEvent(QPaintEvent*) override {
-        QPainter p(this);
+        estilo::PintorDeVista p(this);
         p.setFont(LetraDe({.alto = 11, .negrita = true}));
         p.setPen(palette().color(QPalette::WindowText));
-        p.drawText(QRect(8, 0, width() - 8, 15), Qt::AlignVCenter, QStringLiteral("Nombre..:"));
+        p.drawText(QRect(8, 0, estilo::CajaDe(*this).width() - 8, 15), Qt::AlignVCenter,
+                   QStringLiteral("Nombre..:"));
     }
 };
 
@@ -157,7 +145,7 @@ private:
 
     // The panel of a seat: name, state, control, cards, character and level, in so many columns.
     QWidget* HazPanel(int asiento, int columnas) {
-        auto* panel = new Panel(this);
+        auto* panel = new PanelHundido(this);
         QPalette paleta = panel->palette();
         paleta.setColor(QPalette::WindowText, estilo::kTitulo);
         panel->setPalette(paleta);

@@ -37,6 +37,20 @@ struct Fuente {
 
 enum class Alineacion { Izquierda, Centro, Derecha };
 
+// Where something as wide begins that has its left, its middle or its right at x.
+template <class Numero>
+constexpr Numero BordeIzquierdo(Numero x, Numero ancho, Alineacion alineacion) {
+    switch (alineacion) {
+    case Alineacion::Centro:
+        return x - ancho / 2;
+    case Alineacion::Derecha:
+        return x - ancho;
+    case Alineacion::Izquierda:
+        break;
+    }
+    return x;
+}
+
 // One card as it is to be drawn. orientacion 1..4: 1 stands upright as in the deck image, each step turns
 // it a quarter clockwise; 2 and 4 lie on their side (141 by 101). cara: 1 the back shows, 2 the face. tapada: a
 // face on show is half covered by the back; the corner that a hand of cards leaves to see stays clear.
@@ -65,4 +79,6 @@ public:
     virtual void Carta(int x, int y, const ImagenCarta& carta) = 0;
     virtual void MiniCarta(int x, int y, int ancho, int alto, const ImagenCarta& carta) = 0;
     virtual void Lamina(int x, int y, const lamina::Recorte& recorte) = 0;
+    // What is drawn there grows faint: it shows through a thin layer of felt.
+    virtual void Velo(const Rectangulo& donde) = 0;
 };

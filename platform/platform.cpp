@@ -28,6 +28,8 @@ constexpr std::array kNombres{
     "Pic_APApoJugAct",
     "Pic_APApoJugAcu",
     "Pic_NumerosCristal",
+    "Pic_Tanteo",
+    "Pic_Aviso",
 };
 static_assert(kNombres.size() == static_cast<std::size_t>(Control::Ultimo) + 1);
 

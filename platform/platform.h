@@ -42,7 +42,9 @@ enum class Control {
     Pic_APApoJugAct, // the two displays of the board
     Pic_APApoJugAcu,
     Pic_NumerosCristal, // a chip on its way
-    Ultimo = Pic_NumerosCristal,
+    Pic_Tanteo,         // the plate of trump and match
+    Pic_Aviso,          // one line that says what the table is doing
+    Ultimo = Pic_Aviso,
 };
 
 // The main buttons: the indices of Pic_Boton.
@@ -98,6 +100,8 @@ struct Evento {
     int x = 0, y = 0;
     int boton = 1; // 1 left, 2 right
     int tecla = 0;
+    // A click or a key: when the press began, by Reloj(); nothing: it begins and ends now.
+    std::optional<Milisegundos> desde = std::nullopt;
     Mando mando = Mando::Izquierda;
 };
 

@@ -47,18 +47,19 @@ public:
 protected:
     void nextCheckState() override {} // the logic says which one is on show
     void paintEvent(QPaintEvent*) override {
-        QPainter p(this);
+        estilo::PintorDeVista p(this);
         p.setRenderHint(QPainter::Antialiasing);
+        const QRect todo = estilo::CajaDe(*this);
         QPainterPath forma;
-        forma.addRoundedRect(QRectF(rect()).adjusted(0.5, isChecked() ? 0.5 : 3.5, -0.5, 12), 7, 7);
+        forma.addRoundedRect(QRectF(todo).adjusted(0.5, isChecked() ? 0.5 : 3.5, -0.5, 12), 7, 7);
         p.setPen(kCartonOscuro);
         p.setBrush(isChecked() ? QColor(255, 255, 252) : kCartonClaro);
         p.drawPath(forma);
         p.setFont(LetraDe({.alto = 12, .negrita = isChecked()}));
         p.setPen(estilo::kTinta);
-        p.drawText(rect().adjusted(2, 3, -2, 0), Qt::AlignCenter, text());
+        p.drawText(todo.adjusted(2, 3, -2, 0), Qt::AlignCenter, text());
         if (hasFocus())
-            forma::PintaFoco(p, rect().adjusted(3, 4, -3, -1), palette());
+            forma::PintaFoco(p, todo.adjusted(3, 4, -3, -1), palette());
     }
 };
 
@@ -95,9 +96,10 @@ protected:
     }
 
     void paintEvent(QPaintEvent*) override {
-        QPainter p(this);
+        estilo::PintorDeVista p(this);
         p.setRenderHint(QPainter::Antialiasing);
-        const QRectF carton = QRectF(rect()).adjusted(0.5, kAltoPestana - 5.5, -0.5, -0.5);
+        const QRect todo = estilo::CajaDe(*this);
+        const QRectF carton = QRectF(todo).adjusted(0.5, kAltoPestana - 5.5, -0.5, -0.5);
         QLinearGradient tono(carton.topLeft(), carton.bottomLeft());
         tono.setColorAt(0, kCartonClaro);
         tono.setColorAt(1, kCarton);
@@ -108,7 +110,7 @@ protected:
         PintaFlecha(p, 1);
         p.setFont(LetraDe({.alto = 13, .negrita = true}));
         p.setPen(estilo::kTinta);
-        p.drawText(rect().adjusted(0, height() - kPieCarpeta, 0, -4), Qt::AlignCenter, marca_);
+        p.drawText(todo.adjusted(0, todo.height() - kPieCarpeta, 0, -4), Qt::AlignCenter, marca_);
     }
 
 private:
@@ -118,8 +120,9 @@ private:
             update();
     }
     void PintaFlecha(QPainter& p, int lado) {
+        const QRect todo = estilo::CajaDe(*this);
         p.save();
-        p.translate(lado < 0 ? kLomo / 2.0 : width() - kLomo / 2.0, height() / 2.0);
+        p.translate(lado < 0 ? kLomo / 2.0 : todo.width() - kLomo / 2.0, todo.height() / 2.0);
         p.scale(lado, 1);
         p.setPen(Qt::NoPen);
         p.setBrush(lado == lado_ ? estilo::kMarco : kCartonOscuro);

@@ -6,7 +6,6 @@
 #include <QFileDialog>
 #include <QGuiApplication>
 #include <QHBoxLayout>
-#include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QStandardPaths>
@@ -49,44 +48,34 @@ public:
 
 protected:
     void enterEvent(QEnterEvent* evento) override {
-        const QPoint donde = mapToParent(evento->position().toPoint());
+        const QPoint donde = mapToParent(evento->position().toPoint()) / estilo::AumentoDe(*this);
         CualBoton(donde.x(), donde.y());
         update();
     }
     void leaveEvent(QEvent*) override { update(); }
 
     void paintEvent(QPaintEvent*) override {
-        QPainter p(this);
-        estilo::PintaPieza(p, rect(), isDown() ? lamina::kMensajePulsado : lamina::kMensajeArriba,
+        estilo::PintorDeVista p(this);
+        estilo::PintaPieza(p, estilo::CajaDe(*this),
+                           isDown() ? lamina::kMensajePulsado : lamina::kMensajeArriba,
                            kBordePieza);
         p.setRenderHint(QPainter::Antialiasing);
         p.setPen(Qt::NoPen);
         p.setBrush(underMouse() ? estilo::kMarco : estilo::kBanda);
         const bool atras = cual_ == kAlPrincipio || cual_ == kRetrocede;
+        p.save();
         p.translate(kLado / 2.0, kLado / 2.0);
         p.scale(atras ? -1 : 1, 1);
         p.drawPolygon(QPolygonF({{-3, -6}, {4, 0}, {-3, 6}}));
         if (cual_ == kAlPrincipio || cual_ == kAlFinal)
             p.drawRect(QRectF(5, -6, 2, 12));
-        p.resetTransform();
+        p.restore();
         if (hasFocus())
-            forma::PintaFoco(p, rect(), palette());
+            forma::PintaFoco(p, estilo::CajaDe(*this), palette());
     }
 
 private:
     const int cual_;
-};
-
-// The slot from which the paper rises.
-class Ranura : public QWidget {
-public:
-    using QWidget::QWidget;
-
-protected:
-    void paintEvent(QPaintEvent*) override {
-        QPainter p(this);
-        forma::PintaPanel(p, rect(), lamina::kPanelHundido);
-    }
 };
 
 class MarcadorVista : public FormaVista {
@@ -119,7 +108,7 @@ private:
                               kAltoBanda + 3 * kMargen + kAltoFila + 2 * kHueco);
         const QSize sitio = SitioParaHojas(*this) - alrededor;
         const QSize hoja = HojaVista::TamanoDe(pagina, HojaVista::EscalaPara(pagina, sitio));
-        ranura_ = new Ranura(this);
+        ranura_ = new PanelHundido(this);
         ranura_->setObjectName(QStringLiteral("Pic_Informe"));
         ranura_->setFixedSize(hoja + QSize(2 * kHueco, 2 * kHueco));
         papel_ = new HojaVista(QStringLiteral("Informe de la partida"), ranura_);
@@ -192,10 +181,10 @@ private:
         subida->setDuration(dura);
         subida->setEasingCurve(QEasingCurve::OutCubic);
         subida->setStartValue(ranura_->height());
-        subida->setEndValue(kHueco);
-        papel_->move(kHueco, ranura_->height());
+        subida->setEndValue(papel_->y());
+        papel_->move(papel_->x(), ranura_->height());
         connect(subida, &QVariantAnimation::valueChanged, papel_,
-                [this](const QVariant& y) { papel_->move(kHueco, y.toInt()); });
+                [this](const QVariant& y) { papel_->move(papel_->x(), y.toInt()); });
         subida->start(QAbstractAnimation::DeleteWhenStopped);
     }
 
@@ -237,7 +226,7 @@ private:
         Mensaje("Informe de la partida", texto, LineasDe(texto), 1);
     }
 
-    QWidget* ranura_ = nullptr;
+    QWidget* ranura_ = nullptr; // the slot from which the paper rises
     HojaVista* papel_ = nullptr;
 };
 

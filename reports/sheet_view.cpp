@@ -10,6 +10,8 @@
 
 #include "core/game_state.h"
 #include "platform/qt/canvas_qt.h"
+#include "platform/qt/scale.h"
+#include "platform/qt/suite_paint.h"
 
 namespace {
 
@@ -88,7 +90,9 @@ bool GuardaPdf(const QString& fichero, const QString& titulo,
 
 QSize SitioParaHojas(const QWidget& forma) {
     const QSize mesa(estado.AnchoPantalla, estado.AltoPantalla);
-    return mesa.boundedTo(forma.screen()->availableGeometry().size());
+    // What the form will be once it has grown with the table.
+    const QSizeF pantalla = QSizeF(forma.screen()->availableGeometry().size()) / FactorDeMesa();
+    return mesa.boundedTo(pantalla.toSize());
 }
 
 HojaVista::HojaVista(const QString& que, QWidget* padre) : QWidget(padre) {
@@ -114,9 +118,10 @@ double HojaVista::EscalaPara(const PaginaImpresa& pagina, const QSize& sitio) {
 }
 
 void HojaVista::paintEvent(QPaintEvent*) {
-    QPainter p(this);
-    PintaPapel(p, rect());
-    const double escala = double{width() - 2.0 * kBorde - kSombra} / pagina_.Ancho();
+    estilo::PintorDeVista p(this);
+    const QRect todo = estilo::CajaDe(*this);
+    PintaPapel(p, todo);
+    const double escala = double{todo.width() - 2.0 * kBorde - kSombra} / pagina_.Ancho();
     p.translate(kBorde, kBorde);
     p.scale(escala, escala);
     PintaPaginaEn(p, pagina_);

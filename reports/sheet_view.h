@@ -21,7 +21,7 @@ bool EscribeHojas(QPagedPaintDevice& papel, const std::vector<PaginaImpresa>& pa
 bool GuardaPdf(const QString& fichero, const QString& titulo,
                const std::vector<PaginaImpresa>& paginas);
 
-// The room that a form with a sheet has: no more than the table's window, nor than the screen.
+// The room that a form with a sheet has, in pixels of its layout: no more than the table's window, nor than the screen.
 QSize SitioParaHojas(const QWidget& forma);
 
 // A sheet of paper with a page on it. A screen reader reads the page as text.

@@ -7,13 +7,16 @@
 #include "table/button_column.h"
 #include "table/controls.h"
 #include "table/deck.h"
+#include "table/frames.h"
 #include "table/game_row.h"
 #include "table/hand_order.h"
+#include "table/keyboard_walk.h"
 #include "table/manual_spread.h"
 #include "table/messages.h"
 #include "table/options_menu.h"
 #include "table/sounds.h"
 #include "table/table_input.h"
+#include "table/table_view.h"
 #include "table/whole_table.h"
 
 namespace {
@@ -91,7 +94,8 @@ void ClicEnControl(const Evento& evento) {
         PulsaBoton(evento.indice);
         break;
     case Control::Pic_BotContinuar:
-        PulsaContinuar();
+        if (ValeElClicVerde(evento.desde))
+            PulsaContinuar();
         break;
     case Control::Pic_MasAyuda:
         plataforma().Ayuda(estado.TemaActual);
@@ -134,6 +138,7 @@ void RatonEnMesa(const Evento& evento) {
 
 void RatonEnControl(const Evento& evento) {
     if (evento.control == Control::Pic_SelOpciones) {
+        ApuntaEnOpciones(evento.x, evento.y);
         if (evento.tipo == TipoEvento::RatonMueve)
             Opciones_MouseMove(evento.y);
         else if (evento.tipo == TipoEvento::RatonSuelta)
@@ -144,13 +149,13 @@ void RatonEnControl(const Evento& evento) {
     }
 }
 
-void Tecla(int tecla) {
-    if (!TeclaActiva(tecla))
+void Tecla(const Evento& evento) {
+    if (!TeclaActiva(evento.tecla))
         return;
-    if (estado.PartidaEnCurso)
-        PulsaContinuar();
-    else
+    if (!estado.PartidaEnCurso)
         PulsaBoton(kBotonNueva);
+    else if (ValeElClicVerde(evento.desde))
+        PulsaContinuar();
 }
 
 void PulsaFuncion(int tecla) {
@@ -161,9 +166,30 @@ void PulsaFuncion(int tecla) {
         PulsaBoton(BotonDesdeArriba(tecla - kAyuda));
 }
 
+void Despacha(const Evento& evento);
+
+// The pointer on the screen is still where it was, unless a card hangs on it now.
+void SigueElPuntero(const Punto& donde) {
+    if (estado.ArrastraReparto)
+        return;
+    vista.puntero_x = donde.x;
+    vista.puntero_y = donde.y;
+    RefrescaPuntero();
+}
+
 void Manda(const Evento& evento) {
     if (evento.mando == Mando::Funcion)
-        PulsaFuncion(evento.indice);
+        return PulsaFuncion(evento.indice);
+    const Punto puntero{vista.puntero_x, vista.puntero_y};
+    for (const Evento& uno : EventosDeMando(evento.mando))
+        Despacha(uno);
+    SigueElPuntero(puntero);
+}
+
+bool MueveElRaton(const Evento& evento) {
+    const bool quieto = evento.control == Control::Mesa && evento.x == vista.puntero_x &&
+                        evento.y == vista.puntero_y;
+    return evento.tipo == TipoEvento::RatonMueve && !quieto;
 }
 
 void CierraVentana() {
@@ -175,7 +201,9 @@ void CierraVentana() {
 
 } // namespace
 
-void DespachaEvento(const Evento& evento) {
+namespace {
+
+void Despacha(const Evento& evento) {
     switch (evento.tipo) {
     case TipoEvento::RatonMueve:
     case TipoEvento::RatonPulsa:
@@ -190,7 +218,7 @@ void DespachaEvento(const Evento& evento) {
         ClicEnControl(evento);
         break;
     case TipoEvento::Tecla:
-        Tecla(evento.tecla);
+        Tecla(evento);
         break;
     case TipoEvento::Mando:
         Manda(evento);
@@ -207,12 +235,21 @@ void DespachaEvento(const Evento& evento) {
     }
 }
 
+} // namespace
+
+void DespachaEvento(const Evento& evento) {
+    if (MueveElRaton(evento))
+        QuitaMarco();
+    Despacha(evento);
+    RevisaMarcos();
+}
+
 void PulsaBoton(int indice) {
     if (indice < kBotonNueva || indice > kBotonEstadis || !BotonHabilitado(indice))
         return;
     SueltaLoColgado();
     Oculta(Control::Pic_SelOpciones);
-    estado.ModoOrdenar = false;
+    PonModoOrdenar(false);
     CambiarCursor(Control::Mesa, 0, Puntero::RelojArena);
     if (indice != kBotonTutor)
         Sonido(0, sonido::kBoton);

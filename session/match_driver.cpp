@@ -16,6 +16,7 @@
 #include "table/button_column.h"
 #include "table/controls.h"
 #include "table/deck.h"
+#include "table/frames.h"
 #include "table/game_row.h"
 #include "table/layout.h"
 #include "table/messages.h"
@@ -149,10 +150,12 @@ void IniciarSesion() {
         AnunciaContinuacion();
     if (estado.PrimeraVez)
         OfreceDescripcion();
-    if (estado.PartidaEnCurso)
+    if (estado.PartidaEnCurso) {
         ReanudaPartida();
-    else
+    } else {
+        PintaMesaVacia();
         HabilitaBoton(kBotonNormas, true);
+    }
 }
 
 void NuevaPartida() {
@@ -196,6 +199,7 @@ void BucleSesion() {
         AtiendeCierrePendiente();
         if (sesion.peticion != Peticion::Ninguna)
             continue;
+        RevisaMarcos();
         if (!plataforma().EsperaEvento())
             return;
         PaseDeEventos(Pase::DeEspera);

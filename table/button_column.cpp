@@ -11,11 +11,13 @@
 #include "table/game_row.h"
 #include "table/layout.h"
 #include "table/sheet_layout.h"
+#include "table/table_view.h"
 #include "table/trace.h"
 
 namespace {
 
 constexpr int kLadoBoton = 50;
+constexpr int kColumnaDeBotones = 20;
 constexpr int kAnchoContinuar = 86, kAltoContinuar = 36;
 constexpr int kMargenAbajo = 16;
 // A long name with its serie is drawn narrower rather than over the button's rim.
@@ -45,40 +47,78 @@ bool TieneLoSuyo(int boton) {
     return !forma || plataforma().TieneForma(*forma);
 }
 
+// All of them are drawn in one line, also the one whose place is a little to the right: it is drawn on the column, and
+// its control, which takes the clicks, lies over the drawing with nothing on it.
 void PintaBoton(int boton) {
     const auto aspecto =
         BotonHabilitado(boton) ? lamina::Aspecto::Arriba : lamina::Aspecto::Apagado;
-    Lienzo& lienzo = plataforma().LienzoDe(Control::Pic_Boton, boton);
-    lienzo.Fieltro({0, 0, kLadoBoton, kLadoBoton});
-    lienzo.Lamina(0, 0, lamina::BotonPrincipal(boton, aspecto));
+    const BotonPrincipal& este = kBotones[static_cast<std::size_t>(boton)];
+    const bool en_linea = este.x == kColumnaDeBotones;
+    Lienzo& lienzo = en_linea ? plataforma().LienzoDe(Control::Pic_Boton, boton)
+                              : plataforma().LienzoDe(Control::Pic_Botonera, 0);
+    const int x = en_linea ? 0 : kColumnaDeBotones;
+    const int y = en_linea ? 0 : este.y;
+    lienzo.Fieltro({x, y, kLadoBoton, kLadoBoton});
+    lienzo.Lamina(x, y, lamina::BotonPrincipal(boton, aspecto));
+}
+
+constexpr const char* kSolo =
+    "automático"; // the second line when the program would play for a person
+
+struct RotuloVerde {
+    std::string primera = "Continuar";
+    std::string segunda;
+    bool JugariaSolo() const { return segunda == kSolo; }
+    std::string Entero() const { return segunda.empty() ? primera : primera + " " + segunda; }
+};
+
+RotuloVerde ElRotuloVerde() {
+    RotuloVerde rotulo;
+    if (!estado.ManoEnCurso)
+        return rotulo;
+    rotulo.primera = estado.NombreJugador(estado.JugadorActual);
+    rotulo.segunda = kSolo;
+    const FilaJuego& juego = JuegoEnMesa();
+    if (juego.pintura.rotulo_continuar != nullptr)
+        juego.pintura.rotulo_continuar(rotulo.primera, rotulo.segunda);
+    return rotulo;
+}
+
+lamina::Recorte CaraVerde(bool solo, bool pulsado) {
+    if (solo)
+        return pulsado ? lamina::kContinuarSoloPulsado : lamina::kContinuarSoloArriba;
+    return pulsado ? lamina::kContinuarPulsado : lamina::kContinuarArriba;
 }
 
 void PintaContinuar(int kind) {
-    std::string primera = "Continuar";
-    std::string segunda;
-    if (estado.ManoEnCurso) {
-        primera = estado.NombreJugador(estado.JugadorActual);
-        segunda = "automático";
-        const FilaJuego& juego = JuegoEnMesa();
-        if (juego.pintura.rotulo_continuar != nullptr)
-            juego.pintura.rotulo_continuar(primera, segunda);
-    }
+    const RotuloVerde rotulo = ElRotuloVerde();
+    const bool pulsado = kind == 2;
     Lienzo& boton = plataforma().LienzoDe(Control::Pic_BotContinuar, 0);
     boton.Fieltro({0, 0, kAnchoContinuar, kAltoContinuar});
-    boton.Lamina(0, 0, kind == 2 ? lamina::kContinuarPulsado : lamina::kContinuarArriba);
-    const int hundido = kind == 2 ? 1 : 0;
+    boton.Lamina(0, 0, CaraVerde(rotulo.JugariaSolo(), pulsado));
+    const int hundido = pulsado ? 1 : 0;
     const auto renglon = [&](int y, const std::string& texto) {
         boton.Texto(kAnchoContinuar / 2 + hundido, y + hundido, texto, kLetraContinuar,
                     color::kAmarillo, Alineacion::Centro);
     };
-    if (segunda.empty()) {
-        renglon(10, primera);
+    if (rotulo.segunda.empty()) {
+        renglon(10, rotulo.primera);
     } else {
-        renglon(3, primera);
-        renglon(18, segunda);
+        renglon(3, rotulo.primera);
+        renglon(18, rotulo.segunda);
     }
     plataforma().Nombra(Control::Pic_BotContinuar, 0,
-                        segunda.empty() ? primera : primera + " " + segunda);
+                        rotulo.Entero() +
+                            (rotulo.JugariaSolo() ? ": el programa juega por este jugador" : ""));
+}
+
+// The words of the button are new from now on, or the same as before.
+void AnotaRotuloVerde() {
+    const std::string rotulo = ElRotuloVerde().Entero();
+    if (rotulo == vista.verde && plataforma().EstaVisible(Control::Pic_BotContinuar, 0))
+        return;
+    vista.verde = rotulo;
+    vista.verde_desde = plataforma().Reloj();
 }
 
 } // namespace
@@ -140,6 +180,7 @@ bool BotonHabilitado(int indice) {
 
 void PedirContinuar(int kind) {
     Traza("PedirContinuar", kind);
+    AnotaRotuloVerde();
     plataforma().PonPuntero(Control::Pic_BotContinuar, 0, Puntero::ManoIndice);
     plataforma().Muestra(Control::Pic_BotContinuar, 0, true);
     if (plataforma().HayPantalla()) {
@@ -153,4 +194,8 @@ void OcultarContinuar() {
     Traza("OcultarContinuar");
     Oculta(Control::Pic_BotContinuar);
     estado.EsperandoJugada = false;
+}
+
+bool ValeElClicVerde(std::optional<Milisegundos> desde) {
+    return !desde || *desde >= vista.verde_desde || !ElRotuloVerde().JugariaSolo();
 }

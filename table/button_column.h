@@ -1,6 +1,8 @@
 #pragma once
 // The column of buttons at the right: the eight main buttons and the green one at its foot. They go by their numbers (kBotonNueva, ...).
 
+#include <optional>
+
 #include "platform/platform.h"
 
 // Places the column and its buttons for the size of the window, and shows them.
@@ -22,3 +24,7 @@ int TeclaDelBoton(int indice);
 // Pic_BotContinuar with its caption, kind 1 up or 2 pressed, and hidden. They write EsperandoJugada.
 void PedirContinuar(int kind);
 void OcultarContinuar();
+
+// Whether a click or a key that began at that moment (nothing: now) is meant for the green button as it stands. One that
+// began under other words is not, where the button would play for the person: it was to go on.
+bool ValeElClicVerde(std::optional<Milisegundos> desde);

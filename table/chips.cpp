@@ -14,6 +14,7 @@
 #include "table/game_row.h"
 #include "table/layout.h"
 #include "table/messages.h"
+#include "table/score_plate.h"
 #include "table/sheet_layout.h"
 #include "table/side_buttons.h"
 #include "table/sounds.h"
@@ -28,7 +29,8 @@ constexpr int kAnchoFila = 97, kPasoFila = 36; // of the chips of a bet
 // The plate with the points of a bet, and what is between it and the chips.
 constexpr int kAnchoPlaca = 46, kAltoPlaca = 15, kAirePlaca = 2;
 constexpr Fuente kLetraApuesta{.alto = 12, .negrita = true};
-constexpr Fuente kLetraBote{.alto = 16, .negrita = true};
+constexpr Fuente kLetraBote{.alto = 15, .negrita = true, .tope = 56};
+constexpr Fuente kLetraRotuloBote{.alto = 9, .negrita = true};
 
 using Pilas = std::array<int, kDenominaciones + 1>; // chips by denomination, element 0 spare
 
@@ -134,10 +136,14 @@ void PintaPlaca(Integer asiento, int puntos) {
                  color::kAmarillo, Alineacion::Centro);
 }
 
-void PintaFila(Integer asiento) {
+Rectangulo CajaDeApuesta(Integer asiento) {
     const Punto esquina = LugarDePila(AreaApuesta(asiento), 1);
-    Mesa().Fieltro({esquina.x + (kAnchoArea - kAnchoFila) / 2, esquina.y - kCreceFicha, kAnchoFila,
-                    kCreceFicha + kLadoFicha});
+    return {esquina.x + (kAnchoArea - kAnchoFila) / 2, esquina.y - kCreceFicha, kAnchoFila,
+            kCreceFicha + kLadoFicha};
+}
+
+void PintaFila(Integer asiento) {
+    Mesa().Fieltro(CajaDeApuesta(asiento));
     const Pilas pilas = FichasEnApuesta(asiento);
     const std::vector<int> fila = EnFila(pilas);
     for (std::size_t i = 0; i < fila.size(); ++i) {
@@ -163,6 +169,7 @@ void PintarFichas(int asiento, int area) {
     Mesa().Fieltro({esquina.x, esquina.y - kCreceFicha, kAnchoArea, kCreceFicha + kAltoArea});
     for (int d = 1; d <= kDenominaciones; ++d)
         PintaPila(LugarDePila(area, d), d, apuestas.Fichas(asiento, d));
+    RefrescaTanteo();
 }
 
 void RedibujaBote() {
@@ -174,8 +181,11 @@ void RedibujaBote() {
     Mesa().Fieltro(placa);
     if (RestoDe(kBote) > 0) {
         Mesa().Lamina(placa.x, placa.y, lamina::kPlacaTantos);
-        Mesa().Texto(placa.x + placa.ancho / 2, placa.y + 4, Numero(RestoDe(kBote)), kLetraBote,
-                     color::kNegro, Alineacion::Centro);
+        const int medio = placa.x + placa.ancho / 2;
+        Mesa().Texto(medio, placa.y + 2, "Bote", kLetraRotuloBote, color::kNegro,
+                     Alineacion::Centro);
+        Mesa().Texto(medio, placa.y + 9, Numero(RestoDe(kBote)), kLetraBote, color::kNegro,
+                     Alineacion::Centro);
     }
     plataforma().Repinta();
 }
@@ -240,4 +250,20 @@ Rectangulo PilaDe(Integer asiento, int d) {
     const Punto pie = LugarDePila(kAreaRestos + asiento - 1, d);
     const int crece = Crece(cuantas);
     return {pie.x, pie.y - crece, kLadoFicha, kLadoFicha + crece};
+}
+
+std::vector<Rectangulo> LugaresDeFichas() {
+    std::vector<Rectangulo> lugares;
+    for (Integer asiento = 1; asiento <= 4; ++asiento) {
+        const Punto resto = LugarDePila(kAreaRestos + asiento - 1, 1);
+        lugares.push_back({resto.x, resto.y - kCreceFicha, kAnchoArea, kCreceFicha + kAltoArea});
+        lugares.push_back(CajaDeApuesta(asiento));
+        lugares.push_back(PlacaDeApuesta(asiento));
+    }
+    if (JuegoEnMesa().dinero.reglas.bote) {
+        const Punto bote = LugarDePila(kAreaBote, 1);
+        lugares.push_back({bote.x, bote.y - kCreceFicha, kAnchoArea, kCreceFicha + kAltoArea});
+        lugares.push_back(PlacaDelBote());
+    }
+    return lugares;
 }

@@ -2,6 +2,8 @@
 // Chips on the felt: the stacks beside the seats, the pot in the middle, what is at stake before each seat, and a chip
 // on its way. All is drawn from the money's state; vista.fichas_de_mas says what the show is ahead or behind. Seats 1..4.
 
+#include <vector>
+
 #include "betting/moves.h"
 #include "core/tabla.h"
 #include "platform/canvas.h"
@@ -26,5 +28,7 @@ void MueveFicha(const FichaMovida& ficha);
 // others stand out above it. Without size when the seat has none.
 Rectangulo PilaDe(Integer asiento, int d);
 
+// All that chips, their plates and their marks can take of the felt in the game on the table.
+std::vector<Rectangulo> LugaresDeFichas();
 // What the pot takes on the felt, with the plate of its number.
 Rectangulo LugarDelBote();

@@ -100,10 +100,18 @@ struct RotuloBoton {
     const char* nombre = "";
 };
 
+// The trump of a hand, and its name for the player.
+struct Triunfo {
+    Integer palo = 0; // 0: none, or not yet
+    const char* nombre = "";
+};
+
 struct PinturaDeJuego {
     // Drawn under the pile, and in the centre of the felt when everything is painted anew. Empty: nothing.
     void (*bajo_mazo)(int x, int y) = nullptr;
     void (*centro)() = nullptr;
+    // The trump, for the plate of the match. Empty: the game has none.
+    Triunfo (*triunfo)() = nullptr;
     // Side buttons of a seat, after its cards. Empty: none.
     void (*botones_asiento)(int asiento) = nullptr;
     // Pic_BotSuperior(1, 2).

@@ -12,8 +12,10 @@
 #include "table/layout.h"
 #include "table/manual_spread.h"
 #include "table/messages.h"
+#include "table/notice.h"
 #include "table/seat_drawing.h"
 #include "table/sounds.h"
+#include "table/table_input.h"
 #include "table/table_view.h"
 
 namespace {
@@ -151,6 +153,15 @@ void SueltaArrastrada() {
     CompactarMano(asiento);
     RedibujaActivos();
     TrasReordenar(asiento);
+    RefrescaPuntero();
+    Sonido(0, sonido::kPosa);
+}
+
+void MueveEnLaMano(Integer asiento, int desde, int hasta) {
+    LlevaCarta(asiento, desde, hasta);
+    CompactarMano(asiento);
+    RedibujarAsiento(asiento);
+    TrasReordenar(asiento);
     Sonido(0, sonido::kPosa);
 }
 
@@ -164,5 +175,13 @@ void AbandonaArrastre() {
 
 void DejaDeOrdenar() {
     AbandonaArrastre();
-    estado.ModoOrdenar = false;
+    PonModoOrdenar(false);
+}
+
+void PonModoOrdenar(bool activo) {
+    if (estado.ModoOrdenar == activo)
+        return;
+    estado.ModoOrdenar = activo;
+    RefrescaAviso();
+    RefrescaPuntero();
 }

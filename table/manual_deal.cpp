@@ -8,6 +8,7 @@
 #include "table/controls.h"
 #include "table/manual_spread.h"
 #include "table/messages.h"
+#include "table/notice.h"
 #include "table/pile.h"
 #include "table/seat_drawing.h"
 #include "table/waiting.h"
@@ -41,6 +42,7 @@ void PreparaMesa() {
     estado.Baraja.Borra();
     estado.CartaEnReparto.Borra();
     CentraReparto();
+    RefrescaAviso();
 }
 
 int Repartidas() {
@@ -89,9 +91,14 @@ void HazBaraja(int repartidas) {
     });
 }
 
+void AcabaElReparto() {
+    estado.RepartoEnCurso = false;
+    RefrescaAviso();
+}
+
 void CierraReparto() {
     const int repartidas = Repartidas();
-    estado.RepartoEnCurso = false;
+    AcabaElReparto();
     RedibujarMesa();
     DescubreManos();
     estado.CartasEnMazo = EnteroDe(estado.CartasEnMazo - repartidas);
@@ -120,11 +127,11 @@ bool RepartirAMano() {
     estado.JugadoresEnMano = CuantosReciben();
     estado.UltimoRecibe = 0;
     if (!EsperaHasta([] { return RepartoRoto() || RepartoCompleto(); })) {
-        estado.RepartoEnCurso = false;
+        AcabaElReparto();
         return false;
     }
     if (RepartoRoto()) {
-        estado.RepartoEnCurso = false;
+        AcabaElReparto();
         return true;
     }
     CierraReparto();

@@ -1,5 +1,6 @@
 #include "table/messages.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "core/game_state.h"
@@ -22,8 +23,9 @@ constexpr int kLetrasMensaje = 58;    // characters of a line of the box
 constexpr int kAnchoSugerencia = 217; // 29 letters and their margins
 constexpr int kAltoSugerencia = 78;
 constexpr Long kVueltaReloj = 0x7FFFFFFF; // the mark keeps so many bits of the clock
-// The largest letter whose lines, 10 pixels apart, do not run into each other.
-constexpr Fuente kLetraTip{.alto = 11, .fija = true};
+// The largest letter whose lines, 10 pixels apart, do not run into each other. Its letters are as wide as they are: the
+// blanks by which the tips fill their lines with letters of one width are no use to it.
+constexpr Fuente kLetraTip{.alto = 11, .tope = kAnchoSugerencia - 14};
 constexpr Rectangulo kMasAyuda{4, 1, 76, 20};
 constexpr Rectangulo kCerrar{kAnchoSugerencia - 19, 2, 16, 16};
 
@@ -50,12 +52,20 @@ bool Pregunta(const std::string& titulo, const std::string& texto, int lineas, i
 
 void ColocaSugerencia() {
     Plataforma& p = plataforma();
-    const int y = estado.AltoMesa - kAltoSugerencia - 2;
-    p.Coloca(Control::Pic_Sugerencia, 0, {0, y, kAnchoSugerencia, kAltoSugerencia});
+    p.Coloca(Control::Pic_Sugerencia, 0, LugarDeLaSugerencia());
     p.Coloca(Control::Pic_MasAyuda, 0, kMasAyuda);
     p.Coloca(Control::Bot_CerrarSuge, 0, kCerrar);
     p.Nombra(Control::Pic_MasAyuda, 0, "Más ayuda");
     p.Nombra(Control::Bot_CerrarSuge, 0, "Cerrar la ventana de información");
+}
+
+std::string SinHuecos(const std::string& renglon) {
+    std::string texto;
+    for (const char letra : renglon) {
+        if (letra != ' ' || (!texto.empty() && texto.back() != ' '))
+            texto += letra;
+    }
+    return Recorta(texto);
 }
 
 void PintaPanel() {
@@ -64,10 +74,10 @@ void PintaPanel() {
     panel.Caja(todo, color::kMarfil);
     panel.Borde(todo, color::kBordePanel, 1);
     for (int k = 1; k <= kRenglonesTip; ++k) {
-        panel.Texto(
-            7, 10 * k + 10,
-            Medio(estado.Sugerencias(estado.TipActual).Texto, kLetrasTip * (k - 1) + 1, kLetrasTip),
-            kLetraTip, color::kAzul, Alineacion::Izquierda);
+        panel.Texto(7, 10 * k + 10,
+                    SinHuecos(Medio(estado.Sugerencias(estado.TipActual).Texto,
+                                    kLetrasTip * (k - 1) + 1, kLetrasTip)),
+                    kLetraTip, color::kAzul, Alineacion::Izquierda);
     }
 }
 
@@ -140,6 +150,15 @@ void PintaSugerencia() {
         return;
     PintaPanel();
     PintaBotonesPanel();
+}
+
+void RetiraSugerencia(std::initializer_list<int> tips) {
+    if (std::ranges::find(tips, estado.TipActual) != tips.end())
+        OcultaSugerencia();
+}
+
+Rectangulo LugarDeLaSugerencia() {
+    return {0, estado.AltoMesa - kAltoSugerencia - 2, kAnchoSugerencia, kAltoSugerencia};
 }
 
 void OcultaSugerencia() {

@@ -2,8 +2,11 @@
 // What paces the game and talks to the player without being a card: the modal box, the tips, the help calls,
 // the sounds and the pause.
 
+#include <initializer_list>
 #include <string>
 #include <string_view>
+
+#include "platform/canvas.h"
 
 // The modal box; returns after a button. lineas: lines of text that the box makes room for. modo: 1 one
 // button, 2 Si and No, 3 help and exit. Writes LineasMensaje, ModoMensaje, RespuestaMensaje (true after
@@ -28,6 +31,11 @@ void PintaSugerencia();
 
 // Hides the panel.
 void OcultaSugerencia();
+// The same if one of these tips is on show: what it offered has been done.
+void RetiraSugerencia(std::initializer_list<int> tips);
+
+// Where the panel stands when it shows.
+Rectangulo LugarDeLaSugerencia();
 
 // Loads the 51 tips into Sugerencias, text and topic split.
 void CargaSugerencias();

@@ -7,11 +7,16 @@
 #include "table/controls.h"
 #include "table/deck.h"
 #include "table/game_row.h"
+#include "table/hand_order.h"
+#include "table/table_input.h"
+#include "table/table_view.h"
 
 namespace {
 
 constexpr int kAltoEntrada = 18, kMargen = 4;
-constexpr int kAncho = 244; // the longer entry, in whatever letters the desktop has
+constexpr int kAncho = 256; // the longer entry, in whatever letters the desktop has
+// The box opens with its corner under the pointer: its words stand clear of that.
+constexpr int kMarcaX = 20, kTextoX = 36;
 constexpr int kEntradaManual = 4, kEntradaSola = 5;
 
 // The number of the n-th entry on show, 0 for none.
@@ -31,8 +36,9 @@ void PintaEntrada(Lienzo& lienzo, int n) {
         lienzo.Caja(lugar, color::kAzulOscuro);
     const Color tinta = resaltada ? color::kBlanco : color::kNegro;
     if (OpcionMarcada(n))
-        lienzo.Texto(8, y + 2, "X", {.alto = 12, .negrita = true}, tinta, Alineacion::Izquierda);
-    lienzo.Texto(24, y + 2, TextoDeOpcion(n), {.alto = 12}, tinta, Alineacion::Izquierda);
+        lienzo.Texto(kMarcaX, y + 2, "X", {.alto = 12, .negrita = true}, tinta,
+                     Alineacion::Izquierda);
+    lienzo.Texto(kTextoX, y + 2, TextoDeOpcion(n), {.alto = 12}, tinta, Alineacion::Izquierda);
 }
 
 void ResaltaOpcion(int n) {
@@ -80,9 +86,9 @@ void MuestraOpciones() {
         return;
     const int alto = estado.NumOpciones * kAltoEntrada + kMargen;
     estado.OpcionResaltada = 0;
-    plataforma().Coloca(Control::Pic_SelOpciones, 0,
-                        {std::clamp<int>(estado.RatonX, 0, estado.AnchoMesa - kAncho),
-                         std::clamp<int>(estado.RatonY, 0, estado.AltoMesa - alto), kAncho, alto});
+    vista.menu_x = std::clamp<int>(estado.RatonX, 0, estado.AnchoMesa - kAncho);
+    vista.menu_y = std::clamp<int>(estado.RatonY, 0, estado.AltoMesa - alto);
+    plataforma().Coloca(Control::Pic_SelOpciones, 0, {vista.menu_x, vista.menu_y, kAncho, alto});
     plataforma().Nombra(Control::Pic_SelOpciones, 0, "Ordenar cartas");
     plataforma().Muestra(Control::Pic_SelOpciones, 0, true);
     PintaOpciones();
@@ -91,6 +97,11 @@ void MuestraOpciones() {
 void ApagaOpcion() {
     if (plataforma().EstaVisible(Control::Pic_SelOpciones, 0))
         ResaltaOpcion(0);
+}
+
+void ApuntaEnOpciones(int x, int y) {
+    vista.puntero_x = vista.menu_x + x;
+    vista.puntero_y = vista.menu_y + y;
 }
 
 void Opciones_MouseMove(int y) {
@@ -104,7 +115,7 @@ void Opciones_MouseUp() {
     Oculta(Control::Pic_SelOpciones);
     estado.OpcionElegida = EnteroDe(EntradaEn(estado.OpcionResaltada));
     if (estado.OpcionElegida == kEntradaManual) {
-        estado.ModoOrdenar = !estado.ModoOrdenar;
+        PonModoOrdenar(!estado.ModoOrdenar);
         return;
     }
     const Integer asiento = estado.ZonaBajoCursor;
@@ -112,4 +123,5 @@ void Opciones_MouseUp() {
     const FilaJuego& juego = JuegoEnMesa();
     if (asiento == estado.JugadorActual && juego.entrada.tras_reordenar != nullptr)
         juego.entrada.tras_reordenar();
+    RefrescaPuntero();
 }

@@ -17,6 +17,8 @@ bool OpcionMarcada(int n);
 void PintaOpciones();
 // The highlight goes out when the pointer leaves the pop-up.
 void ApagaOpcion();
+// The pointer is at (x, y) of the pop-up: for the table it is where that lies.
+void ApuntaEnOpciones(int x, int y);
 // The pointer moved to, or the button was released over, row y of the pop-up.
 void Opciones_MouseMove(int y);
 void Opciones_MouseUp();

@@ -1,5 +1,7 @@
 #include "table/pile.h"
 
+#include <algorithm>
+
 #include "core/game_state.h"
 #include "table/game_row.h"
 #include "table/layout.h"
@@ -19,6 +21,10 @@ int Dorsos(int n) {
 }
 
 } // namespace
+
+Rectangulo CajaDelMazo() {
+    return {estado.MazoX - kMargenMazo, estado.MazoY, kAnchoCajaMazo, kAltoCajaMazo};
+}
 
 Rectangulo LugarDelMazo() {
     const int dorsos = Dorsos(vista.cartas_mazo);

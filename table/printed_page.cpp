@@ -43,18 +43,6 @@ const FichaTinta& FichaDe(Tinta tinta) {
     return kTintas[static_cast<std::size_t>(tinta)];
 }
 
-int BordeIzquierdo(int x, int ancho, Alineacion alineacion) {
-    switch (alineacion) {
-    case Alineacion::Centro:
-        return x - ancho / 2;
-    case Alineacion::Derecha:
-        return x - ancho;
-    case Alineacion::Izquierda:
-        break;
-    }
-    return x;
-}
-
 int AltoLinea(const Letra& letra) {
     return letra.cuerpo + letra.cuerpo / 4;
 }

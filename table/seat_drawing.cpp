@@ -6,6 +6,7 @@
 #include "core/numeric.h"
 #include "core/text.h"
 #include "table/chips.h"
+#include "table/frames.h"
 #include "table/game_row.h"
 #include "table/layout.h"
 #include "table/messages.h"
@@ -20,6 +21,7 @@ namespace {
 constexpr int kLargoRotulo = 250;
 constexpr int kPasoLetraAlLado = 11, kPasoLetraAbajo = 15;
 constexpr int kAltoLetra = 14;
+constexpr int kAltoSenal = 11;
 constexpr int kAltoRenglon = 18;
 
 Lienzo& Mesa() {
@@ -56,6 +58,17 @@ Rectangulo BandaDelRotulo(int asiento) {
     }
 }
 
+// Beyond the raised cards.
+Rectangulo BandaDelCante(int asiento) {
+    Rectangulo banda = BandaDelRotulo(asiento);
+    const Rectangulo zona = ZonaDe(asiento);
+    const int realce =
+        ZonaConRealce(asiento).ancho - zona.ancho + ZonaConRealce(asiento).alto - zona.alto;
+    const int hacia_dentro = asiento == 1 || asiento == 2 ? realce : -realce;
+    (AsientoLateral(asiento) ? banda.x : banda.y) += hacia_dentro;
+    return banda;
+}
+
 // One letter after the other along the band, paso pixels apart, centred on it. Where letters are closer than they
 // are large, those beside each other are drawn narrower, those below each other smaller.
 void LetraALetra(int asiento, const Rectangulo& banda, const std::string& texto, int paso,
@@ -75,13 +88,66 @@ void LetraALetra(int asiento, const Rectangulo& banda, const std::string& texto,
     }
 }
 
+// The signs that stand at both ends of a name that is lit.
+struct Senales {
+    const char* antes = "";
+    const char* despues = "";
+};
+
+Senales SenalesDe(Luz luz, bool columna) {
+    if (luz == Luz::Baza)
+        return {"★", "★"};
+    return columna ? Senales{"▼", "▲"} : Senales{"▶", "◀"};
+}
+
+// A plate under the name, yellow letters, and the signs: not the colour alone tells it.
+void PintaEncendido(int asiento, const Rectangulo& banda, int paso) {
+    const bool columna = AsientoLateral(asiento);
+    const std::string& nombre = estado.NombreJugador(asiento);
+    const int mitad = (Longitud(nombre) + 3) * paso / 2 + 2;
+    const int x = banda.x + banda.ancho / 2;
+    const int y = banda.y + banda.alto / 2;
+    const Rectangulo placa = columna ? Rectangulo{banda.x, y - mitad, banda.ancho, 2 * mitad}
+                                     : Rectangulo{x - mitad, banda.y, 2 * mitad, banda.alto};
+    Mesa().Caja(placa, color::kPlaca);
+    Mesa().Borde(placa, color::kAmarillo, 1);
+    LetraALetra(asiento, banda, nombre, paso, color::kAmarillo);
+    const Senales senales = SenalesDe(vista.luz, columna);
+    const int lejos = (Longitud(nombre) + 1) * paso / 2 + 1;
+    const auto senala = [&](int donde, const char* senal) {
+        Mesa().Texto(columna ? x : x + donde,
+                     columna ? y + donde - kAltoSenal / 2 - 2 : banda.y + 2, senal,
+                     {.alto = kAltoSenal}, color::kAmarillo, Alineacion::Centro);
+    };
+    senala(-lejos, senales.antes);
+    senala(lejos, senales.despues);
+}
+
 void PintaNombre(int asiento) {
     if (!vista.nombres || estado.EstadoJugador(asiento) != kActivado)
         return;
     const Rectangulo banda = BandaDelNombre(asiento);
+    const int paso = AsientoLateral(asiento) ? kPasoLetraAbajo : kPasoLetraAlLado;
     Mesa().Fieltro(banda);
-    LetraALetra(asiento, banda, estado.NombreJugador(asiento),
-                AsientoLateral(asiento) ? kPasoLetraAbajo : kPasoLetraAlLado, color::kBlanco);
+    if (asiento == vista.asiento_encendido)
+        PintaEncendido(asiento, banda, paso);
+    else
+        LetraALetra(asiento, banda, estado.NombreJugador(asiento), paso, color::kBlanco);
+}
+
+void Enciende(int asiento, Luz luz) {
+    const int antes = vista.asiento_encendido;
+    if (antes == asiento && vista.luz == luz)
+        return;
+    vista.asiento_encendido = asiento;
+    vista.luz = luz;
+    if (!plataforma().HayPantalla())
+        return;
+    for (const int cambia : {antes, asiento}) {
+        if (cambia != 0)
+            PintaNombre(cambia);
+    }
+    plataforma().Repinta();
 }
 
 void PintaRotulo(int asiento, bool visible) {
@@ -196,6 +262,13 @@ void PintaDinero(int asiento) {
     }
 }
 
+void PintaGanador(int asiento) {
+    const Rectangulo zona = ZonaDe(asiento);
+    const lamina::Recorte& marca = lamina::kMarcaGanador;
+    Mesa().Lamina(zona.x + (zona.ancho - marca.ancho) / 2, zona.y + (zona.alto - marca.alto) / 2,
+                  marca);
+}
+
 } // namespace
 
 std::string RotuloDicho(int asiento) {
@@ -216,19 +289,24 @@ void RedibujarAsiento(int asiento) {
         ParpadeaRotulo(asiento, serie);
     else if (!estado.RotuloSerie(asiento, serie).empty())
         MostrarRotulo(asiento);
-    if (plataforma().HayPantalla())
+    if (plataforma().HayPantalla()) {
         PintaDinero(asiento);
+        if (vista.ganador(asiento))
+            PintaGanador(asiento);
+    }
     const FilaJuego& juego = JuegoEnMesa();
     if (juego.pintura.puntos != nullptr)
         MostrarPuntos(asiento);
     if (juego.pintura.botones_asiento != nullptr)
         juego.pintura.botones_asiento(asiento);
+    RevisaMarcos();
     if (plataforma().HayPantalla())
         plataforma().Repinta();
 }
 
 void ResaltarAsiento() {
     Traza("ResaltarAsiento");
+    EnciendeTurno();
     for (int vez = 0; vez < 2; ++vez) {
         if (plataforma().HayPantalla()) {
             LimpiaZona(estado.JugadorActual);
@@ -259,16 +337,46 @@ void MostrarNombres() {
 
 void MarcaGanador(int asiento, bool visible) {
     Traza("MarcaGanador", asiento, visible ? 1 : 0);
+    vista.ganador(asiento) = visible;
     if (!plataforma().HayPantalla())
         return;
-    const Rectangulo zona = ZonaDe(asiento);
-    const lamina::Recorte& marca = lamina::kMarcaGanador;
-    const int x = zona.x + (zona.ancho - marca.ancho) / 2;
-    const int y = zona.y + (zona.alto - marca.alto) / 2;
     if (visible) {
-        Mesa().Lamina(x, y, marca);
+        PintaGanador(asiento);
         plataforma().Repinta();
     } else {
         RedibujarAsiento(asiento);
     }
+}
+
+void EnciendeTurno() {
+    Enciende(estado.JugadorActual, Luz::Turno);
+}
+
+void EnciendeBaza(int asiento) {
+    Enciende(asiento, Luz::Baza);
+}
+
+void ApagaNombre() {
+    Enciende(0, Luz::Ninguna);
+}
+
+void MuestraCante(int asiento, const std::string& texto) {
+    if (!plataforma().HayPantalla())
+        return;
+    const Rectangulo banda = BandaDelCante(asiento);
+    Mesa().Caja(banda, color::kPlaca);
+    Mesa().Borde(banda, color::kAmarillo, 1);
+    LetraALetra(asiento, banda, texto, kPasoLetraAlLado + (AsientoLateral(asiento) ? 2 : 0),
+                color::kAmarillo);
+    plataforma().Repinta();
+}
+
+void QuitaCante(int asiento) {
+    if (!plataforma().HayPantalla())
+        return;
+    Mesa().Fieltro(BandaDelCante(asiento));
+    const FilaJuego& juego = JuegoEnMesa();
+    if (juego.pintura.centro != nullptr)
+        juego.pintura.centro();
+    plataforma().Repinta();
 }

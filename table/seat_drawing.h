@@ -6,8 +6,18 @@
 
 // Everything of the seat painted anew; a caption that blinks does so first.
 void RedibujarAsiento(int asiento);
-// JugadorActual blinks twice.
+// JugadorActual blinks twice; from then on its name is lit.
 void ResaltarAsiento();
+
+// One name is lit, and marked: that of the seat on turn (JugadorActual), of the seat to which the trick goes, or none.
+void EnciendeTurno();
+void EnciendeBaza(int asiento);
+void ApagaNombre();
+
+// Words before the raised cards of a seat, over the bare felt there; and the felt again. Draws only.
+void MuestraCante(int asiento, const std::string& texto);
+void QuitaCante(int asiento);
+
 // The caption of the seat's serie on show.
 void MostrarRotulo(int asiento);
 // The caption of the seat's serie on show as a reader says it; "" without one.
@@ -15,5 +25,5 @@ std::string RotuloDicho(int asiento);
 // The names of the active seats, from now on also whenever a seat is painted.
 void MostrarNombres();
 
-// The winner's mark of a seat, shown or taken away.
+// The winner's mark of a seat, shown until it is taken away or the table is cleared.
 void MarcaGanador(int asiento, bool visible);

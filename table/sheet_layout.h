@@ -1,8 +1,6 @@
 #pragma once
 // Where every small image lies on the sheet (Pic_BmpVario), told once: the program cuts by these
-// rectangles and the tool that paints the sheet fills them, each from the drawing of the same name
-// in assets/sheet. Units are table pixels; the sheet itself is kept kEscala times as large, so that a
-// piece (x, y, ancho, alto) is taken from (x, y, ancho, alto) * kEscala.
+// rectangles, each painted from the drawing of the same name in assets/sheet. Units are table pixels.
 //
 // Nothing here reads or writes the state. Indices outside their bounds are clamped to the nearest
 // piece, so a bad one can only show the wrong picture.
@@ -25,9 +23,9 @@ struct Recorte {
 enum class Aspecto { Arriba, Pulsado, Apagado };
 
 inline constexpr int kRadioEsquinaCarta = 6; // beyond it the corner of a card belongs to the felt
-inline constexpr int kEscala = 3;            // sheet and card images are kept three times as large
+inline constexpr int kEscala = 3;            // the deck images are kept three times as large
 inline constexpr int kAncho = 512;
-inline constexpr int kAlto = 540;
+inline constexpr int kAlto = 560;
 
 // Round main button 1..8, 51 apart in the top row; the other two looks have a row each.
 constexpr Recorte BotonPrincipal(int numero, Aspecto aspecto = Aspecto::Arriba) {
@@ -58,8 +56,6 @@ constexpr Recorte BotonLateral(int numero, bool vertical, bool pulsado = false) 
 }
 
 inline constexpr Recorte kDigitoVacio{110, 52, 10, 17}; // a display place with no figure lit
-inline constexpr Recorte kMarcaGanador{122, 52, 32, 32};
-inline constexpr Recorte kMarcaSerieTerminada{155, 52, 32, 32};
 inline constexpr Recorte kMarcaPasado{188, 52, 32, 32}; // the burst over a bust stake
 inline constexpr Recorte kMarcaTurno{221, 52, 32, 32};
 inline constexpr Recorte kMarcaMano{254, 52, 32, 32};
@@ -105,6 +101,16 @@ inline constexpr Recorte kBotonDobSegPulsado{435, 135, 76, 24};
 
 inline constexpr Recorte kMensajeArriba{194, 274, 84, 28};
 inline constexpr Recorte kMensajePulsado{279, 274, 84, 28};
+
+inline constexpr Recorte kMarcaGanador{0, 462, 92, 92};
+// The green button when the program would play for the person.
+inline constexpr Recorte kContinuarSoloArriba{94, 486, 86, 36};
+inline constexpr Recorte kContinuarSoloPulsado{94, 523, 86, 36};
+
+// The sign of a suit 1..4 on a tile.
+constexpr Recorte Palo(int palo) {
+    return {94 + 24 * (std::clamp(palo, 1, 4) - 1), 462, 22, 22};
+}
 
 inline constexpr Recorte kSentidoDirecto{0, 364, 96, 96};
 inline constexpr Recorte kSentidoInverso{97, 364, 96, 96};
@@ -160,7 +166,6 @@ inline constexpr std::array kPiezas{
     Pieza{"ficha20", Ficha(5)},
     Pieza{"ficha50", Ficha(6)},
     Pieza{"marca_ganador", kMarcaGanador},
-    Pieza{"marca_serie_terminada", kMarcaSerieTerminada},
     Pieza{"marca_pasado", kMarcaPasado},
     Pieza{"marca_turno", kMarcaTurno},
     Pieza{"marca_mano", kMarcaMano},
@@ -191,6 +196,12 @@ inline constexpr std::array kPiezas{
     Pieza{"visor", kVisor},
     Pieza{"continuar_arriba", kContinuarArriba},
     Pieza{"continuar_pulsado", kContinuarPulsado},
+    Pieza{"continuar_solo_arriba", kContinuarSoloArriba},
+    Pieza{"continuar_solo_pulsado", kContinuarSoloPulsado},
+    Pieza{"palo_oros", Palo(1)},
+    Pieza{"palo_copas", Palo(2)},
+    Pieza{"palo_espadas", Palo(3)},
+    Pieza{"palo_bastos", Palo(4)},
     Pieza{"boton_superior_arriba", kBotonSuperiorArriba},
     Pieza{"boton_superior_pulsado", kBotonSuperiorPulsado},
     Pieza{"boton_dobseg_arriba", kBotonDobSegArriba},

@@ -7,6 +7,7 @@
 #include "core/numeric.h"
 #include "table/bet_board.h"
 #include "table/controls.h"
+#include "table/frames.h"
 #include "table/game_row.h"
 #include "table/hand_order.h"
 #include "table/hit_tests.h"
@@ -100,6 +101,62 @@ Integer PunteroDeReparto(int x, int y) {
     return estado.CartaBajoCursor != 0 ? Codigo(Puntero::ManoVerde) : Integer{0};
 }
 
+// The outlined card, asiento 0 for none.
+struct Contorno {
+    Integer asiento = 0, lugar = 0;
+    Rectangulo donde;
+};
+Contorno contorno;
+
+bool SeMueveCarta(Integer asiento) {
+    return estado.ModoOrdenar && !estado.ArrastraCarta &&
+           estado.CartasJugador(asiento) == kVisibles;
+}
+
+// A press on the card does something, and the pointer is still over what is to be seen of it.
+bool SeContornea(Integer asiento, Integer lugar) {
+    const Integer cartas = estado.NumCartas(asiento, estado.SerieActual);
+    if (lugar == 0 || lugar > cartas || HayMarco(Marco::DeTeclas))
+        return false;
+    const Rectangulo carta = CajaDeCarta(asiento, lugar, cartas);
+    return (SeTocaCarta(asiento, lugar) || SeMueveCarta(asiento)) &&
+           Dentro(vista.puntero_x, carta.x, carta.x + carta.ancho - 1) &&
+           Dentro(vista.puntero_y, carta.y, carta.y + carta.alto - 1);
+}
+
+void RevisaContorno();
+
+void Contornea(const Contorno& nuevo) {
+    contorno = nuevo;
+    const bool hay = nuevo.asiento != 0;
+    PonMarco(Marco::DePuntero, hay ? std::optional(nuevo.donde) : std::nullopt, RevisaContorno);
+}
+
+void ContorneaCarta(Integer asiento, Integer lugar) {
+    if (asiento == 0 || !SeContornea(asiento, lugar))
+        return Contornea({});
+    const Integer cartas = estado.NumCartas(asiento, estado.SerieActual);
+    Contornea({asiento, lugar, CartaALaVista(asiento, lugar, cartas)});
+}
+
+void RevisaContorno() {
+    ContorneaCarta(contorno.asiento, contorno.lugar);
+}
+
+// Over the spread and the pile the card found last is not under the pointer.
+void ContorneaBajoElPuntero() {
+    switch (static_cast<Puntero>(estado.CursorNuevo)) {
+    case Puntero::ManoVerde:
+    case Puntero::Voltear:
+    case Puntero::Cambiar:
+    case Puntero::Abrirse:
+    case Puntero::Ordenar:
+        return ContorneaCarta(estado.AsientoBajoCursor, estado.CartaBajoCursor);
+    default:
+        return Contornea({});
+    }
+}
+
 void CalculaPuntero(int x, int y) {
     vista.puntero_x = x;
     vista.puntero_y = y;
@@ -117,6 +174,7 @@ void CalculaPuntero(int x, int y) {
         CambiarCursor(Control::Mesa, 0, static_cast<Puntero>(estado.CursorNuevo));
         estado.CursorTabla = estado.CursorNuevo;
     }
+    ContorneaBajoElPuntero();
 }
 
 void MueveColgada(int x, int y) {
@@ -277,7 +335,7 @@ void Form_Click() {
         MuestraOpciones();
     }
     if (estado.ZonaBajoCursor == 0)
-        estado.ModoOrdenar = false;
+        PonModoOrdenar(false);
 }
 
 bool TeclaActiva(int tecla) {

@@ -5,6 +5,7 @@
 #include "table/announcements.h"
 #include "table/button_column.h"
 #include "table/controls.h"
+#include "table/frames.h"
 
 namespace {
 
@@ -49,6 +50,7 @@ bool EsperaHasta(bool (*lista)()) {
         AtiendeCierrePendiente();
         if (!PartidaSigue())
             return false;
+        RevisaMarcos();
         if (!plataforma().EsperaEvento()) {
             sesion.sin_eventos = true;
             estado.PartidaEnCurso = false;

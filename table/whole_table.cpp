@@ -8,22 +8,28 @@
 #include "table/bet_board.h"
 #include "table/button_column.h"
 #include "table/controls.h"
+#include "table/frames.h"
 #include "table/game_row.h"
 #include "table/hand_order.h"
+#include "table/keyboard_walk.h"
 #include "table/layout.h"
 #include "table/manual_spread.h"
 #include "table/messages.h"
+#include "table/notice.h"
 #include "table/options_menu.h"
 #include "table/pile.h"
+#include "table/score_plate.h"
 #include "table/seat_drawing.h"
+#include "table/sheet_layout.h"
 #include "table/side_buttons.h"
 #include "table/table_view.h"
 #include "table/trace.h"
 
 namespace {
 
-constexpr Control kDeLaMesa[] = {Control::Pic_Apostadora, Control::Pic_BotDobSeg,
-                                 Control::Pic_SelOpciones, Control::Pic_Mover};
+constexpr Control kDeLaMesa[] = {Control::Pic_Apostadora,  Control::Pic_BotDobSeg,
+                                 Control::Pic_SelOpciones, Control::Pic_Mover,
+                                 Control::Pic_Tanteo,      Control::Pic_Aviso};
 
 Lienzo& Mesa() {
     return plataforma().LienzoDe(Control::Mesa, 0);
@@ -95,6 +101,7 @@ void OcultaControlesMesa() {
 }
 
 void LimpiarMesa() {
+    OlvidaMarco();
     const VistaMesa antes = std::exchange(vista, {});
     vista.puntero_x = antes.puntero_x;
     vista.puntero_y = antes.puntero_y;
@@ -108,6 +115,7 @@ void RedibujarMesa() {
     if (!plataforma().HayPantalla())
         return;
     LimpiaTapete();
+    PintaMesaVacia();
     RedibujaMazo();
     RedibujaSorteo();
     const FilaJuego* juego = FilaDe(estado.JuegoActivo);
@@ -124,10 +132,34 @@ void RedibujarMesa() {
     if (estado.RepartoEnCurso)
         PintaReparto();
     RedibujaTantos();
+    PintaTanteo();
     RepintaApostadora();
     PintaColumna();
     PintaSugerencia();
     PintaOpciones();
     PintaMover();
+    RefrescaAviso();
+    RevisaMarcos();
+    plataforma().Repinta();
+}
+
+void PintaMesaVacia() {
+    constexpr Fuente kLetraJuego{.alto = 30, .negrita = true}, kLetraComienzo{.alto = 14};
+    constexpr int kDelEmblema = 12, kDelNombre = 46;
+    const FilaJuego* juego = FilaDe(estado.JuegoActivo);
+    if (!plataforma().HayPantalla() || estado.PartidaEnCurso || vista.nombres || juego == nullptr)
+        return;
+    const lamina::Recorte& emblema = lamina::kEmblemaPortada;
+    const Rectangulo donde{estado.CentroX - emblema.ancho / 2, estado.CentroY - emblema.alto,
+                           emblema.ancho, emblema.alto};
+    const int debajo = donde.y + donde.alto + kDelEmblema;
+    Lienzo& mesa = Mesa();
+    mesa.Lamina(donde.x, donde.y, emblema);
+    mesa.Velo(donde);
+    mesa.Texto(estado.CentroX, debajo, juego->nombre, kLetraJuego, color::kBlanco,
+               Alineacion::Centro);
+    mesa.Texto(estado.CentroX, debajo + kDelNombre,
+               "Para empezar, pulse el primer botón de la derecha o cualquier tecla.",
+               kLetraComienzo, color::kBlanco, Alineacion::Centro);
     plataforma().Repinta();
 }

@@ -16,3 +16,6 @@ void LimpiarMesa();
 
 // Everything on the felt painted anew from the state.
 void RedibujarMesa();
+
+// While there is no match: the emblem, faint, the game's name, and where to begin.
+void PintaMesaVacia();

@@ -15,6 +15,7 @@
 #include "games/common/series.h"
 #include "table/button_column.h"
 #include "table/deal.h"
+#include "table/seat_drawing.h"
 #include "table/side_buttons.h"
 
 namespace {
@@ -42,9 +43,11 @@ constexpr TurnoDeApuesta kTurnoDeApuesta{.decide = DecideBlackJack,
         if (!TieneResto(asiento))
             continue;
         PonEnJuego(asiento, 1);
+        EnciendeTurno();
         ParpadeaApuesta();
         if (!ApuestaLaSerie(kTurnoDeApuesta))
             return false;
+        ApagaNombre();
     }
     apuestas.ModoApuesta = false;
     return true;

@@ -201,6 +201,7 @@ bool JuegaAsiento(Integer asiento) {
         if (!JuegaSerie())
             return false;
     }
+    ApagaNombre();
     return true;
 }
 
@@ -213,6 +214,7 @@ void JuegaLaBanca() {
         RobarCartas(banca, 1, 0);
         Pausa(500);
     }
+    ApagaNombre();
     if (PuntosBlackJack(banca, 1) <= kVeintiuna)
         return DiDe(banca, "se planta");
     DiDe(banca, "se pasa");

@@ -179,6 +179,7 @@ void CierraBotones() {
     if (!IniciarJuego())
         return false;
     HabilitaBoton(kBotonNueva, true);
+    PintaTendido();
     estado.Juegos(estado.JuegosJugados).Inicio = estado.NombreJugador(estado.JugadorMano);
     PonAntesDelMano();
     do {

@@ -3,12 +3,18 @@
 #include "games/cinquillo/cinquillo_table.h"
 
 #include <algorithm>
+#include <array>
+#include <optional>
+#include <utility>
 
 #include "core/game_state.h"
 #include "core/numeric.h"
+#include "core/text.h"
 #include "games/cinquillo/cinquillo_choice.h"
 #include "games/common/trick_state.h"
+#include "games/common/trick_values.h"
 #include "platform/platform.h"
+#include "table/table_view.h"
 
 namespace {
 
@@ -16,6 +22,7 @@ constexpr int kMargen = 4;         // felt left free before the seats' zones
 constexpr int kRealce = 20;        // raised cards of the side seats stand so far into the table
 constexpr int kAnchoColumna = 106; // at most
 constexpr int kRangos = 10;
+constexpr int kAltoDelIndice = 19; // what must be seen of a card for its number to be whole
 
 struct Rejilla {
     int x, y, columna, fila;
@@ -44,6 +51,48 @@ void LimpiaColumna(Lienzo& mesa, Integer palo) {
     }
     if (abajo > 0)
         mesa.Fieltro({LugarTendido(palo, 1).x, arriba, kAnchoCarta, abajo - arriba});
+}
+
+// Where a suit begins, as long as its 5 is not laid. Not before all cards are dealt: they come from the middle.
+void PintaSitiosDeLosCincos(Lienzo& mesa) {
+    if (!vista.nombres || estado.CartasEnMazo > 0 || estado.RepartoEnCurso)
+        return;
+    for (Integer palo = kOros; palo <= kBastos; ++palo) {
+        if (bazas.CartaJugada(palo, kCinco) != 0)
+            continue;
+        const Punto lugar = LugarTendido(palo, kCinco);
+        const Rectangulo donde{lugar.x, lugar.y, kAnchoCarta, kAltoCarta};
+        mesa.Fieltro(donde);
+        mesa.Carta(donde.x, donde.y,
+                   {.palo = palo, .valor = kCinco, .cara = kDescubierta, .orientacion = 1});
+        mesa.Velo(donde);
+    }
+}
+
+// The rank of a card of which only a narrow strip is to be seen: the number in its corner is higher than that.
+void PintaRango(Lienzo& mesa, const Punto& carta, Integer palo, Integer valor) {
+    constexpr Color kPapel = 0xE6F5FB;
+    constexpr std::array<Color, 5> kTintas{0, 0x064884, 0x2A20B3, 0x944A1D, 0x276028};
+    constexpr Fuente kLetra{.alto = 10, .negrita = true, .tope = 13};
+    mesa.Caja({carta.x + 5, carta.y + 5, 14, LaRejilla().fila - 5}, kPapel);
+    mesa.Texto(carta.x + 12, carta.y + 2, Numero(valor), kLetra,
+               kTintas.at(static_cast<std::size_t>(palo)), Alineacion::Centro);
+}
+
+// From the Rey down; the last one covers no other.
+void PintaColumna(Lienzo& mesa, Integer palo) {
+    const bool estrecha = LaRejilla().fila < kAltoDelIndice;
+    std::optional<std::pair<Punto, Integer>> encima;
+    for (Integer valor = kRey; valor >= 1; --valor) {
+        if (bazas.CartaJugada(palo, valor) == 0)
+            continue;
+        const Punto lugar = LugarTendido(palo, valor);
+        mesa.Carta(lugar.x, lugar.y,
+                   {.palo = palo, .valor = valor, .cara = kDescubierta, .orientacion = 1});
+        if (estrecha && encima)
+            PintaRango(mesa, encima->first, palo, encima->second);
+        encima = {lugar, valor};
+    }
 }
 
 bool Tendida(Integer palo, Integer valor) {
@@ -88,14 +137,8 @@ void PintaTendido() {
     Lienzo& mesa = plataforma().LienzoDe(Control::Mesa, 0);
     for (Integer palo = kOros; palo <= kBastos; ++palo)
         LimpiaColumna(mesa, palo);
-    for (Integer palo = kOros; palo <= kBastos; ++palo) {
-        for (Integer valor = 12; valor >= 1; --valor) {
-            if (bazas.CartaJugada(palo, valor) == 0)
-                continue;
-            const Punto lugar = LugarTendido(palo, valor);
-            mesa.Carta(lugar.x, lugar.y,
-                       {.palo = palo, .valor = valor, .cara = kDescubierta, .orientacion = 1});
-        }
-    }
+    PintaSitiosDeLosCincos(mesa);
+    for (Integer palo = kOros; palo <= kBastos; ++palo)
+        PintaColumna(mesa, palo);
     plataforma().Repinta();
 }

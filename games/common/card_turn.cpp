@@ -70,5 +70,6 @@ void JuegaElegida(Integer asiento, const Sitio& hasta) {
     const Sitio desde{estado.CartaX, estado.CartaY, OrientacionDe(asiento)};
     SacaDeLaMano(asiento);
     MueveCarta(carta, desde, hasta);
+    ApagaNombre();
     DiDe(asiento, "juega " + ConArticulo(carta));
 }

@@ -18,6 +18,7 @@
 #include "table/manual_deal.h"
 #include "table/messages.h"
 #include "table/pending_rules.h"
+#include "table/score_plate.h"
 #include "table/seat_drawing.h"
 #include "table/sounds.h"
 #include "table/waiting.h"
@@ -86,6 +87,7 @@ void PonMesaDeMano() {
     LimpiarMesa();
     OcultaTantos();
     MostrarNombres();
+    PintaTanteo();
     for (Integer asiento = 1; asiento <= 4; ++asiento) {
         if (SeVeAlEmpezar(asiento))
             RedibujarAsiento(asiento);
@@ -151,6 +153,13 @@ std::string TextoFinalPartida() {
     return texto != nullptr ? texto() : TextoGana(estado.GanadorPartida, "la partida");
 }
 
+void MarcaGanadores(bool visible) {
+    for (int asiento = 1; asiento <= 4; ++asiento) {
+        if (EnEquipo(asiento, estado.GanadorMano))
+            MarcaGanador(asiento, visible);
+    }
+}
+
 std::string Equipo(int uno) {
     return estado.NombreJugador(uno) + " y " + estado.NombreJugador(uno + 2);
 }
@@ -171,6 +180,7 @@ bool IniciarJuego() {
         return false;
     if (JuegoEnMesa().mano.descubre != nullptr)
         JuegoEnMesa().mano.descubre();
+    RefrescaTanteo();
     estado.ManoEnCurso = true;
     for (int boton : {kBotonPersonal, kBotonNormas, kBotonSalir, kBotonEstadis})
         HabilitaBoton(boton, true);
@@ -193,13 +203,11 @@ void ParpadeaGanador() {
     Sonido(1, sonido::kFinMano);
     for (int vez = 0; vez < 4; ++vez) {
         for (const bool visible : {true, false}) {
-            for (int asiento = 1; asiento <= 4; ++asiento) {
-                if (EnEquipo(asiento, estado.GanadorMano))
-                    MarcaGanador(asiento, visible);
-            }
+            MarcaGanadores(visible);
             Pausa(visible ? 490 : 200);
         }
     }
+    MarcaGanadores(true);
 }
 
 std::string TextoGana(Integer ganador, const std::string& que) {
@@ -232,6 +240,7 @@ void GanaMano() {
 
 void ApuntaMano() {
     sesion.mano_apuntada = true;
+    RefrescaTanteo();
     GuardarPartida();
 }
 

@@ -20,6 +20,7 @@
 #include "table/button_column.h"
 #include "table/hand_order.h"
 #include "table/messages.h"
+#include "table/seat_drawing.h"
 #include "table/table_input.h"
 #include "table/waiting.h"
 
@@ -144,6 +145,7 @@ bool TurnoDeApuesta() {
         AnotaSubida(asiento);
     }
     Pausa(kPausaFinTurno);
+    ApagaNombre();
     OcultaApostadora();
     return true;
 }

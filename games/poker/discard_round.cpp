@@ -110,6 +110,7 @@ void Descarta(Integer asiento) {
     if (!EligioAMano(asiento))
         PonAlturas(asiento, [](int lugar) { return poker.MarcaDescarte(lugar) != 0; });
     Descarta(asiento);
+    ApagaNombre();
     return true;
 }
 

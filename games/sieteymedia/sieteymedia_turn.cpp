@@ -11,6 +11,7 @@
 #include "games/common/series.h"
 #include "games/sieteymedia/sieteymedia_cards.h"
 #include "games/sieteymedia/sieteymedia_decision.h"
+#include "games/sieteymedia/sieteymedia_input.h"
 #include "games/sieteymedia/sieteymedia_serie.h"
 #include "platform/canvas.h"
 #include "table/announcements.h"
@@ -24,8 +25,7 @@
 namespace {
 
 constexpr int kTipReglasApuesta = 30, kTipApuesta = 31;
-constexpr int kTipCuatro = 32, kTipMedias = 33, kTipTapada = 34, kTipPlantarse = 35,
-              kTipCantar = 36, kTipTutor = 50;
+constexpr int kTipTapada = 34, kTipPlantarse = 35, kTipCantar = 36, kTipTutor = 50;
 constexpr Integer kPrimeraMedia = 10; // Sota, Caballo and Rey count a half
 constexpr TurnoDeApuesta kApuesta{.decide = DecideSiete,
                                   .tip_automatico = kTipReglasApuesta,
@@ -235,6 +235,7 @@ bool TurnoDeAsiento() {
     if (!JueganSusSeries(asiento))
         return false;
     PonEnJuego(asiento, 1);
+    ApagaNombre();
     RedibujarAsiento(asiento);
     return true;
 }
@@ -242,12 +243,14 @@ bool TurnoDeAsiento() {
 bool TurnoDeLaBanca() {
     const Integer banca = estado.JugadorBanca;
     PonEnJuego(banca, 1);
+    EnciendeTurno();
     apuestas.FaseApuesta = kFaseJuego;
     series.PuedeCambiarCuatro = OfreceCambiarCuatro(banca);
     CuentaManosVivas();
     DestapaSerie(banca, 1);
     if (estado.JugadoresEnMano > 1 && !JuegaSerie())
         return false;
+    ApagaNombre();
     RetiraOfertas();
     return true;
 }

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "core/game_state.h"
+#include "games/common/deck_table.h"
 #include "games/common/hand_queries.h"
 #include "games/common/trick_state.h"
 #include "games/common/trick_values.h"
@@ -24,7 +25,7 @@ void EnsenaTute(Integer asiento) {
     }
     DiDe(asiento, "canta Tute de " + estado.NombreValorPlural(bazas.TuteEnMano));
     Pausa(500);
-    ParpadeaCartas(asiento, lugares);
+    ParpadeaCartas(asiento, lugares, "Tute");
     bazas.TuteCantado = true;
 }
 
@@ -44,6 +45,10 @@ Integer PaloQueCanta(Integer asiento) {
     return elegido;
 }
 
+std::string PalabrasDelCante(Integer palo) {
+    return palo == estado.PaloTriunfo ? "Cuarenta" : std::string("Veinte en ") + NombreDePalo(palo);
+}
+
 void EnsenaCante(Integer asiento, Integer palo) {
     std::vector<Integer> lugares;
     for (const Integer valor : {kCaballo, kRey}) {
@@ -51,7 +56,7 @@ void EnsenaCante(Integer asiento, Integer palo) {
             lugares.push_back(bazas.LugarCarta);
     }
     Pausa(500);
-    ParpadeaCartas(asiento, lugares);
+    ParpadeaCartas(asiento, lugares, PalabrasDelCante(palo));
 }
 
 void Canta(Integer asiento, Integer palo) {

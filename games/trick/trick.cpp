@@ -61,9 +61,11 @@ void CierraBaza() {
     DiDe(estado.GanadorBaza, "gana la baza");
     if (ReglasEnMesa().diez_ultimas && estado.NumCartas(estado.GanadorBaza, kSerie) == 0)
         bazas.TantosBaza += kDiezUltimas;
+    EnciendeBaza(estado.GanadorBaza);
     ParpadeaBaza();
     AnotaTantos();
     RecogeMesa();
+    ApagaNombre();
     AnotaCartas();
     for (Integer asiento = 1; asiento <= 4; ++asiento) {
         if (estado.EstadoJugador(asiento) == kActivado)

@@ -3,6 +3,7 @@
 #include "core/game_state.h"
 #include "core/numeric.h"
 #include "core/text.h"
+#include "games/common/deck_table.h"
 #include "games/common/hands.h"
 #include "games/common/trick_state.h"
 #include "games/common/trick_values.h"
@@ -14,10 +15,13 @@
 #include "games/trick/trick_console.h"
 #include "games/trick/trick_driver.h"
 #include "games/trick/trick_invariants.h"
+#include "games/trick/trick_rules.h"
 #include "games/trick/trick_statistics.h"
 #include "games/trick/trick_view.h"
 #include "table/deck_setup.h"
 #include "table/game_row.h"
+#include "table/messages.h"
+#include "table/table_input.h"
 
 namespace {
 
@@ -64,7 +68,13 @@ bool ClicEnMazo(Puntero puntero, int /*lugar*/) {
     if (puntero != Puntero::Cambiar)
         return false;
     CambiaTriunfo();
+    RetiraSugerencia({kTipCambiaSiete, kTipCambiaBaja});
+    RefrescaPuntero();
     return true;
+}
+
+Triunfo TriunfoDeLaMano() {
+    return {estado.PaloTriunfo, NombreDePalo(estado.PaloTriunfo)};
 }
 
 // What both games have on the table.
@@ -79,6 +89,7 @@ FilaJuego FilaDeBazas(Integer id, const char* nombre, void (*prepara)(), void (*
                     .tutor = [] { AconsejaCarta(EligeParaJugar); }},
         .pintura = {.bajo_mazo = PintaTriunfo,
                     .centro = PintaBaza,
+                    .triunfo = TriunfoDeLaMano,
                     .rotulo_continuar = RotuloDeJuega},
         .mano = {.limpia = BorraBazas, .descubre = DescubreTriunfo},
         .partida = {.nueva = OlvidaBazas},

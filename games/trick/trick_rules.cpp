@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr int kTipReglas = 15, kTipCambiaSiete = 42, kTipCambiaBaja = 43, kTipTutor = 50;
+constexpr int kTipReglas = 15, kTipTutor = 50;
 
 int TipDeCambio() {
     if (bazas.CartaCambio == 0)

@@ -4,6 +4,9 @@
 
 #include "core/tabla.h"
 
+// The tips that offer the exchange of the turned card.
+inline constexpr int kTipCambiaSiete = 42, kTipCambiaBaja = 43;
+
 struct ReglasBazas {
     // The choice of a card for JugadorActual.
     void (*elige)() = nullptr;

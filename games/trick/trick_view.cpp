@@ -146,7 +146,10 @@ void ParpadeaBaza() {
     Pausa(500);
 }
 
-void ParpadeaCartas(Integer asiento, const std::vector<Integer>& lugares) {
+void ParpadeaCartas(Integer asiento, const std::vector<Integer>& lugares,
+                    const std::string& palabras) {
+    if (!palabras.empty())
+        MuestraCante(asiento, palabras);
     for (int vez = 0; vez < 3; ++vez) {
         PonCartas(asiento, lugares, kDescubierta, kLevantada);
         Pausa(180);
@@ -155,4 +158,6 @@ void ParpadeaCartas(Integer asiento, const std::vector<Integer>& lugares) {
         PonCartas(asiento, lugares, kDescubierta, kEnLinea);
     }
     PonCartas(asiento, lugares, estado.CartasJugador(asiento), kEnLinea);
+    if (!palabras.empty())
+        QuitaCante(asiento);
 }

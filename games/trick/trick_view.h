@@ -2,6 +2,7 @@
 // What Tute and Brisca show in the middle of the felt: the turned card sideways under the pile, the cards
 // of the trick, cards of a hand that blink.
 
+#include <string>
 #include <vector>
 
 #include "core/tabla.h"
@@ -36,5 +37,6 @@ void ParpadeaBaza();
 void AgregaBazaYTriunfo(std::vector<Objetivo>& todos);
 
 // The cards at these places of the seat's hand blink three times face up, raised out of it, and go back to the
-// seat's face setting. Writes CaraCarta and AlturaCarta of those places.
-void ParpadeaCartas(Integer asiento, const std::vector<Integer>& lugares);
+// seat's face setting; as long as they do the words stand before them. Writes CaraCarta and AlturaCarta of those places.
+void ParpadeaCartas(Integer asiento, const std::vector<Integer>& lugares,
+                    const std::string& palabras = "");

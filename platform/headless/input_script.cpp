@@ -42,6 +42,10 @@ void GuionEntrada::Tecla(int tecla) {
     Encola({.tipo = TipoEvento::Tecla, .tecla = tecla});
 }
 
+void GuionEntrada::Manda(Mando mando, int numero) {
+    Encola({.tipo = TipoEvento::Mando, .indice = numero, .mando = mando});
+}
+
 void GuionEntrada::PulsaControl(ControlMesa cual) {
     Encola({.tipo = TipoEvento::Clic, .control = cual.control, .indice = cual.indice});
 }

@@ -15,6 +15,8 @@ public:
     // Move, press, release and the click, one after the other.
     void RatonClic(int x, int y, int boton);
     void Tecla(int tecla);
+    // A key that is no character; numero of Mando::Funcion.
+    void Manda(Mando mando, int numero = 0);
     void PulsaControl(ControlMesa cual);
     // Anything else that a window reports: a new size, the close button, the end of the session.
     void Encola(const Evento& evento);

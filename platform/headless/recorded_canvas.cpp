@@ -65,3 +65,8 @@ void LienzoRegistrado::Lamina(int x, int y, const lamina::Recorte&) {
     if (graba_)
         Anota(fmt::format("Lamina({}, {})", x, y));
 }
+
+void LienzoRegistrado::Velo(const Rectangulo& donde) {
+    if (graba_)
+        Anota(fmt::format("Velo({})", Medidas(donde)));
+}

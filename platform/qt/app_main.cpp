@@ -1,16 +1,15 @@
 // The program: a window with the table in it, or a demonstration without a window.
 
 #include <QApplication>
-#include <QCommandLineParser>
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QMessageBox>
 #include <QTranslator>
-#include <algorithm>
 #include <cstdio>
-#include <cstring>
 #include <exception>
+#include <memory>
+#include <span>
 #include <string>
 #ifdef __GLIBC__
 #include <malloc.h>
@@ -18,8 +17,10 @@
 
 #include "forms/normas_view.h"
 #include "forms/personal_view.h"
+#include "platform/qt/command_line.h"
 #include "platform/qt/demo.h"
 #include "platform/qt/folder_lock.h"
+#include "platform/qt/open_screen.h"
 #include "platform/qt/places.h"
 #include "platform/qt/platform_qt.h"
 #include "platform/qt/termination.h"
@@ -31,14 +32,7 @@
 
 namespace {
 
-constexpr const char* kOpcionDemo = "demo";
-
-bool Pide(int argc, char** argv, std::initializer_list<const char*> opciones) {
-    return std::any_of(argv + 1, argv + argc, [&](const char* palabra) {
-        return std::ranges::any_of(
-            opciones, [&](const char* opcion) { return std::strcmp(palabra, opcion) == 0; });
-    });
-}
+constexpr int kMalaOrden = 2;
 
 // Pictures that were only read to be made smaller give their memory back, instead of leaving holes in the heap.
 void CuidaLaMemoria() {
@@ -48,18 +42,13 @@ void CuidaLaMemoria() {
 #endif
 }
 
-// What has to be settled before Qt looks for a screen. False when there is none to play on.
-bool PreparaEntorno(int argc, char** argv) {
+// What has to be settled before Qt looks for a screen.
+void PreparaEntorno(bool con_ventana) {
     // The table is painted without OpenGL; its libraries would only take memory.
     if (!qEnvironmentVariableIsSet("QT_XCB_GL_INTEGRATION"))
         qputenv("QT_XCB_GL_INTEGRATION", "none");
-    const bool sin_ventana = Pide(argc, argv, {"--demo", "--help", "-h", "--version", "-v"});
-    const bool hay_pantalla = qEnvironmentVariableIsSet("QT_QPA_PLATFORM") ||
-                              !qEnvironmentVariableIsEmpty("DISPLAY") ||
-                              !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
-    if (sin_ventana)
+    if (!con_ventana)
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    return sin_ventana || hay_pantalla;
 }
 
 void Presenta() {
@@ -79,20 +68,6 @@ void HablaEspanol(QTranslator& traductor) {
     if (traductor.load(QStringLiteral("qtbase_es"),
                        QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(&traductor);
-}
-
-bool QuiereDemo(const QApplication& programa) {
-    QCommandLineParser opciones;
-    opciones.setApplicationDescription(QStringLiteral(
-        "Seis juegos de cartas en una mesa: Póker, Black Jack, Tute, Brisca, Siete y media y "
-        "Cinquillo."));
-    opciones.addHelpOption();
-    opciones.addVersionOption();
-    opciones.addOption({QString::fromLatin1(kOpcionDemo),
-                        QStringLiteral("Juega sin ventana una partida de muestra de cada juego, "
-                                       "cuenta las manos y deja la mesa pintada en partida.png.")});
-    opciones.process(programa);
-    return opciones.isSet(QString::fromLatin1(kOpcionDemo));
 }
 
 // Another table stands open on the same files: two would write over each other's matches.
@@ -130,25 +105,39 @@ void CuentaFallo(const char* motivo) {
                           QString::fromUtf8(motivo));
 }
 
-} // namespace
-
-int main(int argc, char** argv) {
+// The games with or without a window; the program's status.
+int Juega(int argc, char** argv, bool con_ventana) {
     CuidaLaMemoria();
-    if (!PreparaEntorno(argc, argv)) {
-        std::fputs("zovin: no hay pantalla (ni DISPLAY ni WAYLAND_DISPLAY). Con --demo se juega "
-                   "sin ella.\n",
-                   stderr);
-        return 1;
-    }
-    QApplication programa(argc, argv);
+    PreparaEntorno(con_ventana);
+    const std::unique_ptr<QApplication> programa = AbrePantalla(argc, argv);
     Presenta();
     QTranslator traductor;
     HablaEspanol(traductor);
     try {
         const QString carpeta = CarpetaDeArranque(QString::fromLocal8Bit(argv[0]));
-        return QuiereDemo(programa) ? JuegaDemo(carpeta) : JuegaEnVentana(carpeta);
+        return con_ventana ? JuegaEnVentana(carpeta) : JuegaDemo(carpeta);
     } catch (const std::exception& fallo) {
         CuentaFallo(fallo.what());
         return 1;
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const LineaDeOrdenes linea =
+        LeeOrdenes(std::span(argv, static_cast<std::size_t>(argc)).subspan(1));
+    switch (linea.orden) {
+    case Orden::Ayuda:
+        std::fputs(TextoDeUso().c_str(), stdout);
+        return 0;
+    case Orden::Version:
+        std::puts("zovin " ZOVIN_VERSION);
+        return 0;
+    case Orden::Error:
+        std::fprintf(stderr, "zovin: %s\n", linea.queja.c_str());
+        return kMalaOrden;
+    default:
+        return Juega(argc, argv, linea.orden == Orden::Juega);
     }
 }

@@ -12,16 +12,15 @@ QString Qt8(std::string_view texto) {
     return QString::fromUtf8(texto.data(), static_cast<qsizetype>(texto.size()));
 }
 
-double Izquierda(double x, double ancho, Alineacion alineacion) {
-    switch (alineacion) {
-    case Alineacion::Centro:
-        return x - ancho / 2;
-    case Alineacion::Derecha:
-        return x - ancho;
-    case Alineacion::Izquierda:
-        break;
-    }
-    return x;
+// The light falls from above: the felt is darker towards the foot of the canvas. A row has one shade along all of its
+// length, so that a part that is cleared is the same to the pixel as when all of it is painted.
+void PintaFieltro(QPainter& p, const QRect& sitio, const Imagenes& imagenes) {
+    constexpr int kSombraAlPie = 72;
+    QLinearGradient sombra(0, 0, 0, p.device()->height());
+    sombra.setColorAt(0, QColor(0, 0, 0, 0));
+    sombra.setColorAt(1, QColor(0, 0, 0, kSombraAlPie));
+    p.fillRect(sitio, QBrush(imagenes.Fieltro()));
+    p.fillRect(sitio, sombra);
 }
 
 } // namespace
@@ -63,7 +62,7 @@ void LienzoQt::Fieltro(const Rectangulo& donde) {
     QPainter& p = Pintor();
     switch (fondo_) {
     case Fondo::Fieltro:
-        p.fillRect(sitio, QBrush(imagenes_.Fieltro()));
+        PintaFieltro(p, sitio, imagenes_);
         break;
     case Fondo::Claro:
         p.setCompositionMode(QPainter::CompositionMode_Source);
@@ -116,7 +115,8 @@ void LienzoQt::Texto(int x, int y, std::string_view texto, const Fuente& fuente,
     const QFontMetricsF medida(letra);
     const double ancho = medida.horizontalAdvance(letras);
     const double estrecho = fuente.tope > 0 && ancho > fuente.tope ? fuente.tope / ancho : 1;
-    const QPointF base(Izquierda(x, ancho * estrecho, alineacion), y + medida.ascent());
+    const QPointF base(BordeIzquierdo<double>(x, ancho * estrecho, alineacion),
+                       y + medida.ascent());
     const double r = imagenes_.Ratio();
     const QTransform sitio = QTransform::fromScale(estrecho, 1) *
                              QTransform::fromTranslate(base.x(), base.y()) *
@@ -146,8 +146,16 @@ void LienzoQt::MiniCarta(int x, int y, int ancho, int alto, const ImagenCarta& c
 
 void LienzoQt::Lamina(int x, int y, const lamina::Recorte& recorte) {
     const QRect sitio = imagenes_.Px(Rectangulo{x, y, recorte.ancho, recorte.alto});
-    Pintor().drawImage(sitio, PiezaDe(recorte, imagenes_.Ratio()));
+    Pintor().drawImage(sitio.topLeft(), PiezaDe(recorte, sitio.size()));
     Tocado(sitio);
+}
+
+void LienzoQt::Velo(const Rectangulo& donde) {
+    constexpr double kTapa = 0.8;
+    QPainter& p = Pintor();
+    p.setOpacity(kTapa);
+    Fieltro(donde);
+    p.setOpacity(1);
 }
 
 QPainter& LienzoRetenido::Pintor() {
@@ -180,8 +188,10 @@ QImage LienzoRetenido::CuadroVacio() {
     QImage cuadro(tamano, fondo_ == Fondo::Claro ? QImage::Format_ARGB32_Premultiplied
                                                  : QImage::Format_RGB32);
     cuadro.fill(fondo_ == Fondo::Claro ? Qt::transparent : Qt::white);
-    if (fondo_ == Fondo::Fieltro)
-        QPainter(&cuadro).fillRect(cuadro.rect(), QBrush(imagenes_.Fieltro()));
+    if (fondo_ == Fondo::Fieltro) {
+        QPainter p(&cuadro);
+        PintaFieltro(p, cuadro.rect(), imagenes_);
+    }
     return cuadro;
 }
 

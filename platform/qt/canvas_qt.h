@@ -33,6 +33,7 @@ public:
     void Carta(int x, int y, const ImagenCarta& carta) override;
     void MiniCarta(int x, int y, int ancho, int alto, const ImagenCarta& carta) override;
     void Lamina(int x, int y, const lamina::Recorte& recorte) override;
+    void Velo(const Rectangulo& donde) override;
 
 protected:
     // A painter in device pixels from the canvas's corner, in its plain state.

@@ -10,6 +10,7 @@
 
 #include "core/game_state.h"
 #include "platform/platform.h"
+#include "platform/qt/drawings.h"
 #include "table/sheet_layout.h"
 
 namespace {
@@ -18,6 +19,11 @@ constexpr int kFilas = 4;
 constexpr Integer kSegundoComodin = 92;
 constexpr double kRadioMiniCarta = 3;
 constexpr QColor kCantoMiniCarta(70, 58, 44);
+// Behind a card's round corners: the colour of its edge, which is all that is left of it there.
+constexpr QColor kCantoCarta(0x8D, 0x80, 0x68);
+const QString kDibujoDorso = QStringLiteral("cards/dorso"),
+              kDibujoComodin1 = QStringLiteral("cards/comodin1"),
+              kDibujoComodin2 = QStringLiteral("cards/comodin2");
 
 [[noreturn]] void FallaBaraja(const QString& ruta, const QString& motivo) {
     throw FalloGrave(QStringLiteral("No se puede usar la imagen de la baraja «%1»: %2.")
@@ -128,10 +134,8 @@ Imagenes::Imagenes(double ratio) : ratio_(ratio), fieltro_(HazFieltro()) {}
 
 void Imagenes::CambiaRatio(double ratio) {
     ratio_ = ratio;
-    dorso_ = {};
-    comodin1_ = {};
-    comodin2_ = {};
-    if (!HayBaraja())
+    pintadas_.clear();
+    if (baraja_.isNull())
         return;
     try {
         CargaBaraja(ruta_, columnas_);
@@ -144,7 +148,11 @@ void Imagenes::CambiaRatio(double ratio) {
 }
 
 void Imagenes::CargaBaraja(const QString& ruta, int columnas) {
-    baraja_ = Celdas(LeeBaraja(ruta, columnas), columnas, kFilas, TamanoCarta(), ratio_);
+    baraja_ = EsBarajaDelPrograma(ruta, columnas)
+                  ? QImage()
+                  : Celdas(LeeBaraja(ruta, columnas), columnas, kFilas, TamanoCarta(), ratio_);
+    if (columnas != columnas_)
+        pintadas_.clear();
     ruta_ = ruta;
     columnas_ = columnas;
 }
@@ -162,24 +170,29 @@ QSize Imagenes::TamanoCarta() const {
     return {static_cast<int>(kAnchoCarta * ratio_), static_cast<int>(kAltoCarta * ratio_)};
 }
 
-QImage Imagenes::DeRecursos(QImage& lista, const char* nombre) const {
+QImage Imagenes::Pintada(const QString& dibujo) const {
+    QImage& lista = pintadas_[dibujo];
     if (lista.isNull())
-        lista = Celdas(QImage(QStringLiteral(":/arte/%1.png").arg(nombre)), 1, 1, TamanoCarta(),
-                       ratio_);
+        lista = Celdas(Dibujo(dibujo, TamanoCarta(), kCantoCarta), 1, 1, TamanoCarta(), ratio_);
     return lista;
+}
+
+QImage Imagenes::DeLaBaraja(int palo, int valor) const {
+    if (palo < 1 || palo > kFilas || valor < 1 || valor > columnas_)
+        return {};
+    if (baraja_.isNull())
+        return Pintada(DibujoDeCarta(columnas_, palo, valor));
+    const QSize celda = TamanoCarta();
+    return baraja_.copy(
+        QRect(QPoint((valor - 1) * celda.width(), (palo - 1) * celda.height()), celda));
 }
 
 QImage Imagenes::Derecha(const ImagenCarta& carta) const {
     if (carta.cara != kDescubierta)
-        return DeRecursos(dorso_, "dorso");
+        return Pintada(kDibujoDorso);
     if (carta.palo == kComodin)
-        return carta.valor == kSegundoComodin ? DeRecursos(comodin2_, "comodin2")
-                                              : DeRecursos(comodin1_, "comodin1");
-    if (carta.palo < 1 || carta.palo > kFilas || carta.valor < 1 || carta.valor > columnas_)
-        return {};
-    const QSize celda = TamanoCarta();
-    return baraja_.copy(
-        QRect(QPoint((carta.valor - 1) * celda.width(), (carta.palo - 1) * celda.height()), celda));
+        return Pintada(carta.valor == kSegundoComodin ? kDibujoComodin2 : kDibujoComodin1);
+    return DeLaBaraja(carta.palo, carta.valor);
 }
 
 // The back lies over one half of the face, with a rim where it ends. Upside down or turned to the left the upper
@@ -189,7 +202,7 @@ QImage Imagenes::MedioTapada(const QImage& cara, bool la_de_arriba) const {
     const int mitad = cara.height() / 2;
     QPainter p(&tapada);
     p.setClipRect(0, la_de_arriba ? 0 : mitad, cara.width(), cara.height() - mitad);
-    p.drawImage(0, 0, DeRecursos(dorso_, "dorso"));
+    p.drawImage(0, 0, Pintada(kDibujoDorso));
     p.fillRect(QRectF(0, mitad, cara.width(), ratio_), kCantoMiniCarta);
     return tapada;
 }

@@ -1,9 +1,11 @@
 #pragma once
-// The pictures that a canvas draws from, made ready once for a screen's pixel ratio: the cards of the deck
-// image with their round corners, and the tile of felt.
+// The pictures that a canvas draws from, made ready for a screen's pixel ratio: the cards of the deck image with their
+// round corners, and the tile of felt. Where the deck image is the one that the build has made, its cards are painted
+// from their drawings, each when it is first wanted: they are as sharp at any ratio.
 
 #include <QImage>
 #include <QString>
+#include <map>
 
 #include "platform/canvas.h"
 
@@ -19,7 +21,7 @@ public:
     // Four rows (palo) of columnas cells (valor), each 101 by 141 or the same whole multiple of it. FalloGrave
     // with file and reason when there is no such image; the deck in use then stays.
     void CargaBaraja(const QString& ruta, int columnas);
-    bool HayBaraja() const { return !baraja_.isNull(); }
+    bool HayBaraja() const { return columnas_ > 0; }
 
     // The card as it stands on the table, turned, in device pixels, its corners clear. A null image for a
     // card that the deck does not have.
@@ -37,14 +39,16 @@ public:
     QSize TamanoCarta() const;
 
 private:
-    QImage Derecha(const ImagenCarta& carta) const;                  // upright
+    QImage Derecha(const ImagenCarta& carta) const; // upright
+    QImage DeLaBaraja(int palo, int valor) const;
+    QImage Pintada(const QString& dibujo) const;
     QImage MedioTapada(const QImage& cara, bool la_de_arriba) const; // half of it under the back
-    QImage DeRecursos(QImage& lista, const char* nombre) const;
 
     double ratio_;
     QString ruta_;
     int columnas_ = 0;
-    QImage baraja_;                              // the cells side by side, each TamanoCarta
-    mutable QImage dorso_, comodin1_, comodin2_; // read when first drawn
+    QImage
+        baraja_; // another deck's cells side by side, each TamanoCarta; null for the program's own
+    mutable std::map<QString, QImage> pintadas_; // from the drawings, by name
     QImage fieltro_;
 };

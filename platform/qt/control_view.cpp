@@ -5,9 +5,10 @@
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
-#include <cmath>
 
 #include "platform/qt/pointers.h"
+#include "platform/qt/scale.h"
+#include "table/button_column.h"
 
 namespace {
 
@@ -24,6 +25,8 @@ Trato TratoDe(Control control) {
     case Control::Pic_Apostadora:
         return Trato::Panel;
     case Control::Pic_Tantos:
+    case Control::Pic_Tanteo:
+    case Control::Pic_Aviso:
     case Control::Pic_APApoJugAct:
     case Control::Pic_APApoJugAcu:
         return Trato::Placa;
@@ -94,7 +97,13 @@ void InstalaAccesoControles() {
     QAccessible::installFactory(HazAcceso);
 }
 
-void PintaCuadro(QPainter& pintor, const QImage& cuadro, double ratio, const QRect& expuesto) {
+double RatioDeVentana(const Imagenes& imagenes) {
+    return imagenes.Ratio() / FactorDeMesa();
+}
+
+void PintaCuadro(QPainter& pintor, const QImage& cuadro, const Imagenes& imagenes,
+                 const QRect& expuesto) {
+    const double ratio = RatioDeVentana(imagenes);
     pintor.scale(1 / ratio, 1 / ratio);
     const QRectF dispositivo(QPointF(expuesto.topLeft()) * ratio, QSizeF(expuesto.size()) * ratio);
     const QRect trozo = dispositivo.toAlignedRect().adjusted(-1, -1, 1, 1) & cuadro.rect();
@@ -126,11 +135,19 @@ bool VistaControl::EsMovil() const {
 }
 
 void VistaControl::Coloca(const Rectangulo& donde) {
-    lugar_ = donde;
+    donde_ = donde;
     const QSize tamano(donde.ancho, donde.alto);
-    setGeometry(QRect(QPoint(donde.x, donde.y), tamano));
+    // As large as its picture, wherever it stands.
+    const QRect entera = EnVentana({0, 0, donde.ancho, donde.alto});
+    setGeometry(QRect(EnVentana(donde).topLeft(), entera.size()));
     if (tamano != lienzo_.Tamano())
         lienzo_.PonTamano(tamano, false);
+}
+
+void VistaControl::AdaptaRatio() {
+    Coloca(donde_);
+    lienzo_.AdaptaRatio();
+    setCursor(CursorDe(puntero_));
 }
 
 void VistaControl::PonPuntero(Puntero puntero) {
@@ -147,26 +164,30 @@ void VistaControl::PonPuntero(Puntero puntero) {
 
 void VistaControl::Nombra(const QString& nombre) {
     setAccessibleName(nombre);
-    setToolTip(nombre);
+    setToolTip(control_ == Control::Pic_Boton
+                   ? nombre + QStringLiteral(" (F%1)").arg(TeclaDelBoton(indice_))
+                   : nombre);
 }
 
-void VistaControl::Pulsa() {
+void VistaControl::Pulsa(std::optional<Milisegundos> desde) {
     Evento clic;
     clic.tipo = TipoEvento::Clic;
     clic.control = control_;
     clic.indice = indice_;
+    clic.desde = desde;
     cola_.Pon(clic);
 }
 
 void VistaControl::paintEvent(QPaintEvent* evento) {
     QPainter p(this);
-    PintaCuadro(p, lienzo_.Cuadro(), imagenes_.Ratio(), evento->rect());
+    PintaCuadro(p, lienzo_.Cuadro(), imagenes_, evento->rect());
     if (!hasFocus())
         return;
     p.resetTransform();
+    p.scale(FactorDeMesa(), FactorDeMesa());
     p.setRenderHint(QPainter::Antialiasing);
     p.setPen(QPen(QColor(255, 244, 170), 2, Qt::DotLine));
-    p.drawRoundedRect(QRectF(rect()).adjusted(2, 2, -2, -2), 6, 6);
+    p.drawRoundedRect(QRectF(0, 0, donde_.ancho, donde_.alto).adjusted(2, 2, -2, -2), 6, 6);
 }
 
 void VistaControl::Avisa(TipoEvento tipo, const QMouseEvent& evento) {
@@ -174,13 +195,14 @@ void VistaControl::Avisa(TipoEvento tipo, const QMouseEvent& evento) {
     raton.tipo = tipo;
     raton.control = control_;
     raton.indice = indice_;
-    raton.x = static_cast<int>(std::floor(evento.position().x()));
-    raton.y = static_cast<int>(std::floor(evento.position().y()));
+    raton.x = EnMesa(evento.position()).x();
+    raton.y = EnMesa(evento.position()).y();
     raton.boton = evento.button() == Qt::RightButton ? 2 : 1;
     cola_.Pon(raton);
 }
 
 void VistaControl::mousePressEvent(QMouseEvent* evento) {
+    apretado_ = cola_.Ahora();
     evento->accept();
 }
 
@@ -189,7 +211,7 @@ void VistaControl::mouseReleaseEvent(QMouseEvent* evento) {
     if (!dentro || evento->button() != Qt::LeftButton)
         return;
     if (EsBoton())
-        Pulsa();
+        Pulsa(apretado_);
     if (control_ == Control::Pic_SelOpciones)
         Avisa(TipoEvento::RatonSuelta, *evento);
 }
@@ -207,14 +229,6 @@ void VistaControl::keyPressEvent(QKeyEvent* evento) {
         if (EsBoton() && !evento->isAutoRepeat())
             return Pulsa();
         break;
-    case Qt::Key_Up:
-    case Qt::Key_Left:
-        focusPreviousChild();
-        return;
-    case Qt::Key_Down:
-    case Qt::Key_Right:
-        focusNextChild();
-        return;
     default:
         break;
     }

@@ -9,7 +9,10 @@
 
 // Paints a retained picture at the widget's corner, pixel by pixel, where it is exposed. Leaves the painter
 // in the picture's device pixels.
-void PintaCuadro(QPainter& pintor, const QImage& cuadro, double ratio, const QRect& expuesto);
+void PintaCuadro(QPainter& pintor, const QImage& cuadro, const Imagenes& imagenes,
+                 const QRect& expuesto);
+// Device pixels for each pixel of the window, as the images are made for them.
+double RatioDeVentana(const Imagenes& imagenes);
 
 class VistaControl : public QWidget {
     Q_OBJECT
@@ -22,14 +25,17 @@ public:
     // It is shown on its way from one place to another, and is nothing by itself.
     bool EsMovil() const;
     LienzoRetenido& ElLienzo() { return lienzo_; }
+    // Table pixels, from the corner of what it stands on.
     void Coloca(const Rectangulo& donde);
+    // As for the felt: the place and the picture for other images.
+    void AdaptaRatio();
     // In table pixels, as it was placed.
-    const Rectangulo& ElLugar() const { return lugar_; }
+    const Rectangulo& ElLugar() const { return donde_; }
     void PonPuntero(Puntero puntero);
     Puntero ElPuntero() const { return puntero_; }
     void Nombra(const QString& nombre);
     // A click that did not come from the mouse.
-    void Pulsa();
+    void Pulsa() { Pulsa(cola_.Ahora()); }
 
 protected:
     void paintEvent(QPaintEvent* evento) override;
@@ -40,14 +46,16 @@ protected:
 
 private:
     void Avisa(TipoEvento tipo, const QMouseEvent& evento);
+    void Pulsa(std::optional<Milisegundos> desde);
 
     const Control control_;
     const int indice_;
     ColaEventos& cola_;
     Imagenes& imagenes_;
     LienzoRetenido lienzo_;
-    Rectangulo lugar_;
+    Rectangulo donde_;
     Puntero puntero_ = Puntero::Flecha;
+    std::optional<Milisegundos> apretado_; // when the button of the mouse went down on it
 };
 
 // Lets screen readers know the buttons among the controls as buttons, the disabled ones as disabled.

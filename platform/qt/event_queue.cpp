@@ -2,6 +2,30 @@
 
 #include <QKeyEvent>
 #include <algorithm>
+#include <array>
+
+namespace {
+
+struct Flecha {
+    Qt::Key tecla;
+    Qt::KeyboardModifier con;
+    Mando mando;
+};
+
+constexpr std::array kFlechas{
+    Flecha{Qt::Key_Left, Qt::NoModifier, Mando::Izquierda},
+    Flecha{Qt::Key_Right, Qt::NoModifier, Mando::Derecha},
+    Flecha{Qt::Key_Up, Qt::NoModifier, Mando::Arriba},
+    Flecha{Qt::Key_Down, Qt::NoModifier, Mando::Abajo},
+    Flecha{Qt::Key_Left, Qt::ShiftModifier, Mando::MayusIzquierda},
+    Flecha{Qt::Key_Right, Qt::ShiftModifier, Mando::MayusDerecha},
+};
+
+bool SeRepite(Mando mando) {
+    return mando == Mando::Izquierda || mando == Mando::Derecha;
+}
+
+} // namespace
 
 bool ColaEventos::SeFunde(const Evento& evento) {
     const bool unico =
@@ -35,8 +59,12 @@ std::optional<Evento> ColaEventos::Toma() {
     return primero;
 }
 
+std::optional<Milisegundos> ColaEventos::Ahora() const {
+    return reloj ? std::optional(reloj()) : std::nullopt;
+}
+
 std::optional<int> CaracterDe(const QKeyEvent& tecla) {
-    const auto sin_letra = Qt::AltModifier | Qt::MetaModifier;
+    const auto sin_letra = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
     if (tecla.isAutoRepeat() || tecla.text().isEmpty() || (tecla.modifiers() & sin_letra))
         return std::nullopt;
     switch (tecla.key()) {
@@ -47,4 +75,24 @@ std::optional<int> CaracterDe(const QKeyEvent& tecla) {
     default:
         return tecla.text().front().unicode();
     }
+}
+
+std::optional<Evento> MandoDe(const QKeyEvent& tecla) {
+    const Qt::KeyboardModifiers con = tecla.modifiers() & ~Qt::KeypadModifier;
+    const int codigo = tecla.key();
+    Evento mando;
+    mando.tipo = TipoEvento::Mando;
+    if (con == Qt::NoModifier && codigo >= Qt::Key_F1 && codigo <= Qt::Key_F9) {
+        mando.mando = Mando::Funcion;
+        mando.indice = codigo - Qt::Key_F1 + 1;
+    } else {
+        const auto flecha = std::ranges::find_if(
+            kFlechas, [&](const Flecha& una) { return una.tecla == codigo && una.con == con; });
+        if (flecha == kFlechas.end())
+            return std::nullopt;
+        mando.mando = flecha->mando;
+    }
+    if (tecla.isAutoRepeat() && !SeRepite(mando.mando))
+        return std::nullopt;
+    return mando;
 }

@@ -2,6 +2,7 @@
 // The events that the window has reported and the game has not taken yet, in their order.
 
 #include <deque>
+#include <functional>
 #include <optional>
 
 #include "platform/platform.h"
@@ -14,6 +15,10 @@ public:
     std::optional<Evento> Toma();
     bool Vacia() const { return cola_.empty(); }
 
+    // The clock by which presses are told; nothing while nobody has set one.
+    std::function<Milisegundos()> reloj;
+    std::optional<Milisegundos> Ahora() const;
+
 private:
     bool SeFunde(const Evento& evento);
 
@@ -21,6 +26,9 @@ private:
 };
 
 // The character number of a key as the game counts keys, or nothing: auto-repeat, Tab, arrows, the modifiers
-// alone and function keys are no keys of the game.
+// alone, function keys, and characters with Ctrl, Alt or Meta are none.
 class QKeyEvent;
 std::optional<int> CaracterDe(const QKeyEvent& tecla);
+// What a key that is no character asks of the table: the arrows, alone or two of them with the shift key, and F1 to F9.
+// Only the walk repeats while a key is held.
+std::optional<Evento> MandoDe(const QKeyEvent& tecla);

@@ -7,14 +7,14 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QTimerEvent>
-#include <cmath>
 #include <utility>
 
 #include "platform/qt/control_view.h"
 #include "platform/qt/pointers.h"
+#include "platform/qt/scale.h"
+#include "table/keyboard_walk.h"
 
 namespace {
-constexpr int kAnchoMinimo = 800, kAltoMinimo = 600;
 constexpr Qt::MouseButtons kBotones = Qt::LeftButton | Qt::RightButton; // the game knows no other
 } // namespace
 
@@ -52,7 +52,7 @@ void CapaVuelo::paintEvent(QPaintEvent*) {
     if (imagen_.isNull())
         return;
     QPainter p(this);
-    p.scale(1 / imagenes_.Ratio(), 1 / imagenes_.Ratio());
+    p.scale(1 / RatioDeVentana(imagenes_), 1 / RatioDeVentana(imagenes_));
     p.drawImage(donde_, imagen_);
 }
 
@@ -64,7 +64,7 @@ Tapete::Tapete(Imagenes& imagenes, ColaEventos& cola)
       arbol_(this, [this](const Objetivo& objetivo, int boton) { Pulsa(objetivo, boton); }) {
     setObjectName(QString::fromUtf8(NombreDe(Control::Mesa)));
     setAttribute(Qt::WA_OpaquePaintEvent);
-    setMinimumSize(kAnchoMinimo, kAltoMinimo);
+    PonMinimo();
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     setAccessibleName(QStringLiteral("Mesa de juego"));
@@ -77,8 +77,8 @@ void Tapete::PonPuntero(Puntero puntero) {
 
 void Tapete::paintEvent(QPaintEvent* evento) {
     QPainter p(this);
-    PintaCuadro(p, lienzo_.Cuadro(), imagenes_.Ratio(), evento->rect());
-    if (ratio_pedido_ || devicePixelRatioF() == imagenes_.Ratio())
+    PintaCuadro(p, lienzo_.Cuadro(), imagenes_, evento->rect());
+    if (ratio_pedido_ || devicePixelRatioF() * FactorDeMesa() == imagenes_.Ratio())
         return;
     ratio_pedido_ = true;
     startTimer(0);
@@ -91,13 +91,24 @@ void Tapete::timerEvent(QTimerEvent* evento) {
         al_cambiar_ratio();
 }
 
+// Where the screen's pixels are many and the window's few, the table is drawn smaller rather than scrolled.
+void Tapete::PonMinimo() {
+    setMinimumSize(VentanaMinima(devicePixelRatioF()));
+}
+
+void Tapete::AdaptaRatio() {
+    PonMinimo();
+    lienzo_.PonTamano(TamanoEnMesa(size()), true);
+    vuelo_.AdaptaRatio();
+    setCursor(CursorDe(puntero_));
+}
+
+// The factor stays until the game takes the new size: nothing that is on its way jumps.
 void Tapete::resizeEvent(QResizeEvent*) {
-    lienzo_.PonTamano(size(), true);
+    lienzo_.PonTamano(TamanoEnMesa(size()), true);
     vuelo_.setGeometry(rect());
     Evento tamano;
     tamano.tipo = TipoEvento::Tamano;
-    tamano.x = width();
-    tamano.y = height();
     cola_.Pon(tamano);
 }
 
@@ -108,8 +119,8 @@ void Tapete::Avisa(TipoEvento tipo, const QMouseEvent& evento) {
 void Tapete::Avisa(TipoEvento tipo, QPointF donde, int boton) {
     Evento raton;
     raton.tipo = tipo;
-    raton.x = static_cast<int>(std::floor(donde.x()));
-    raton.y = static_cast<int>(std::floor(donde.y()));
+    raton.x = EnMesa(donde).x();
+    raton.y = EnMesa(donde).y();
     raton.boton = boton;
     cola_.Pon(raton);
 }
@@ -148,24 +159,8 @@ void Tapete::mouseMoveEvent(QMouseEvent* evento) {
 }
 
 void Tapete::Pulsa(const Objetivo& objetivo, int boton) {
-    Evento evento;
-    evento.control = objetivo.control;
-    evento.indice = objetivo.indice;
-    evento.x = objetivo.toque.x;
-    evento.y = objetivo.toque.y;
-    evento.boton = boton;
-    const auto pon = [&](TipoEvento tipo) {
-        evento.tipo = tipo;
+    for (const Evento& evento : EventosDeClic(objetivo, boton))
         cola_.Pon(evento);
-    };
-    if (objetivo.clase == ClaseObjetivo::Boton)
-        return pon(TipoEvento::Clic);
-    pon(TipoEvento::RatonMueve);
-    if (objetivo.control != Control::Mesa)
-        return pon(TipoEvento::RatonSuelta);
-    pon(TipoEvento::RatonPulsa);
-    pon(TipoEvento::RatonSuelta);
-    pon(TipoEvento::RatonClic);
 }
 
 // A dialog that opens between a press and its release swallows the release, and a second one may come and go while the
@@ -178,11 +173,16 @@ void Tapete::NotaSueltaCallada() {
 }
 
 void Tapete::keyPressEvent(QKeyEvent* evento) {
+    if (const auto mando = MandoDe(*evento)) {
+        setFocus(); // from a button that had it: one mark at a time tells where the keys go
+        return cola_.Pon(*mando);
+    }
     const auto caracter = CaracterDe(*evento);
     if (!caracter)
         return QWidget::keyPressEvent(evento);
     Evento tecla;
     tecla.tipo = TipoEvento::Tecla;
     tecla.tecla = *caracter;
+    tecla.desde = cola_.Ahora();
     cola_.Pon(tecla);
 }

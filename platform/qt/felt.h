@@ -43,6 +43,8 @@ public:
     CapaVuelo& ElVuelo() { return vuelo_; }
     void PonPuntero(Puntero puntero);
     Puntero ElPuntero() const { return puntero_; }
+    // The screen's pixel ratio or the table's factor are others than before, and the images are made for them.
+    void AdaptaRatio();
     // A button was let go and nobody told the felt, as when a dialog stood before it: it is told now.
     void NotaSueltaCallada();
     // What assistive tools meet here.
@@ -65,6 +67,7 @@ protected:
 private:
     void Avisa(TipoEvento tipo, const QMouseEvent& evento);
     void Avisa(TipoEvento tipo, QPointF donde, int boton);
+    void PonMinimo();
 
     Imagenes& imagenes_;
     ColaEventos& cola_;

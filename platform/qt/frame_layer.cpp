@@ -1,8 +1,10 @@
 #include "platform/qt/frame_layer.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QPainter>
 
+#include "platform/qt/control_view.h"
 #include "platform/qt/scale.h"
 
 namespace {
@@ -34,6 +36,10 @@ void Traza(QPainter& pintor, Marco cual, const Rectangulo& donde) {
     }
 }
 
+bool FocoEnUnBoton() {
+    return qobject_cast<VistaControl*>(QApplication::focusWidget()) != nullptr;
+}
+
 } // namespace
 
 CapaMarcos::CapaMarcos(QWidget* mesa) : QWidget(mesa) {
@@ -41,6 +47,8 @@ CapaMarcos::CapaMarcos(QWidget* mesa) : QWidget(mesa) {
     setFocusPolicy(Qt::NoFocus);
     setGeometry(mesa->rect());
     mesa->installEventFilter(this);
+    // With the focus on a button its own mark tells where the keys go.
+    connect(qApp, &QApplication::focusChanged, this, [this] { update(); });
 }
 
 void CapaMarcos::Actualiza(const Rectangulo& donde) {
@@ -68,8 +76,10 @@ void CapaMarcos::paintEvent(QPaintEvent*) {
     QPainter pintor(this);
     pintor.setRenderHint(QPainter::Antialiasing);
     pintor.setBrush(Qt::NoBrush);
-    for (const auto& [cual, donde] : marcos_)
-        Traza(pintor, cual, donde);
+    for (const auto& [cual, donde] : marcos_) {
+        if (cual == Marco::DePuntero || !FocoEnUnBoton())
+            Traza(pintor, cual, donde);
+    }
 }
 
 bool CapaMarcos::eventFilter(QObject* mesa, QEvent* evento) {

@@ -1,5 +1,6 @@
 #include "platform/qt/help_viewer.h"
 
+#include <QCloseEvent>
 #include <QFile>
 #include <QFileInfo>
 #include <QHBoxLayout>
@@ -7,34 +8,49 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QScreen>
+#include <QSettings>
 #include <QSplitter>
+#include <QStandardPaths>
 #include <QTextDocument>
 #include <QTreeWidget>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "platform/qt/canvas_qt.h"
+#include "platform/qt/help_page.h"
 #include "platform/qt/suite_paint.h"
+
+using ayuda::Clave;
+using ayuda::Plano;
+using ayuda::TextoPlano;
 
 namespace {
 
-constexpr QSize kTamano(920, 620);
+constexpr QSize kTamano(980, 680);
 constexpr QSize kMarco(16, 40); // what a desktop's frame takes, so that the page ends on the screen
+constexpr int kAnchoMinimo = 640; // narrower beside the table, the page is no pleasure to read
+constexpr int kAnchoArbol = 310;
 
 constexpr int kTemaEnRama = Qt::UserRole;
+constexpr int kTemaGlosario = 3900;
 
-// Letters without case and accents: who searches for "poker" finds "Póker".
-QString Plano(const QString& texto) {
-    QString plano;
-    for (const QChar letra : texto.normalized(QString::NormalizationForm_KD)) {
-        if (letra.category() != QChar::Mark_NonSpacing)
-            plano += letra.toCaseFolded();
-    }
-    return plano;
+const QString kSitio = QStringLiteral("ayuda/sitio");
+
+// The place of the window stands with that of the table's window, with the desktop's settings.
+QSettings Ajustes() {
+    return QSettings(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) +
+                         QStringLiteral("/ventana.ini"),
+                     QSettings::IniFormat);
 }
 
 QString LeeTexto(const QString& fichero) {
     QFile pagina(fichero);
     return pagina.open(QIODevice::ReadOnly) ? QString::fromUtf8(pagina.readAll()) : QString();
+}
+
+bool TieneTodas(const TextoPlano& texto, const QList<Clave>& claves) {
+    return std::ranges::all_of(claves,
+                               [&](const Clave& clave) { return ayuda::Tiene(texto, clave); });
 }
 
 } // namespace
@@ -52,9 +68,22 @@ QList<PaginaAyuda> LeeContenido(const QString& carpeta) {
     return paginas;
 }
 
-VistaAyuda::VistaAyuda(const QString& carpeta)
+std::optional<QRect> JuntoA(const QRect& otra, const QSize& tamano, const QRect& pantalla) {
+    const int derecha = pantalla.right() - otra.right();
+    const int izquierda = otra.left() - pantalla.left();
+    const int hueco = std::max(derecha, izquierda);
+    const int necesario = std::min(tamano.width(), kAnchoMinimo);
+    if (otra.isNull() || hueco < necesario)
+        return std::nullopt;
+    const QSize cabe(std::min(tamano.width(), hueco), std::min(tamano.height(), pantalla.height()));
+    const int x = hueco == derecha ? otra.right() + 1 : otra.left() - cabe.width();
+    const int y = std::clamp(otra.top(), pantalla.top(), pantalla.bottom() + 1 - cabe.height());
+    return QRect(QPoint(x, y), cabe);
+}
+
+VistaAyuda::VistaAyuda(const QString& carpeta, const QString& barajas)
     : carpeta_(carpeta),
-      hoja_(new QTextBrowser),
+      hoja_(new HojaAyuda(carpeta, barajas)),
       arbol_(new QTreeWidget),
       busca_(new QLineEdit),
       nada_(new QLabel(QStringLiteral("Ninguna página tiene esas palabras."))) {
@@ -64,14 +93,21 @@ VistaAyuda::VistaAyuda(const QString& carpeta)
     resize(kTamano.boundedTo(screen()->availableSize() - kMarco));
     Compon();
     LlenaArbol(LeeContenido(carpeta_));
+    vocabulario_ = ayuda::Vocabulario(LeeTexto(FicheroDe(kTemaGlosario)));
     connect(busca_, &QLineEdit::textChanged, this, &VistaAyuda::Busca);
     connect(busca_, &QLineEdit::returnPressed, this, &VistaAyuda::AbreLaPrimera);
     connect(hoja_, &QTextBrowser::sourceChanged, this, &VistaAyuda::SenalaEnArbol);
     // A click makes a branch the current one before it selects it, so it is the selection that tells.
     connect(arbol_, &QTreeWidget::itemSelectionChanged, this, [this] {
-        for (const QTreeWidgetItem* rama : arbol_->selectedItems())
+        for (const QTreeWidgetItem* rama : arbol_->selectedItems()) {
             PonPagina(rama->data(0, kTemaEnRama).toInt());
+            hoja_->VeALaPrimera();
+        }
     });
+}
+
+VistaAyuda::~VistaAyuda() {
+    GuardaSitio();
 }
 
 void VistaAyuda::Compon() {
@@ -81,14 +117,30 @@ void VistaAyuda::Compon() {
     arbol_->setHeaderHidden(true);
     arbol_->setAccessibleName(QStringLiteral("Contenido de la ayuda"));
     hoja_->setAccessibleName(QStringLiteral("Página de la ayuda"));
-    hoja_->setOpenExternalLinks(false);
-    hoja_->document()->setDocumentMargin(14);
     nada_->setWordWrap(true);
     nada_->setContentsMargins(4, 4, 4, 4);
     nada_->hide();
     for (QWidget* lista : std::initializer_list<QWidget*>{busca_, nada_, arbol_})
         lista->setFont(LetraDe({.alto = 14}));
 
+    auto* lado = new QWidget;
+    auto* indice = new QVBoxLayout(lado);
+    indice->setContentsMargins(0, 0, 0, 0);
+    indice->addWidget(busca_);
+    indice->addWidget(nada_);
+    indice->addWidget(arbol_, 1);
+    auto* partes = new QSplitter;
+    partes->addWidget(lado);
+    partes->addWidget(hoja_);
+    partes->setStretchFactor(1, 1);
+    const int arbol = std::min(kAnchoArbol, width() / 3);
+    partes->setSizes({arbol, width() - arbol});
+    auto* todo = new QVBoxLayout(this);
+    todo->addLayout(HazMandos());
+    todo->addWidget(partes, 1);
+}
+
+QHBoxLayout* VistaAyuda::HazMandos() {
     auto* atras = new BotonSuite(QStringLiteral("Atrás"), this);
     auto* inicio = new BotonSuite(QStringLiteral("Contenido"), this);
     auto* cierra = new BotonSuite(QStringLiteral("Cerrar"), this);
@@ -103,20 +155,7 @@ void VistaAyuda::Compon() {
     mandos->addWidget(inicio);
     mandos->addStretch();
     mandos->addWidget(cierra);
-    auto* lado = new QWidget;
-    auto* indice = new QVBoxLayout(lado);
-    indice->setContentsMargins(0, 0, 0, 0);
-    indice->addWidget(busca_);
-    indice->addWidget(nada_);
-    indice->addWidget(arbol_, 1);
-    auto* partes = new QSplitter;
-    partes->addWidget(lado);
-    partes->addWidget(hoja_);
-    partes->setStretchFactor(1, 1);
-    partes->setSizes({310, 590});
-    auto* todo = new QVBoxLayout(this);
-    todo->addLayout(mandos);
-    todo->addWidget(partes, 1);
+    return mandos;
 }
 
 void VistaAyuda::LlenaArbol(const QList<PaginaAyuda>& paginas) {
@@ -143,13 +182,38 @@ void VistaAyuda::PonPagina(int tema) {
         DiQueFalta();
 }
 
-void VistaAyuda::MuestraTema(int tema) {
+void VistaAyuda::MuestraTema(int tema, const QRect& mesa) {
     busca_->clear(); // the tree shows where the page stands, not what was looked for last
+    Situa(mesa);
+    show(); // its pictures take the width that the page has
     PonPagina(tema);
     hoja_->setFocus();
-    show();
     raise();
     activateWindow();
+}
+
+// Once: afterwards it is where the player puts it.
+void VistaAyuda::Situa(const QRect& mesa) {
+    if (std::exchange(situada_, true))
+        return;
+    const QByteArray sitio = Ajustes().value(kSitio).toByteArray();
+    const bool recordado = !sitio.isEmpty() && restoreGeometry(sitio);
+    if (recordado && !frameGeometry().intersects(mesa))
+        return;
+    if (const auto junto = JuntoA(mesa, size() + kMarco, screen()->availableGeometry())) {
+        resize(junto->size() - kMarco);
+        move(junto->topLeft());
+    }
+}
+
+void VistaAyuda::GuardaSitio() const {
+    if (situada_)
+        Ajustes().setValue(kSitio, saveGeometry());
+}
+
+void VistaAyuda::closeEvent(QCloseEvent* evento) {
+    GuardaSitio();
+    QWidget::closeEvent(evento);
 }
 
 void VistaAyuda::DiQueFalta() {
@@ -167,35 +231,31 @@ void VistaAyuda::SenalaEnArbol(const QUrl& pagina) {
     arbol_->setCurrentItem(rama);
 }
 
-QString VistaAyuda::TextoDe(int tema) {
-    if (!textos_.contains(tema)) {
+const TextoPlano& VistaAyuda::TextoDe(int tema) {
+    auto texto = textos_.find(tema);
+    if (texto == textos_.end()) {
         QTextDocument pagina;
         pagina.setHtml(LeeTexto(FicheroDe(tema)));
-        textos_[tema] = Plano(pagina.toPlainText());
+        const QString titulo = ramas_.contains(tema) ? ramas_.value(tema)->text(0) : QString();
+        texto = textos_.insert(tema, Plano(titulo + u'\n' + pagina.toPlainText()));
     }
-    return textos_[tema];
+    return *texto;
 }
 
-bool VistaAyuda::Tiene(const QTreeWidgetItem* rama, const QStringList& claves) {
-    const QString titulo = Plano(rama->text(0));
-    const QString texto = TextoDe(rama->data(0, kTemaEnRama).toInt());
-    return std::ranges::all_of(claves, [&](const QString& clave) {
-        return titulo.contains(clave) || texto.contains(clave);
-    });
+bool VistaAyuda::Tiene(const QTreeWidgetItem* rama, const QList<Clave>& claves) {
+    return TieneTodas(TextoDe(rama->data(0, kTemaEnRama).toInt()), claves);
 }
 
-QStringList VistaAyuda::Claves() const {
-    return Plano(busca_->text()).split(u' ', Qt::SkipEmptyParts);
+QList<Clave> VistaAyuda::Claves() const {
+    return vocabulario_.Claves(busca_->text());
 }
 
 // A page whose title has the words comes before those that only mention them.
 void VistaAyuda::AbreLaPrimera() {
-    const QStringList claves = Claves();
+    const QList<Clave> claves = Claves();
     QTreeWidgetItem* primera = nullptr;
     for (QTreeWidgetItemIterator rama(arbol_); !claves.isEmpty() && *rama != nullptr; ++rama) {
-        const QString titulo = Plano((*rama)->text(0));
-        const bool nombra = std::ranges::all_of(
-            claves, [&](const QString& clave) { return titulo.contains(clave); });
+        const bool nombra = TieneTodas(Plano((*rama)->text(0)), claves);
         if (nombra || (primera == nullptr && Tiene(*rama, claves)))
             primera = *rama;
         if (nombra)
@@ -207,7 +267,8 @@ void VistaAyuda::AbreLaPrimera() {
 
 // A branch stays in sight when its page has all the words, or one of its branches does.
 void VistaAyuda::Busca() {
-    const QStringList claves = Claves();
+    const QList<Clave> claves = Claves();
+    hoja_->PonClaves(claves);
     for (QTreeWidgetItem* rama : std::as_const(ramas_))
         rama->setHidden(!Tiene(rama, claves));
     for (QTreeWidgetItem* rama : std::as_const(ramas_)) {

@@ -2,14 +2,23 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QScreen>
 #include <QScrollBar>
 #include <QSettings>
+#include <QShortcut>
 #include <QStandardPaths>
+#include <QTimer>
+#include <QWindow>
+#include <algorithm>
+#include <optional>
+
+#include "platform/qt/scale.h"
 
 namespace {
 
 const QString kSitio = QStringLiteral("ventana/sitio");
+const QString kFactor = QStringLiteral("ventana/factor");
 
 // The window's place is the desktop's affair and stands with its settings, apart from the game's files.
 QSettings Ajustes() {
@@ -31,6 +40,32 @@ bool NoCabeConMarco() {
     return QApplication::primaryScreen()->availableSize().height() < kMinimo.height() + kAltoMarco;
 }
 
+// Plus stands on the key of the equals sign where it takes Shift.
+std::optional<int> SentidoDe(const QKeyEvent& tecla) {
+    if ((tecla.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) !=
+        Qt::ControlModifier)
+        return std::nullopt;
+    switch (tecla.key()) {
+    case Qt::Key_Plus:
+    case Qt::Key_Equal:
+        return 1;
+    case Qt::Key_Minus:
+        return -1;
+    case Qt::Key_0:
+        return 0;
+    default:
+        return std::nullopt;
+    }
+}
+
+// Moved into the place as far as it must be, and cut where it is too large.
+QRect DentroDe(const QRect& sitio, const QRect& ventana) {
+    QRect dentro(ventana.topLeft(), ventana.size().boundedTo(sitio.size()));
+    dentro.moveLeft(std::clamp(dentro.left(), sitio.left(), sitio.right() + 1 - dentro.width()));
+    dentro.moveTop(std::clamp(dentro.top(), sitio.top(), sitio.bottom() + 1 - dentro.height()));
+    return dentro;
+}
+
 } // namespace
 
 VentanaPrincipal::VentanaPrincipal(QWidget* mesa) {
@@ -44,10 +79,13 @@ VentanaPrincipal::VentanaPrincipal(QWidget* mesa) {
     // A menu would hold the game up in the middle of a pause.
     for (QScrollBar* barra : {horizontalScrollBar(), verticalScrollBar()})
         barra->setContextMenuPolicy(Qt::NoContextMenu);
+    connect(new QShortcut(Qt::Key_F11, this), &QShortcut::activated, this,
+            &VentanaPrincipal::AlternaPantallaCompleta);
     // The size that a maximized window goes back to: on the screen with its frame and all.
     const QSize pantalla = QApplication::primaryScreen()->availableSize();
     resize((pantalla * kParteDePantalla).expandedTo(minimumSize()));
     RecuerdaSitio();
+    VigilaPantallas();
     // The game lays its table out before the window is seen.
     mesa->resize((recordado_ ? size() : pantalla).expandedTo(mesa->minimumSize()));
 }
@@ -55,6 +93,40 @@ VentanaPrincipal::VentanaPrincipal(QWidget* mesa) {
 void VentanaPrincipal::RecuerdaSitio() {
     const QByteArray sitio = Ajustes().value(kSitio).toByteArray();
     recordado_ = !sitio.isEmpty() && restoreGeometry(sitio);
+}
+
+double VentanaPrincipal::FactorGuardado() {
+    const double factor = Ajustes().value(kFactor).toDouble();
+    return EsPasoDeFactor(factor) ? factor : 0;
+}
+
+void VentanaPrincipal::GuardaFactor(double factor) {
+    Ajustes().setValue(kFactor, factor);
+}
+
+// A screen goes, or shows less than before.
+void VentanaPrincipal::VigilaPantallas() {
+    const auto cambia = [this] { QTimer::singleShot(0, this, &VentanaPrincipal::CabeEnPantalla); };
+    const auto vigila = [this, cambia](QScreen* pantalla) {
+        connect(pantalla, &QScreen::availableGeometryChanged, this, cambia);
+    };
+    for (QScreen* pantalla : QGuiApplication::screens())
+        vigila(pantalla);
+    connect(qApp, &QGuiApplication::screenAdded, this, vigila);
+    connect(qApp, &QGuiApplication::screenRemoved, this, cambia);
+}
+
+void VentanaPrincipal::CabeEnPantalla() {
+    const QRect libre = screen()->availableGeometry();
+    setMinimumSize(kMinimo.boundedTo(libre.size()));
+    const QRect con_marco = frameGeometry();
+    if (!isVisible() || libre.contains(con_marco) || screen()->geometry() == geometry())
+        return;
+    const QSize marco = con_marco.size() - size();
+    const QRect dentro =
+        DentroDe(libre, QRect(con_marco.topLeft(), size().expandedTo(minimumSize()) + marco));
+    setGeometry(QRect(dentro.topLeft() + (geometry().topLeft() - con_marco.topLeft()),
+                      dentro.size() - marco));
 }
 
 void VentanaPrincipal::Aparece() {
@@ -68,6 +140,12 @@ void VentanaPrincipal::Aparece() {
     activateWindow();
 }
 
+void VentanaPrincipal::AlternaPantallaCompleta() {
+    if (NoCabeConMarco())
+        return;
+    setWindowState(windowState() ^ Qt::WindowFullScreen);
+}
+
 void VentanaPrincipal::GuardaSitio() {
     if (isVisible() && !isFullScreen())
         Ajustes().setValue(kSitio, saveGeometry());
@@ -77,6 +155,14 @@ void VentanaPrincipal::closeEvent(QCloseEvent* evento) {
     evento->ignore();
     if (al_cerrar)
         al_cerrar();
+}
+
+void VentanaPrincipal::keyPressEvent(QKeyEvent* evento) {
+    const auto sentido = SentidoDe(*evento);
+    if (!sentido)
+        return QScrollArea::keyPressEvent(evento);
+    if (al_pedir_factor)
+        al_pedir_factor(*sentido);
 }
 
 // A click beside an open box must not take the keyboard away from the box.

@@ -3,7 +3,6 @@
 #include <QAccessible>
 #include <QHBoxLayout>
 #include <QKeyEvent>
-#include <QPainter>
 #include <QTextLayout>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -84,9 +83,10 @@ int TextoMensaje::heightForWidth(int ancho) const {
 }
 
 void TextoMensaje::paintEvent(QPaintEvent*) {
+    const int ancho = estilo::CajaDe(*this).width();
     QTextLayout compuesto(Parrafos(text()), font());
-    Compone(compuesto, width());
-    QPainter p(this);
+    Compone(compuesto, ancho);
+    estilo::PintorDeVista p(this);
     p.setPen(estilo::kTinta);
     for (int i = 0; i < compuesto.lineCount(); ++i) {
         const QTextLine linea = compuesto.lineAt(i);
@@ -95,7 +95,7 @@ void TextoMensaje::paintEvent(QPaintEvent*) {
         if (CierraParrafo(compuesto.text(), linea))
             p.drawText(base, letras);
         else
-            PintaLlena(p, letras, base, width());
+            PintaLlena(p, letras, base, ancho);
     }
 }
 
@@ -119,6 +119,7 @@ CajaQt::CajaQt(const CajaMensaje& caja, QWidget* padre)
 
     const int alto = std::max(kAltoPorLinea * caja.lineas + kAltoBase, kAltoSinTexto + alto_texto);
     setFixedSize(kAnchoTexto + 2 * kMargen, alto);
+    CreceConLaMesa();
 }
 
 void CajaQt::PonBotones(const CajaMensaje& caja) {
@@ -133,7 +134,7 @@ void CajaQt::PonBotones(const CajaMensaje& caja) {
         break;
     case 3:
         PonBoton("Pic_BotAyuda", "Ayuda", Boton::Ayuda);
-        PonBoton("Pic_BotSalir", "Salir", Boton::Salir);
+        PonBoton("Pic_BotSalir", "Cerrar", Boton::Salir);
         break;
     default:
         PonBoton("Pic_BotSalir", "Aceptar", Boton::Salir);

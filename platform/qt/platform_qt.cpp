@@ -3,8 +3,10 @@
 #include <QApplication>
 #include <QDateTime>
 #include <QDialog>
+#include <QFileInfo>
 #include <QScreen>
 #include <QStandardPaths>
+#include <QToolTip>
 #include <QWindow>
 #include <chrono>
 #include <cmath>
@@ -13,6 +15,7 @@
 #include "platform/qt/help_viewer.h"
 #include "platform/qt/message_box.h"
 #include "platform/qt/places.h"
+#include "platform/qt/scale.h"
 #include "platform/qt/sound.h"
 #include "platform/qt/splash.h"
 #include "table/layout.h"
@@ -28,6 +31,8 @@ constexpr Milisegundos kPausaLarga = 100;
 // The desktop settles size and place of a new window when it shows it; one that never does is not waited for.
 constexpr Milisegundos kEsperaVentana = 500;
 
+constexpr int kAltoConsejo = 12; // letters of a tool tip, in table pixels
+
 // The table pixels that hold the given device pixels; one more all round where pixels do not coincide.
 QRegion ALaMesa(const QRegion& dispositivo, double ratio) {
     const int margen = ratio == std::floor(ratio) ? 0 : 1;
@@ -42,10 +47,10 @@ QRegion ALaMesa(const QRegion& dispositivo, double ratio) {
 } // namespace
 
 PlataformaQt::PlataformaQt(const QString& carpeta)
-    : carpeta_(carpeta),
-      imagenes_(qApp->devicePixelRatio()),
-      mesa_(new Tapete(imagenes_, cola_)),
-      marcos_(new CapaMarcos(mesa_)) {
+    : carpeta_(carpeta), imagenes_(qApp->devicePixelRatio()), mesa_(nullptr), marcos_(nullptr) {
+    PonFactorDeMesa(1);
+    mesa_ = new Tapete(imagenes_, cola_);
+    marcos_ = new CapaMarcos(mesa_);
     reloj_.start();
     origen_ = QDateTime::currentMSecsSinceEpoch();
     despertador_.setSingleShot(true);
@@ -56,7 +61,14 @@ PlataformaQt::PlataformaQt(const QString& carpeta)
         cierre.tipo = TipoEvento::CierraVentana;
         cola_.Pon(cierre);
     };
-    mesa_->al_cambiar_ratio = [this] { CambiaRatio(); };
+    cola_.reloj = [this] { return Reloj(); };
+    mesa_->al_cambiar_ratio = [this] {
+        RehazImagenes();
+        AvisaTamano();
+    };
+    ventana_->al_pedir_factor = [this](int sentido) { PideFactor(sentido); };
+    deseo_ = VentanaPrincipal::FactorGuardado();
+    AjustaFactor();
     InstalaAccesoControles();
 }
 
@@ -91,7 +103,13 @@ void PlataformaQt::Bombea() {
 }
 
 std::optional<Evento> PlataformaQt::SiguienteEvento(Pase) {
-    return cola_.Toma();
+    std::optional<Evento> evento = cola_.Toma();
+    if (evento && evento->tipo == TipoEvento::Tamano) {
+        AjustaFactor();
+        evento->x = AnchoVentana();
+        evento->y = AltoVentana();
+    }
+    return evento;
 }
 
 bool PlataformaQt::EsperaEvento() {
@@ -136,19 +154,22 @@ FechaHora PlataformaQt::Ahora() {
 }
 
 int PlataformaQt::AnchoVentana() const {
-    return mesa_->width();
+    return TamanoEnMesa(mesa_->size()).width();
 }
 
 int PlataformaQt::AltoVentana() const {
-    return mesa_->height();
+    return TamanoEnMesa(mesa_->size()).height();
 }
 
+// The screen's own pixels, whatever scale the desktop puts on them.
 int PlataformaQt::AnchoEscritorio() const {
-    return QGuiApplication::primaryScreen()->size().width();
+    const QScreen& pantalla = *QGuiApplication::primaryScreen();
+    return qRound(pantalla.size().width() * pantalla.devicePixelRatio());
 }
 
 int PlataformaQt::AltoEscritorio() const {
-    return QGuiApplication::primaryScreen()->size().height();
+    const QScreen& pantalla = *QGuiApplication::primaryScreen();
+    return qRound(pantalla.size().height() * pantalla.devicePixelRatio());
 }
 
 void PlataformaQt::MuestraCareta() {
@@ -163,6 +184,7 @@ void PlataformaQt::MuestraMesa() {
     while (!ventana_->windowHandle()->isExposed() && Reloj() < tope)
         QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
     QCoreApplication::processEvents();
+    AjustaFactor();
     careta_.reset();
 }
 
@@ -287,7 +309,7 @@ void PlataformaQt::Posa() {
 }
 
 QRegion PlataformaQt::Sucio() {
-    const double ratio = imagenes_.Ratio();
+    const double ratio = RatioDeVentana(imagenes_);
     QRegion sucio = ALaMesa(mesa_->ElLienzo().TomaSucio() + mesa_->ElVuelo().TomaSucio(), ratio);
     for (const auto& [cual, vista] : vistas_) {
         const QRegion suyo = ALaMesa(vista->ElLienzo().TomaSucio(), ratio);
@@ -303,22 +325,43 @@ void PlataformaQt::Repinta() {
     QCoreApplication::sendPostedEvents(ventana_.get(), QEvent::UpdateRequest);
 }
 
-void PlataformaQt::CambiaRatio() {
-    imagenes_.CambiaRatio(mesa_->devicePixelRatioF());
-    mesa_->ElLienzo().AdaptaRatio();
-    mesa_->ElVuelo().AdaptaRatio();
+void PlataformaQt::RehazImagenes() {
+    imagenes_.CambiaRatio(mesa_->devicePixelRatioF() * FactorDeMesa());
+    mesa_->AdaptaRatio();
     for (const auto& [cual, vista] : vistas_)
-        vista->ElLienzo().AdaptaRatio();
+        vista->AdaptaRatio();
+    mesa_->update();
+}
+
+void PlataformaQt::AvisaTamano() {
     Evento tamano;
     tamano.tipo = TipoEvento::Tamano;
-    tamano.x = mesa_->width();
-    tamano.y = mesa_->height();
     cola_.Pon(tamano);
-    mesa_->update();
+}
+
+void PlataformaQt::AjustaFactor() {
+    const double factor = FactorPara(mesa_->size(), deseo_, mesa_->devicePixelRatioF());
+    if (factor == FactorDeMesa())
+        return;
+    PonFactorDeMesa(factor);
+    QToolTip::setFont(LetraDe({.alto = qRound(kAltoConsejo * factor)}));
+    RehazImagenes();
+}
+
+// From the factor that shows, which is not the chosen one where that does not fit.
+void PlataformaQt::PideFactor(int sentido) {
+    const double ratio = mesa_->devicePixelRatioF();
+    const double pedido = sentido == 0 ? 0 : PasoDeFactor(FactorDeMesa(), sentido);
+    if (FactorPara(mesa_->size(), pedido, ratio) == FactorDeMesa() && pedido != 0)
+        return;
+    deseo_ = pedido;
+    VentanaPrincipal::GuardaFactor(deseo_);
+    AvisaTamano();
 }
 
 void PlataformaQt::CargaBaraja(const std::string& ruta, int columnas) {
     imagenes_.CargaBaraja(QString::fromStdString(ruta), columnas);
+    carpeta_barajas_ = QFileInfo(QString::fromStdString(ruta)).path();
 }
 
 QWidget* PlataformaQt::Padre() {
@@ -337,7 +380,8 @@ Boton PlataformaQt::Pregunta(const CajaMensaje& caja) {
     const QRect pantalla = ventana_->screen()->availableGeometry();
     const QRect mesa = ventana_->isVisible()
                            ? QRect(ventana_->viewport()->mapToGlobal(QPoint(0, 0)),
-                                   ventana_->viewport()->size() - QSize(kAnchoBotonera, 0))
+                                   ventana_->viewport()->size() -
+                                       QSize(EnVentana({0, 0, kAnchoBotonera, 1}).width(), 0))
                            : pantalla;
     dialogo.CentraEn(caja.centrada ? pantalla : mesa);
     const Boton respuesta = dialogo.Responde();
@@ -368,8 +412,8 @@ void PlataformaQt::Suena(int id, bool espera) {
 
 void PlataformaQt::Ayuda(int tema) {
     if (!ayuda_)
-        ayuda_ = std::make_unique<VistaAyuda>(CarpetaAyuda(carpeta_));
-    ayuda_->MuestraTema(tema);
+        ayuda_ = std::make_unique<VistaAyuda>(CarpetaAyuda(carpeta_), carpeta_barajas_);
+    ayuda_->MuestraTema(tema, ventana_->isVisible() ? ventana_->frameGeometry() : QRect());
 }
 
 void PlataformaQt::Minimiza() {

@@ -92,12 +92,19 @@ private:
     void OrdenaCapas();
     void EnsenaLoHecho();
     QRegion Sucio();
-    void CambiaRatio();
+    // The images and everything that is made of them, for the present ratio and factor.
+    void RehazImagenes();
+    void AvisaTamano();
+    // Takes the factor that the table's size and the player's wish ask for.
+    void AjustaFactor();
+    // A step up or down from the factor in use; 0 leaves it to the program again.
+    void PideFactor(int sentido);
     // The window that a dialog belongs to: the form that is open, the table, or before it is shown the
     // splash or none.
     QWidget* Padre();
 
     QString carpeta_;
+    QString carpeta_barajas_; // of the deck on the table, whose cards the help shows
     ArchivosDisco archivos_;
     QElapsedTimer reloj_;
     Milisegundos
@@ -113,6 +120,7 @@ private:
     std::unique_ptr<Careta> careta_;
     std::unique_ptr<VistaAyuda> ayuda_;
     std::unique_ptr<Altavoz> altavoz_;
+    double deseo_ = 0; // the factor that the player has chosen, 0 none
     bool termina_ = false;
     bool guarda_ = true;
 };

@@ -2,10 +2,12 @@
 
 #include <QGuiApplication>
 #include <QPixmap>
-#include <algorithm>
 #include <array>
-#include <cmath>
+#include <map>
+#include <utility>
 
+#include "platform/qt/drawings.h"
+#include "platform/qt/scale.h"
 #include "table/sheet_layout.h"
 
 namespace {
@@ -17,19 +19,15 @@ const char* NombrePuntero(Puntero puntero) {
     return cual < kNombres.size() ? kNombres[cual] : "";
 }
 
-// Drawn once, twice and three times as large: the one that is large enough for the screen.
-QPixmap DibujoPara(const QString& archivo, double ratio) {
-    const int veces = std::clamp(static_cast<int>(std::ceil(ratio)), 1, lamina::kEscala);
-    const QString sufijo = veces == 1 ? QString() : QStringLiteral("@%1x").arg(veces);
-    QPixmap dibujo(QStringLiteral(":/arte/%1%2.png").arg(archivo, sufijo));
-    dibujo.setDevicePixelRatio(veces);
-    return dibujo;
-}
-
-QCursor Dibujado(const lamina::Puntero& puntero) {
+// As much larger as the table, and its point with it.
+QCursor Dibujado(const lamina::Puntero& puntero, double ratio) {
     const QString archivo =
         QString::fromUtf8(puntero.archivo.data(), static_cast<qsizetype>(puntero.archivo.size()));
-    return QCursor(DibujoPara(archivo, qApp->devicePixelRatio()), puntero.puntaX, puntero.puntaY);
+    const double factor = FactorDeMesa();
+    const int lado = qRound(lamina::kLadoPuntero * factor * ratio);
+    QPixmap dibujo = QPixmap::fromImage(Dibujo(QStringLiteral("cursors/") + archivo, {lado, lado}));
+    dibujo.setDevicePixelRatio(ratio);
+    return QCursor(dibujo, qRound(puntero.puntaX * factor), qRound(puntero.puntaY * factor));
 }
 
 } // namespace
@@ -39,16 +37,17 @@ QCursor CursorDe(Puntero puntero) {
         return Qt::WaitCursor;
     if (puntero == Puntero::Prohibido)
         return Qt::ForbiddenCursor;
-    static std::array<QCursor, lamina::kPunteros.size()> listos;
-    static std::array<bool, lamina::kPunteros.size()> leidos{};
-    const std::string_view nombre = NombrePuntero(puntero);
-    for (std::size_t i = 0; i < lamina::kPunteros.size(); ++i) {
-        if (lamina::kPunteros[i].nombre != nombre)
-            continue;
-        if (!leidos[i])
-            listos[i] = Dibujado(lamina::kPunteros[i]);
-        leidos[i] = true;
-        return listos[i];
-    }
-    return Qt::ArrowCursor;
+    const auto dibujo =
+        std::ranges::find(lamina::kPunteros, NombrePuntero(puntero), &lamina::Puntero::nombre);
+    if (dibujo == lamina::kPunteros.end())
+        return Qt::ArrowCursor;
+    static std::map<Puntero, QCursor> listos;
+    static std::pair<double, double> para{0, 0}; // the ratio and the factor that they are drawn for
+    const std::pair ahora{qApp->devicePixelRatio(), FactorDeMesa()};
+    if (std::exchange(para, ahora) != ahora)
+        listos.clear();
+    const auto listo = listos.find(puntero);
+    return listo != listos.end()
+               ? listo->second
+               : listos.emplace(puntero, Dibujado(*dibujo, ahora.first)).first->second;
 }

@@ -5,5 +5,5 @@
 
 #include "platform/platform.h"
 
-// The pointer of a shape; the eight of the program's own are read from its resources when first wanted.
+// The pointer of a shape; the eight of the program's own are drawn for the table's size when first wanted.
 QCursor CursorDe(Puntero puntero);

@@ -1,52 +1,50 @@
 #include "platform/qt/sheet_images.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
+#include <map>
 #include <stdexcept>
+#include <tuple>
+
+#include "platform/qt/drawings.h"
 
 namespace {
 
-struct Hoja {
-    double ratio = 0;
-    std::array<QImage, lamina::kPiezas.size()> piezas;
-};
+// What is kept of painted pieces: a whole sheet at a high ratio. A window that is drawn larger and larger starts anew.
+constexpr qsizetype kTope = 12 * 1024 * 1024;
 
-QImage Corta(const QImage& hoja, const lamina::Recorte& sitio, double ratio) {
-    constexpr int k = lamina::kEscala;
-    const QImage trozo = hoja.copy(sitio.x * k, sitio.y * k, sitio.ancho * k, sitio.alto * k);
-    const QSize tamano(static_cast<int>(std::ceil(sitio.ancho * ratio)),
-                       static_cast<int>(std::ceil(sitio.alto * ratio)));
-    return trozo.scaled(tamano, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
-        .convertToFormat(QImage::Format_ARGB32_Premultiplied);
+std::ptrdiff_t NumeroDe(const lamina::Recorte& recorte) {
+    const auto pieza = std::ranges::find(lamina::kPiezas, recorte, &lamina::Pieza::sitio);
+    if (pieza == lamina::kPiezas.end())
+        throw std::logic_error("recorte que no es una pieza de la lámina");
+    return pieza - lamina::kPiezas.begin();
 }
 
-Hoja LeeHoja(double ratio) {
-    const QImage entera = QImage(QStringLiteral(":/arte/laminas.png"))
-                              .convertToFormat(QImage::Format_ARGB32_Premultiplied);
-    Hoja hoja{.ratio = ratio, .piezas = {}};
-    for (std::size_t i = 0; i < hoja.piezas.size(); ++i)
-        hoja.piezas[i] = Corta(entera, lamina::kPiezas[i].sitio, ratio);
-    return hoja;
-}
-
-const Hoja& HojaPara(double ratio) {
-    static Hoja hoja;
-    if (hoja.ratio != ratio)
-        hoja = LeeHoja(ratio);
-    return hoja;
+QImage Pinta(std::ptrdiff_t numero, const QSize& pixeles) {
+    const std::string_view archivo = lamina::kPiezas[static_cast<std::size_t>(numero)].archivo;
+    return Dibujo(QStringLiteral("sheet/") +
+                      QString::fromUtf8(archivo.data(), static_cast<qsizetype>(archivo.size())),
+                  pixeles);
 }
 
 } // namespace
 
-void PreparaLamina(double ratio) {
-    HojaPara(ratio);
+const QImage& PiezaDe(const lamina::Recorte& recorte, const QSize& pixeles) {
+    static std::map<std::tuple<std::ptrdiff_t, int, int>, QImage> pintadas;
+    static qsizetype ocupan = 0;
+    const std::tuple clave(NumeroDe(recorte), pixeles.width(), pixeles.height());
+    if (const auto lista = pintadas.find(clave); lista != pintadas.end())
+        return lista->second;
+    const QImage pieza = Pinta(std::get<0>(clave), pixeles);
+    if (ocupan + pieza.sizeInBytes() > kTope) {
+        pintadas.clear();
+        ocupan = 0;
+    }
+    ocupan += pieza.sizeInBytes();
+    return pintadas.emplace(clave, pieza).first->second;
 }
 
 const QImage& PiezaDe(const lamina::Recorte& recorte, double ratio) {
-    const Hoja& hoja = HojaPara(ratio);
-    const auto pieza = std::ranges::find(lamina::kPiezas, recorte, &lamina::Pieza::sitio);
-    if (pieza == lamina::kPiezas.end())
-        throw std::logic_error("recorte que no es una pieza de la lámina");
-    return hoja.piezas[static_cast<std::size_t>(pieza - lamina::kPiezas.begin())];
+    return PiezaDe(recorte, QSize(static_cast<int>(std::ceil(recorte.ancho * ratio)),
+                                  static_cast<int>(std::ceil(recorte.alto * ratio))));
 }

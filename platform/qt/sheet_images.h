@@ -1,13 +1,12 @@
 #pragma once
-// The small images of the sheet, each made ready for a pixel ratio.
+// The small images of the sheet, painted from their drawings at the size in which they are wanted.
 
 #include <QImage>
 
 #include "table/sheet_layout.h"
 
-// Reads the whole sheet for a ratio; what was ready for another ratio is dropped.
-void PreparaLamina(double ratio);
-
-// A piece of the sheet, its size in device pixels rounded up; the first call prepares the sheet.
-// std::logic_error for what is no piece.
+// A piece of the sheet, so many device pixels large. std::logic_error for what is no piece. The picture stands until the
+// next call.
+const QImage& PiezaDe(const lamina::Recorte& recorte, const QSize& pixeles);
+// As large as it is at a pixel ratio, rounded up.
 const QImage& PiezaDe(const lamina::Recorte& recorte, double ratio);

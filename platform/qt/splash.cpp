@@ -7,7 +7,7 @@
 #include <QTimerEvent>
 
 #include "platform/qt/canvas_qt.h"
-#include "platform/qt/sheet_images.h"
+#include "platform/qt/scale.h"
 #include "platform/qt/suite_paint.h"
 #include "table/game_row.h"
 
@@ -29,11 +29,11 @@ Careta::Careta() : QWidget(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint) 
     setObjectName(QStringLiteral("careta"));
     setAccessibleName(QStringLiteral("Zovin"));
     setAttribute(Qt::WA_OpaquePaintEvent);
-    setFixedSize(kTamano);
+    setFixedSize((QSizeF(kTamano) * FactorDeMesa()).toSize());
 }
 
 void Careta::Aparece() {
-    QRect sitio(QPoint(0, 0), kTamano);
+    QRect sitio(QPoint(0, 0), size());
     sitio.moveCenter(QGuiApplication::primaryScreen()->geometry().center());
     move(sitio.topLeft());
     show();
@@ -41,32 +41,31 @@ void Careta::Aparece() {
     startTimer(0);
 }
 
-// The sheet takes its time to read: the splash's pause has it to spare.
+// The emblem takes its time to paint: the splash's pause has it to spare.
 void Careta::timerEvent(QTimerEvent* evento) {
     killTimer(evento->timerId());
-    PreparaLamina(devicePixelRatioF());
     con_emblema_ = true;
     update();
 }
 
 void Careta::paintEvent(QPaintEvent*) {
     QPainter p(this);
+    p.scale(FactorDeMesa(), FactorDeMesa());
     p.setRenderHint(QPainter::Antialiasing);
+    const QRect todo(QPoint(0, 0), kTamano);
     QRadialGradient felpa(QPointF(kTamano.width() / 2.0, 100), kTamano.width() * 0.6);
     felpa.setColorAt(0, QColor(0, 140, 20));
     felpa.setColorAt(1, QColor(0, 88, 0));
-    p.fillRect(rect(), felpa);
+    p.fillRect(todo, felpa);
     p.setBrush(Qt::NoBrush);
     p.setPen(QPen(estilo::kMarco, 4));
-    p.drawRect(rect().adjusted(2, 2, -2, -2));
+    p.drawRect(todo.adjusted(2, 2, -2, -2));
     p.setPen(QPen(estilo::kMarcoClaro, 1));
-    p.drawRect(rect().adjusted(8, 8, -9, -9));
+    p.drawRect(todo.adjusted(8, 8, -9, -9));
 
     if (con_emblema_) {
         constexpr lamina::Recorte kPieza = lamina::kEmblemaPortada;
-        const QRect sitio((kTamano.width() - kPieza.ancho) / 2, kAltoEmblema, kPieza.ancho,
-                          kPieza.alto);
-        p.drawImage(sitio, PiezaDe(kPieza, devicePixelRatioF()));
+        estilo::PintaPieza(p, QPointF((kTamano.width() - kPieza.ancho) / 2, kAltoEmblema), kPieza);
     }
     const auto renglon = [&](int y, int alto, const QString& texto, const QColor& color) {
         p.setPen(color);

@@ -3,11 +3,10 @@
 // sheet's buttons.
 
 #include <QDialog>
+#include <QPainter>
 #include <QPushButton>
 
 #include "table/sheet_layout.h"
-
-class QPainter;
 
 namespace estilo {
 inline constexpr QColor kPapel(253, 245, 225), kTinta(34, 34, 34);
@@ -19,7 +18,21 @@ inline constexpr int kReborde = 5;         // the panel's rim
 
 // Colours of the dialogs for the standard widgets in them, the same on a dark desktop as on a light one.
 QPalette Paleta();
-// A piece of the sheet drawn out to donde: its rim of borde pixels stays, the rest stretches.
+// How many times as large as it was laid out the dialog is shown that a widget stands in; 1 anywhere else.
+double AumentoDe(const QWidget& widget);
+// The widget in pixels of its layout, and a point of it.
+QRect CajaDe(const QWidget& widget);
+QPointF PuntoEn(const QWidget& widget, const QPointF& donde);
+
+// Paints on a widget in pixels of its layout.
+class PintorDeVista : public QPainter {
+public:
+    explicit PintorDeVista(QWidget* widget);
+};
+
+// A piece of the sheet at a place, each of its pixels one of the device's.
+void PintaPieza(QPainter& pintor, const QPointF& donde, const lamina::Recorte& pieza);
+// A piece drawn out to donde: its rim of borde pixels stays, the rest stretches.
 void PintaPieza(QPainter& pintor, const QRect& donde, const lamina::Recorte& pieza, int borde);
 // Parchment, rim and title band over the whole of donde.
 void PintaPanel(QPainter& pintor, const QRect& donde, const QString& titulo);
@@ -43,6 +56,10 @@ class DialogoSuite : public QDialog {
     Q_OBJECT
 public:
     DialogoSuite(const QString& titulo, QWidget* padre);
+    // As much larger as the table is drawn, where the screen has room for it: everything in it grows, and keeps its
+    // place from then on. Called once, when all of it is laid out.
+    void CreceConLaMesa();
+    double Aumento() const { return aumento_; }
     // Centred in a place of the screen, never with its upper edge or left edge outside it.
     void CentraEn(const QRect& donde);
 
@@ -50,4 +67,7 @@ protected:
     void paintEvent(QPaintEvent* evento) override;
     void mousePressEvent(QMouseEvent* evento) override;
     bool focusNextPrevChild(bool siguiente) override;
+
+private:
+    double aumento_ = 1;
 };

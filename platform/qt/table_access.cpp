@@ -8,6 +8,7 @@
 #include "platform/qt/control_view.h"
 #include "platform/qt/main_window.h"
 #include "platform/qt/scale.h"
+#include "table/keyboard_walk.h"
 
 namespace {
 
@@ -120,6 +121,8 @@ public:
         como.disabled = EsDePulsar(objetivo_) && !objetivo_.se_pulsa;
         como.invisible = !arbol_.Mesa()->isVisible();
         como.readOnly = !EsDePulsar(objetivo_);
+        const auto enmarcado = ObjetivoEnmarcado();
+        como.focused = enmarcado && enmarcado->EsElMismo(objetivo_);
         como.hasPopup = objetivo_.tiene_menu;
         return como;
     }

@@ -199,6 +199,38 @@ private Q_SLOTS:
         }
     }
 
+    // The table's green at the head of the felt, darker below it: the light falls from above.
+    void LaLuzVieneDeArriba() {
+        Imagenes imagenes(1);
+        LienzoRetenido mesa(imagenes, Fondo::Fieltro);
+        mesa.PonTamano(kMesa, false);
+        const QImage& cuadro = mesa.Cuadro();
+        const auto verde = [&](int y) {
+            double suma = 0;
+            for (int x = 0; x < cuadro.width(); ++x)
+                suma += qGreen(cuadro.pixel(x, y));
+            return suma / cuadro.width();
+        };
+        QVERIFY(std::abs(verde(0) - 0x80) < 2);
+        QVERIFY(verde(cuadro.height() / 2) < verde(0) - 8);
+        QVERIFY(verde(cuadro.height() - 1) < verde(cuadro.height() / 2) - 8);
+    }
+
+    void UnVeloDejaVerAlgoDeLoQueCubre() {
+        Imagenes imagenes(1);
+        LienzoRetenido mesa(imagenes, Fondo::Fieltro);
+        mesa.PonTamano(kMesa, false);
+        const QColor limpio = mesa.Cuadro().pixelColor(20, 20);
+        mesa.Caja({10, 10, 40, 40}, color::kBlanco);
+        mesa.Velo({10, 10, 20, 40});
+        const QColor velado = mesa.Cuadro().pixelColor(20, 20);
+        QVERIFY(velado.red() > limpio.red() + 20 && velado.red() < 120);
+        QCOMPARE(mesa.Cuadro().pixelColor(40, 20), QColor(Qt::white));
+        mesa.Caja({60, 10, 20, 20}, color::kBlanco);
+        QCOMPARE(mesa.Cuadro().pixelColor(70, 20),
+                 QColor(Qt::white)); // what follows is drawn as ever
+    }
+
     void LasEsquinasDejanVerElFieltro() {
         Imagenes imagenes(2);
         imagenes.CargaBaraja(Guarda(BarajaDeColores(12), "b.bmp"), 12);

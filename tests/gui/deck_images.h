@@ -25,8 +25,11 @@ inline QImage BarajaDeColores(int columnas, int k = 1) {
     return baraja;
 }
 
-// The odds of the draw of Póker: a table without any, which is enough to play.
-inline bool PonTablaDeDescartes(const QString& carpeta) {
+// The files that a table needs: both decks, and the odds of the draw of Póker, a table without any, which is enough
+// to play. False when they cannot be written.
+inline bool PonFicherosDeMesa(const QString& carpeta) {
     QFile tabla(carpeta + QStringLiteral("/PkFDes.ZOV"));
-    return tabla.open(QIODevice::WriteOnly);
+    return BarajaDeColores(13).save(carpeta + QStringLiteral("/Baraja01.bmp")) &&
+           BarajaDeColores(12).save(carpeta + QStringLiteral("/Baraja02.bmp")) &&
+           tabla.open(QIODevice::WriteOnly);
 }

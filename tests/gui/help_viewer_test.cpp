@@ -7,18 +7,42 @@
 #include <QLineEdit>
 #include <QRegularExpression>
 #include <QScreen>
+#include <QScrollBar>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTextBrowser>
 #include <QTreeWidget>
 #include <QTreeWidgetItemIterator>
 
+#include "forms/form.h"
+#include "platform/qt/help_pictures.h"
 #include "platform/qt/help_viewer.h"
+#include "reports/estadis.h"
+#include "reports/historic.h"
+#include "reports/marcador.h"
 #include "table/tips.h"
 
 namespace {
 
 QString PaginasDelProyecto() {
     return qEnvironmentVariable("ZOVIN_SOURCE") + "/assets/help";
+}
+
+QString BarajasDelProyecto() {
+    return qEnvironmentVariable("ZOVIN_BIN");
+}
+
+QString Lee(const QString& fichero) {
+    QFile pagina(fichero);
+    return pagina.open(QIODevice::ReadOnly) ? QString::fromUtf8(pagina.readAll()) : QString();
+}
+
+QStringList Marcadas(VistaAyuda& ayuda) {
+    QStringList marcadas;
+    for (const auto& marca : ayuda.findChild<QTextBrowser*>()->extraSelections())
+        marcadas << marca.cursor.selectedText();
+    return marcadas;
 }
 
 QStringList Visibles(VistaAyuda& ayuda) {
@@ -44,6 +68,7 @@ class PruebaAyuda : public QObject {
 
 private Q_SLOTS:
     void initTestCase() {
+        QStandardPaths::setTestModeEnabled(true);
         Escribe("contents.txt", "1000 | Descripción general | 0\n"
                                 "2100 | La mesa | 0\n"
                                 "2195 | El botón verde | 2100\n"
@@ -54,6 +79,11 @@ private Q_SLOTS:
         Escribe("2100.html", "<h1>Mesa</h1><p>Verde como el Póker.</p>");
         Escribe("2195.html", "<h1>Verde</h1><p>Se pulsa para continuar.</p>");
         Escribe("3000.html", "<h1>Nadie</h1>");
+    }
+
+    void init() {
+        QDir(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation))
+            .removeRecursively();
     }
 
     void ElContenidoSeLeeLineaALinea() {
@@ -171,7 +201,7 @@ private Q_SLOTS:
     void LaAyudaCabeEnLaPantalla() {
         VistaAyuda ayuda(carpeta_.path());
         const QSize pantalla = QApplication::primaryScreen()->availableSize();
-        QVERIFY(pantalla.width() < 920); // or this screen would tell nothing
+        QVERIFY(pantalla.width() < 980); // or this screen would tell nothing
         ayuda.MuestraTema(0);
         QVERIFY(ayuda.width() <= pantalla.width());
         QVERIFY(ayuda.height() + 40 <= pantalla.height());
@@ -199,19 +229,152 @@ private Q_SLOTS:
     }
 
     void LosEnlacesYLosDibujosDelProyectoExisten() {
-        static const QRegularExpression remite(QStringLiteral("(?:href|src)=\"([^\"]+)\""));
+        static const QRegularExpression remite(QStringLiteral("(href|src)=\"([^\"]+)\""));
         const QDir paginas(PaginasDelProyecto());
-        int remites = 0;
+        DibujosAyuda dibujos(PaginasDelProyecto(), BarajasDelProyecto());
+        int enlaces = 0, cartas = 0;
         for (const QString& nombre : paginas.entryList({"*.html"})) {
-            QFile pagina(paginas.filePath(nombre));
-            QVERIFY(pagina.open(QIODevice::ReadOnly));
-            auto cada = remite.globalMatch(QString::fromUtf8(pagina.readAll()));
-            for (; cada.hasNext(); ++remites) {
-                const QString destino = cada.next().captured(1);
-                QVERIFY2(paginas.exists(destino), qPrintable(nombre + ": " + destino));
+            auto cada = remite.globalMatch(Lee(paginas.filePath(nombre)));
+            while (cada.hasNext()) {
+                const QUrl destino(cada.next().captured(2));
+                const bool pintado = DibujosAyuda::EsSuyo(destino);
+                QVERIFY2(pintado ? !dibujos.Dibujo(destino, 1).isNull()
+                                 : paginas.exists(destino.toString()),
+                         qPrintable(nombre + ": " + destino.toString()));
+                ++(pintado ? cartas : enlaces);
             }
         }
-        QVERIFY(remites > 100);
+        QVERIFY(enlaces > 100);
+        QVERIFY(cartas > 400);
+    }
+
+    void TodoDibujoTieneSuTexto() {
+        static const QRegularExpression dibujo(QStringLiteral("<img [^>]*>"));
+        const QDir paginas(PaginasDelProyecto());
+        for (const QString& nombre : paginas.entryList({"*.html"})) {
+            auto cada = dibujo.globalMatch(Lee(paginas.filePath(nombre)));
+            while (cada.hasNext()) {
+                const QString etiqueta = cada.next().captured(0);
+                QVERIFY2(etiqueta.contains(" alt=\""), qPrintable(nombre + ": " + etiqueta));
+            }
+        }
+    }
+
+    void UnaCartaSeDibujaParaLaPantalla() {
+        DibujosAyuda dibujos(PaginasDelProyecto(), BarajasDelProyecto());
+        const QImage una = dibujos.Dibujo(QUrl("carta:oros/sota"), 1);
+        const QImage doble = dibujos.Dibujo(QUrl("carta:oros/sota"), 2);
+        QCOMPARE(una.size(), QSize(44, 61));
+        QCOMPARE(doble.size(), QSize(88, 122));
+        QCOMPARE(doble.deviceIndependentSize().toSize(), una.size());
+        QCOMPARE(dibujos.Dibujo(QUrl("carta:oros/10/88"), 1), [&] {
+            QImage igual = doble;
+            igual.setDevicePixelRatio(1);
+            return igual;
+        }());
+        QVERIFY(una != dibujos.Dibujo(QUrl("carta:copas/sota"), 1));
+        QVERIFY(dibujos.Dibujo(QUrl("esquina:picas/dama"), 1).width() == 22);
+        QCOMPARE(dibujos.Dibujo(QUrl("foto:mesa.png/600"), 2).width(), 1200);
+        QCOMPARE(dibujos.Dibujo(QUrl("foto:mesa.png/600"), 2, 400).width(), 800);
+        QCOMPARE(dibujos.Dibujo(QUrl("puntero:mano_verde"), 1.5).width(), 48);
+        QCOMPARE(dibujos.Dibujo(QUrl("pieza:boton5_apagado"), 1).size(), QSize(50, 50));
+    }
+
+    void LoQueNoSeSabeDibujarSeDeja() {
+        DibujosAyuda dibujos(PaginasDelProyecto(), BarajasDelProyecto());
+        for (const char* cual :
+             {"carta:", "carta:oros", "carta:oros/0", "carta:oros/13", "carta:picas/14",
+              "carta:tomates/as", "pieza:nada", "puntero:nada", "foto:nada.png", "foto:"})
+            QVERIFY2(dibujos.Dibujo(QUrl(cual), 1).isNull(), cual);
+        DibujosAyuda sin_barajas(PaginasDelProyecto(), carpeta_.filePath("no_hay"));
+        QVERIFY(sin_barajas.Dibujo(QUrl("carta:oros/as"), 1).isNull());
+        QVERIFY(!DibujosAyuda::EsSuyo(QUrl("3130.html")));
+    }
+
+    void LasHojasDeMesaCabenEnUnaPantalla() {
+        VistaAyuda ayuda(PaginasDelProyecto(), BarajasDelProyecto());
+        ayuda.MuestraTema(0);
+        ayuda.resize(980, 680);
+        QCoreApplication::processEvents();
+        auto* hoja = ayuda.findChild<QTextBrowser*>();
+        for (const int tema : {3119, 3129, 3139, 3149, 3159, 3169}) {
+            ayuda.MuestraTema(tema);
+            QVERIFY(hoja->toPlainText().size() > 500);
+            const int sobra =
+                hoja->viewport()->height() - qRound(hoja->document()->size().height());
+            QVERIFY2(sobra >= 20, qPrintable(QStringLiteral("%1: %2").arg(tema).arg(sobra)));
+            QCOMPARE(hoja->horizontalScrollBar()->maximum(), 0);
+        }
+    }
+
+    void LoEncontradoQuedaMarcado() {
+        VistaAyuda ayuda(carpeta_.path());
+        ayuda.MuestraTema(2100);
+        auto* busca = ayuda.findChild<QLineEdit*>();
+        busca->setText("poker");
+        QCOMPARE(Marcadas(ayuda), QStringList{"Póker"});
+        busca->setText("boton");
+        QTest::keyClick(busca, Qt::Key_Return); // to another page
+        QVERIFY(Marcadas(ayuda).isEmpty());     // its title stands in the tree alone
+        busca->setText("CONTINUAR verde");
+        QCOMPARE(Marcadas(ayuda), (QStringList{"continuar", "Verde"}));
+        busca->clear();
+        QVERIFY(Marcadas(ayuda).isEmpty());
+    }
+
+    void LosSinonimosDelGlosarioSirvenParaBuscar() {
+        VistaAyuda ayuda(PaginasDelProyecto(), BarajasDelProyecto());
+        ayuda.MuestraTema(0);
+        auto* busca = ayuda.findChild<QLineEdit*>();
+        busca->setText("split");
+        QVERIFY(Visibles(ayuda).contains("Abrir el juego en dos series"));
+        busca->setText("acusar");
+        QVERIFY(Visibles(ayuda).contains("Tute"));
+        busca->setText("all-in");
+        QVERIFY(Visibles(ayuda).contains("Igualar, subir o retirarse"));
+        busca->setText("dificultad");
+        QVERIFY(Visibles(ayuda).contains("Cómo juegan los rivales"));
+    }
+
+    void LaAyudaNoTapaLaMesaSiHaySitio() {
+        const QRect pantalla(0, 0, 1920, 1080);
+        const QSize ayuda(900, 700);
+        QCOMPARE(JuntoA({0, 40, 1000, 800}, ayuda, pantalla), QRect(1000, 40, 900, 700));
+        QCOMPARE(JuntoA({920, 400, 1000, 680}, ayuda, pantalla), QRect(20, 380, 900, 700));
+        QCOMPARE(JuntoA({0, 0, 1200, 1080}, ayuda, pantalla), QRect(1200, 0, 720, 700));
+        QVERIFY(!JuntoA(pantalla, ayuda, pantalla));
+        QVERIFY(!JuntoA({300, 0, 1320, 1080}, ayuda, pantalla));
+        QVERIFY(!JuntoA(QRect(), ayuda, pantalla));
+        const QRect baja = JuntoA({0, 0, 800, 600}, ayuda, {0, 0, 1600, 600}).value_or(QRect());
+        QCOMPARE(baja, QRect(800, 0, 800, 600));
+    }
+
+    void LaAyudaVuelveADondeEstaba() {
+        const QRect sitio(40, 60, 500, 400);
+        {
+            VistaAyuda ayuda(carpeta_.path());
+            ayuda.MuestraTema(0);
+            ayuda.setGeometry(sitio);
+            ayuda.close();
+        }
+        VistaAyuda otra(carpeta_.path());
+        otra.MuestraTema(0, QRect(700, 0, 100, 100));
+        QCOMPARE(otra.geometry(), sitio);
+        otra.setGeometry(sitio.translated(10, 10));
+        otra.MuestraTema(1000, QRect(0, 0, 800, 800)); // only its first appearance is placed
+        QCOMPARE(otra.geometry(), sitio.translated(10, 10));
+    }
+
+    void UnSitioQueYaNoExisteNoSeUsa() {
+        {
+            VistaAyuda ayuda(carpeta_.path());
+            ayuda.MuestraTema(0);
+            ayuda.setGeometry(5000, 4000, 500, 400);
+            ayuda.close();
+        }
+        VistaAyuda otra(carpeta_.path());
+        otra.MuestraTema(0);
+        QVERIFY(QApplication::primaryScreen()->availableGeometry().intersects(otra.geometry()));
     }
 
     void ElIndiceTieneLasPaginasEnElOrdenDelArbol() {
@@ -232,6 +395,32 @@ private Q_SLOTS:
             temas << pagina.tema;
         for (const Consejo& consejo : Consejos())
             QVERIFY2(temas.contains(consejo.tema), consejo.texto);
+    }
+
+    void CadaBotonDeAyudaTieneSuPagina() {
+        const auto paginas = LeeContenido(PaginasDelProyecto());
+        for (const int tema :
+             {kAyudaNormas, kAyudaPersonal, kAyudaMarcador, kAyudaHistorico, kAyudaEstadis}) {
+            QVERIFY(std::ranges::any_of(
+                paginas, [tema](const PaginaAyuda& pagina) { return pagina.tema == tema; }));
+            QVERIFY(QFile::exists(PaginasDelProyecto() + QStringLiteral("/%1.html").arg(tema)));
+        }
+    }
+
+    void CadaPaginaDelContenidoEstaYLlevaSuTitulo() {
+        static const QRegularExpression cabeza(QStringLiteral("<h1>([^<]*)</h1>"));
+        const QDir carpeta(PaginasDelProyecto());
+        QStringList nombres;
+        for (const PaginaAyuda& pagina : LeeContenido(PaginasDelProyecto())) {
+            const QString nombre = QStringLiteral("%1.html").arg(pagina.tema);
+            const QString texto = Lee(carpeta.filePath(nombre));
+            QVERIFY2(!texto.isEmpty(), qPrintable(nombre));
+            QCOMPARE(cabeza.match(texto).captured(1), pagina.titulo);
+            nombres << nombre;
+        }
+        nombres << "index.html";
+        nombres.sort();
+        QCOMPARE(carpeta.entryList({"*.html"}, QDir::Files, QDir::Name), nombres);
     }
 
     void LasPaginasDelProyectoSeMuestranTodas() {

@@ -51,6 +51,8 @@ private Q_SLOTS:
         };
         fila("verde", lamina::kContinuarArriba, color::kAmarillo, 5, 30);
         fila("verde pulsado", lamina::kContinuarPulsado, color::kAmarillo, 6, 31);
+        fila("verde solo", lamina::kContinuarSoloArriba, color::kAmarillo, 5, 30);
+        fila("verde solo pulsado", lamina::kContinuarSoloPulsado, color::kAmarillo, 6, 31);
         fila("carta", lamina::kBotonSuperiorArriba, color::kBlanco, 6, 18);
         fila("carta pulsado", lamina::kBotonSuperiorPulsado, color::kBlanco, 6, 18);
         fila("doblar", lamina::kBotonDobSegArriba, color::kBlanco, 6, 18);
@@ -75,6 +77,8 @@ private Q_SLOTS:
         QTest::newRow("rótulo blanco") << QColor(Qt::white) << placa;
         QTest::newRow("rótulo verde") << ColorQt(color::kVerde) << placa;
         QTest::newRow("rótulo cian") << QColor(Qt::cyan) << placa;
+        QTest::newRow("nombre encendido") << ColorQt(color::kAmarillo) << placa;
+        QTest::newRow("tanteo") << marfil << placa;
         QTest::newRow("sugerencia") << ColorQt(color::kAzul) << marfil;
         QTest::newRow("menú") << ColorQt(color::kNegro) << marfil;
         QTest::newRow("menú resaltado") << QColor(Qt::white) << ColorQt(color::kAzulOscuro);

@@ -26,9 +26,7 @@ public:
     // Once for all cases: the folder with the files that a table needs. False when they cannot be written.
     bool PonFicheros() {
         QStandardPaths::setTestModeEnabled(true);
-        return BarajaDeColores(13).save(carpeta_.filePath("Baraja01.bmp")) &&
-               BarajaDeColores(12).save(carpeta_.filePath("Baraja02.bmp")) &&
-               PonTablaDeDescartes(carpeta_.path());
+        return PonFicherosDeMesa(carpeta_.path());
     }
 
     // A window with an empty table of the game, nothing waited for, no pauses. False when it does not come up.

@@ -531,10 +531,7 @@ class PruebaMono : public QObject {
 private Q_SLOTS:
     void initTestCase() {
         QStandardPaths::setTestModeEnabled(true);
-        for (const char* baraja : {"Baraja01.bmp", "Baraja02.bmp"})
-            QVERIFY(BarajaDeColores(QString(baraja).contains("1") ? 13 : 12)
-                        .save(carpeta_.filePath(baraja)));
-        QVERIFY(PonTablaDeDescartes(carpeta_.path()));
+        QVERIFY(PonFicherosDeMesa(carpeta_.path()));
         mesa_ = std::make_unique<Escritorio>(carpeta_.path());
         mesa_->al_esperar = [this] { AlEsperar(); };
         mesa_->al_dormir = [this] { AlDormir(); };

@@ -1,13 +1,19 @@
-// The painted pictures as the program finds them: the deck images beside it, the rest in its resources.
+// The painted pictures as the program finds them: the deck images beside it, the rest in its resources as drawings.
 
 #include <QColor>
 #include <QFile>
 #include <QImage>
+#include <QSvgRenderer>
+#include <QTemporaryDir>
 #include <QTest>
+#include <QtMath>
 
 #include <vector>
 
 #include "platform/canvas.h"
+#include "platform/qt/card_images.h"
+#include "platform/qt/drawings.h"
+#include "platform/qt/sheet_images.h"
 #include "table/sheet_layout.h"
 
 namespace {
@@ -59,14 +65,7 @@ std::vector<QImage> Cartas(const char* baraja, int columnas) {
     return cartas;
 }
 
-QImage Laminas() {
-    return QImage(QStringLiteral(":/arte/laminas.png"));
-}
-
-QRect EnLaminas(const lamina::Recorte& sitio) {
-    return {sitio.x * lamina::kEscala, sitio.y * lamina::kEscala, sitio.ancho * lamina::kEscala,
-            sitio.alto * lamina::kEscala};
-}
+constexpr int kVeces = 3;
 
 int Opacos(const QImage& imagen) {
     int puntos = 0;
@@ -134,28 +133,73 @@ private Q_SLOTS:
         }
     }
 
-    void everyPieceIsPaintedAndNothingElse() {
-        QImage laminas = Laminas();
-        QCOMPARE(laminas.size(), QSize(lamina::kAncho, lamina::kAlto) * lamina::kEscala);
-        const int pintados = Opacos(laminas);
-        int enPiezas = 0;
+    void everyPieceIsPaintedAtEverySize() {
         for (const lamina::Pieza& pieza : lamina::kPiezas) {
-            const QImage recorte = laminas.copy(EnLaminas(pieza.sitio));
-            QVERIFY2(
-                Opacos(recorte) > recorte.width() * recorte.height() / 4,
-                QByteArray(pieza.archivo.data(), static_cast<qsizetype>(pieza.archivo.size())));
-            enPiezas += Opacos(recorte);
+            const QByteArray nombre(pieza.archivo.data(),
+                                    static_cast<qsizetype>(pieza.archivo.size()));
+            for (const double ratio : {1.0, 1.25, 3.0, 6.0}) {
+                const QImage imagen = PiezaDe(pieza.sitio, ratio);
+                QCOMPARE(imagen.width(), qCeil(pieza.sitio.ancho * ratio));
+                QCOMPARE(imagen.height(), qCeil(pieza.sitio.alto * ratio));
+                QVERIFY2(Opacos(imagen) > imagen.width() * imagen.height() / 4, nombre);
+            }
         }
-        QCOMPARE(enPiezas, pintados);
+    }
+
+    void everyDrawingHasTheSizeThatTheSheetGivesIt() {
+        for (const lamina::Pieza& pieza : lamina::kPiezas) {
+            const QString nombre = QString::fromUtf8(pieza.archivo.data(),
+                                                     static_cast<qsizetype>(pieza.archivo.size()));
+            QCOMPARE(
+                QSvgRenderer(QStringLiteral(":/dibujos/sheet/%1.svg").arg(nombre)).defaultSize(),
+                QSize(pieza.sitio.ancho, pieza.sitio.alto));
+        }
+    }
+
+    void theShippedDecksAreKnownAndPaintedFromTheirDrawings() {
+        for (const auto& [nombre, columnas] :
+             {std::pair{"Baraja01.bmp", 13}, {"Baraja02.bmp", 12}}) {
+            const QString ruta = qEnvironmentVariable("ZOVIN_BIN") + '/' + nombre;
+            QVERIFY(EsBarajaDelPrograma(ruta, columnas));
+            QVERIFY(!EsBarajaDelPrograma(ruta, 25 - columnas));
+            Imagenes imagenes(1);
+            imagenes.CargaBaraja(ruta, columnas);
+            const QImage baraja = Baraja(nombre);
+            for (int palo = 1; palo <= 4; ++palo) {
+                for (int valor = 1; valor <= columnas; ++valor) {
+                    const QImage carta = imagenes.Carta(
+                        {static_cast<Integer>(palo), static_cast<Integer>(valor), 2, 1});
+                    QCOMPARE(carta.size(), QSize(kAnchoCarta, kAltoCarta));
+                    const QRect dentro(6, 6, kAnchoCarta - 12, kAltoCarta - 12);
+                    QVERIFY(Diferencia(carta.copy(dentro).convertToFormat(QImage::Format_RGB32),
+                                       Celda(baraja, palo, valor).copy(dentro)) < 60);
+                }
+            }
+        }
+    }
+
+    void aDeckChangedInOneByteIsAnotherDeck() {
+        QTemporaryDir carpeta;
+        const QString otra = carpeta.filePath("Baraja02.bmp");
+        QVERIFY(QFile::copy(qEnvironmentVariable("ZOVIN_BIN") + "/Baraja02.bmp", otra));
+        QVERIFY(EsBarajaDelPrograma(otra, 12));
+        QFile fichero(otra);
+        QVERIFY(fichero.open(QIODevice::ReadWrite));
+        QVERIFY(fichero.seek(fichero.size() / 2));
+        char byte = 0;
+        QVERIFY(fichero.peek(&byte, 1) == 1);
+        byte = static_cast<char>(byte ^ 1);
+        QVERIFY(fichero.write(&byte, 1) == 1);
+        fichero.close();
+        QVERIFY(!EsBarajaDelPrograma(otra, 12));
+        QVERIFY(!EsBarajaDelPrograma(carpeta.filePath("no_hay.bmp"), 12));
     }
 
     void aDisabledButtonHasLostItsColour() {
-        const QImage laminas = Laminas();
         for (int boton = 1; boton <= 8; ++boton) {
             using lamina::Aspecto;
-            const QImage vivo = laminas.copy(EnLaminas(lamina::BotonPrincipal(boton)));
-            const QImage apagado =
-                laminas.copy(EnLaminas(lamina::BotonPrincipal(boton, Aspecto::Apagado)));
+            const QImage vivo = PiezaDe(lamina::BotonPrincipal(boton), kVeces);
+            const QImage apagado = PiezaDe(lamina::BotonPrincipal(boton, Aspecto::Apagado), kVeces);
             QVERIFY(Viveza(apagado) * 3 < Viveza(vivo));
         }
     }
@@ -164,28 +208,27 @@ private Q_SLOTS:
         for (const lamina::Puntero& puntero : lamina::kPunteros) {
             const QString nombre = QString::fromStdString(std::string(puntero.archivo));
             for (int escala = 1; escala <= 3; ++escala) {
-                const QString sufijo = escala == 1 ? QString() : QStringLiteral("@%1x").arg(escala);
-                QFile archivo(QStringLiteral(":/arte/%1%2.png").arg(nombre, sufijo));
-                QVERIFY2(archivo.open(QIODevice::ReadOnly), qPrintable(archivo.fileName()));
-                const QImage imagen = QImage::fromData(archivo.readAll());
-                QCOMPARE(imagen.width(), lamina::kLadoPuntero * escala);
+                const int lado = lamina::kLadoPuntero * escala;
+                const QImage imagen = Dibujo("cursors/" + nombre, {lado, lado});
+                QCOMPARE(imagen.width(), lado);
                 const QImage cerca =
                     imagen.copy((puntero.puntaX - 2) * escala, (puntero.puntaY - 2) * escala,
                                 5 * escala, 5 * escala);
-                QVERIFY2(Opacos(cerca) > 0, qPrintable(archivo.fileName()));
+                QVERIFY2(Opacos(cerca) > 0, qPrintable(nombre));
             }
         }
     }
 
     void theLooseCardsHaveClearCornersAndTheSizeOfACard() {
         for (const char* nombre : {"comodin1", "comodin2", "dorso"}) {
-            const QImage carta(QStringLiteral(":/arte/%1.png").arg(QLatin1String(nombre)));
-            QCOMPARE(carta.size(), QSize(kAnchoCarta, kAltoCarta) * lamina::kEscala);
+            const QImage carta =
+                Dibujo(QStringLiteral("cards/") + nombre, QSize(kAnchoCarta, kAltoCarta) * kVeces);
+            QCOMPARE(carta.size(), QSize(kAnchoCarta, kAltoCarta) * kVeces);
             QCOMPARE(qAlpha(carta.pixel(0, 0)), 0);
             QCOMPARE(qAlpha(carta.pixel(carta.rect().center())), 255);
         }
     }
 };
 
-QTEST_GUILESS_MAIN(PicturesTest)
+QTEST_MAIN(PicturesTest)
 #include "pictures_test.moc"

@@ -128,6 +128,28 @@ private Q_SLOTS:
         QVERIFY(eventos[0].control == Control::Pic_BotContinuar);
     }
 
+    // A click is told with the moment in which it began.
+    void ElClicDiceCuandoSeApreto() {
+        PonContinuar();
+        QTest::mousePress(Boton("Pic_BotContinuar"), Qt::LeftButton);
+        const Milisegundos apretado = mesa_->Reloj();
+        QTest::qWait(60);
+        QTest::mouseRelease(Boton("Pic_BotContinuar"), Qt::LeftButton);
+        const auto eventos = Toma();
+        QCOMPARE(eventos.size(), 1u);
+        QVERIFY(eventos[0].desde.has_value());
+        QVERIFY(*eventos[0].desde <= apretado);
+        QVERIFY(*eventos[0].desde >= apretado - 50);
+    }
+
+    void LaPlacaDeLaPartidaDejaPasarElRaton() {
+        for (const Control placa : {Control::Pic_Tanteo, Control::Pic_Aviso}) {
+            mesa_->Coloca(placa, 0, {300, 300, 66, 27});
+            mesa_->Muestra(placa, 0, true);
+            QCOMPARE(Tapete()->childAt(310, 310), nullptr);
+        }
+    }
+
     void UnaPlacaDejaPasarElRaton() {
         mesa_->Coloca(Control::Pic_Tantos, 2, {100, 100, 66, 27});
         mesa_->Muestra(Control::Pic_Tantos, 2, true);
@@ -160,7 +182,7 @@ private Q_SLOTS:
         QTest::newRow("Esc") << int(Qt::Key_Escape) << "\x1b" << 0 << 27;
         QTest::newRow("Entrar") << int(Qt::Key_Return) << "\r" << 0 << 13;
         QTest::newRow("espacio") << int(Qt::Key_Space) << " " << 0 << 32;
-        QTest::newRow("Control+C") << int(Qt::Key_C) << "\x03" << int(Qt::ControlModifier) << 3;
+        QTest::newRow("Control+C") << int(Qt::Key_C) << "\x03" << int(Qt::ControlModifier) << 0;
         QTest::newRow("Tab") << int(Qt::Key_Tab) << "\t" << 0 << 0;
         QTest::newRow("flecha") << int(Qt::Key_Left) << "" << 0 << 0;
         QTest::newRow("Mayúsculas") << int(Qt::Key_Shift) << "" << int(Qt::ShiftModifier) << 0;

@@ -177,3 +177,20 @@ def plain_button(width, height, colour, down, r=5.0):
         g.rect(12.5, 12, w - 25, (h - 24) * 0.36, WHITE, None, r=k - 8,
                opacity=0.1 if colour in DARK_FACES else 0.22)
     return g
+
+
+def own_move_button(width, height, down):
+    """The green face in a frame of loose studs: the program would move for the player."""
+    g = plain_button(width, height, "verde", down, 7)
+    w, h = 3 * width, 3 * height
+    g.rect(1.6, 1.6, w - 3.2, h - 3.2, None, INK, 3.2, r=22)
+    g.rect(5.6, 5.6, w - 11.2, h - 11.2, None, "#5a1108", 7.2, r=18)
+    studs = "#ffd27a" if not down else "#c48d25"
+    step = (w - 36) / 12
+    for k in range(13):
+        for y in (5.6, h - 5.6):
+            g.rect(18 + step * k - 5, y - 2.5, 10, 5, studs, None, r=2)
+    for y in (h * 0.28, h * 0.5, h * 0.72):
+        for x in (5.6, w - 5.6):
+            g.rect(x - 2.5, y - 5, 5, 10, studs, None, r=2)
+    return g

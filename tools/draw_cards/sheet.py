@@ -102,32 +102,31 @@ def chip(value):
     return g
 
 
-# -- marks, 32 by 32
+# -- marks: the winner's is seen from afar, the others are 32 by 32
 
 def mark_winner():
-    """A gold star in a laurel."""
+    """A gold star in a laurel, on a dark disc that keeps it apart from the cards below."""
     from ases import wreath
-    g = canvas(32, 32)
-    wreath(g, 48, 47, 33.5, 16, 150, 5, GOLD, GOLD_LIGHT, size=0.62, berries=False)
+    g = canvas(92, 92)
+    c = 138
+    rim = g.linear("rim", [(0, "#fff1b8"), (0.5, GOLD), (1, "#8a560c")])
+    g.circle(c, c, 135, INK, opacity=0.8)
+    g.circle(c, c, 131, rim, INK, 3)
+    g.circle(c, c, 121, g.radial("disc", [(0, "#1d7a3a"), (0.7, "#0d5426"), (1, "#06351a")], 0.5, 0.42, 0.6), INK, 3)
+    wreath(g, c, c + 2, 98, 14, 152, 9, GOLD, GOLD_LIGHT, size=1.05, berries=False)
     star = []
     for k in range(10):
-        r = 33 if k % 2 == 0 else 14.5
-        star.append((48 + r * math.sin(math.pi * k / 5), 49 - r * math.cos(math.pi * k / 5)))
-    g.poly(star, g.linear("star", [(0, "#fffbe6"), (0.5, "#ffd95a"), (1, "#e79a1c")]), INK, 3.4)
+        r = 82 if k % 2 == 0 else 35
+        star.append((c + r * math.sin(math.pi * k / 5), c + 3 - r * math.cos(math.pi * k / 5)))
+    g.poly(star, g.linear("star", [(0, "#fffbe6"), (0.5, "#ffd95a"), (1, "#e79a1c")]), INK, 5)
     return g
 
 
-def mark_finished():
-    """A closed wax seal with a tick: this serie takes no more cards."""
-    g = canvas(32, 32)
-    rim = []
-    for k in range(40):
-        r = 41 + 2.6 * math.cos(k * math.pi / 2)
-        rim.append((48 + r * math.sin(math.pi * k / 20), 48 - r * math.cos(math.pi * k / 20)))
-    g.path(spline(rim, closed=True), BLUE, INK, 3.6)
-    g.circle(48, 48, 32, BLUE_DARK, BLUE_LIGHT, 2.6)
-    g.path("M 30,49 L 43,63 L 67,33", None, INK, 15)
-    g.path("M 30,49 L 43,63 L 67,33", None, GOLD_LIGHT, 9)
+def suit_tile(suit):
+    """The sign of a suit on a scrap of card."""
+    g = canvas(22, 22)
+    g.rect(1.5, 1.5, 63, 63, PAPER, INK, 3, r=11)
+    pips.mini(g, suit, 33, 33, 1.42)
     return g
 
 
@@ -396,7 +395,7 @@ def pieces():
     yield "digito_vacio", digit(" ")
     for value in CHIPS:
         yield f"ficha{value}", chip(value)
-    yield from (("marca_ganador", mark_winner()), ("marca_serie_terminada", mark_finished()), ("marca_pasado", mark_bust()),
+    yield from (("marca_ganador", mark_winner()), ("marca_pasado", mark_bust()),
                 ("marca_turno", mark_turn()), ("marca_mano", mark_lead()), ("marca_banca", mark_bank()))
     for state, down in (("arriba", False), ("pulsado", True)):
         yield f"cerrar_{state}", close_button(down)
@@ -405,6 +404,7 @@ def pieces():
         yield f"spin_baja_{state}", tiny_button(15, 9, down, triangle("down", 7))
         yield f"selector_{state}", square_button(22, 22, "azul", down, triangle("right", 12, GOLD_LIGHT))
         yield f"continuar_{state}", plain_button(86, 36, "verde", down, 7)
+        yield f"continuar_solo_{state}", buttons.own_move_button(86, 36, down)
         yield f"boton_superior_{state}", plain_button(90, 24, "azul", down, 5)
         yield f"boton_dobseg_{state}", plain_button(76, 24, "rojo", down, 5)
         yield f"mensaje_{state}", plain_button(84, 28, "marfil", down, 5)
@@ -412,6 +412,8 @@ def pieces():
             yield f"apuesta{number}_{state}", plain_button(124, 27, colour, down, 5)
         for name, way in (("izquierda", "left"), ("derecha", "right"), ("sube", "up"), ("baja", "down")):
             yield f"lateral_{name}_{state}", square_button(23, 23, "verde", down, triangle(way, 12, GOLD_LIGHT))
+    for suit in ("oros", "copas", "espadas", "bastos"):
+        yield f"palo_{suit}", suit_tile(suit)
     yield from (("casilla_vacia", check(False)), ("casilla_marcada", check(True)), ("opcion_vacia", radio(False)),
                 ("opcion_marcada", radio(True)), ("carril_deslizador", rail()), ("pomo_deslizador", knob()))
     yield from (("marco_extremo_izquierdo", frame_bar("left")), ("marco_tira", frame_bar("strip")),

@@ -1,11 +1,13 @@
 // Paints the drawings of assets/ as the pictures that the program reads: the two deck images beside
-// the program, everything else as PNG for its resources, contact sheets for those who draw, and the
-// hands of Póker for the help.
+// the program and what they are known by, the icon for its resources, contact sheets for those who draw, and the
+// picture of the table in the help.
 // It needs no screen: run it with QT_QPA_PLATFORM=offscreen.
 
 #include <array>
 #include <cstdio>
+#include <cstdlib>
 #include <exception>
+#include <span>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -13,12 +15,14 @@
 
 #include <CLI/CLI.hpp>
 #include <QDir>
+#include <QFile>
 #include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
 #include <QSvgRenderer>
 
 #include "platform/canvas.h"
+#include "platform/qt/deck_signature.h"
 #include "table/sheet_layout.h"
 
 namespace {
@@ -112,6 +116,21 @@ void HazBarajas(const Carpetas& carpetas) {
     }
 }
 
+// What the finished deck images come to, by which the program knows them.
+void HazFirmas(const Carpetas& carpetas) {
+    for (const Baraja& baraja : {kFrancesa, kEspanola}) {
+        QFile imagen(carpetas.dibujos + '/' + QLatin1String(baraja.imagen));
+        QFile firma(carpetas.salida + '/' + QLatin1String(baraja.carpeta) + ".firma");
+        if (!imagen.open(QIODevice::ReadOnly))
+            Falla(imagen.fileName(), "cannot be read");
+        const QByteArray bytes = imagen.readAll();
+        const std::span todo(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+        if (!firma.open(QIODevice::WriteOnly) ||
+            firma.write(QByteArray::number(quint64{FirmaDe(std::as_bytes(todo))})) < 1)
+            Falla(firma.fileName(), "cannot be written");
+    }
+}
+
 QImage PintaLaminas(const Carpetas& carpetas, int escala) {
     QImage imagen = Lienzo(lamina::kAncho * escala, lamina::kAlto * escala, 0);
     QPainter pintor(&imagen);
@@ -131,30 +150,6 @@ QImage PintaSuelta(const QString& archivo, const QSize& medida, const QSize& pix
     return imagen;
 }
 
-void HazCartasSueltas(const Carpetas& carpetas) {
-    const QSize medida(kAnchoCarta, kAltoCarta);
-    for (const char* nombre : kCartasSueltas) {
-        const QString carta = QLatin1String(nombre);
-        Guarda(PintaSuelta(carpetas.dibujos + "/cards/" + carta + ".svg", medida,
-                           medida * lamina::kEscala),
-               carpetas.salida + '/' + carta + ".png");
-    }
-}
-
-void HazPunteros(const Carpetas& carpetas) {
-    constexpr std::array sufijos{"", "@2x", "@3x"};
-    const QSize medida(lamina::kLadoPuntero, lamina::kLadoPuntero);
-    for (const lamina::Puntero& puntero : lamina::kPunteros) {
-        const QString nombre = QString::fromStdString(std::string(puntero.archivo));
-        for (std::size_t escala = 1; escala <= sufijos.size(); ++escala) {
-            const QImage imagen = PintaSuelta(carpetas.dibujos + "/cursors/" + nombre + ".svg",
-                                              medida, medida * static_cast<int>(escala));
-            Guarda(imagen,
-                   carpetas.salida + '/' + nombre + QLatin1String(sufijos.at(escala - 1)) + ".png");
-        }
-    }
-}
-
 void HazIconos(const Carpetas& carpetas) {
     for (const int lado : kLadosIcono) {
         const QImage imagen =
@@ -164,9 +159,6 @@ void HazIconos(const Carpetas& carpetas) {
 }
 
 void HazRecursos(const Carpetas& carpetas) {
-    Guarda(PintaLaminas(carpetas, lamina::kEscala), carpetas.salida + "/laminas.png");
-    HazCartasSueltas(carpetas);
-    HazPunteros(carpetas);
     HazIconos(carpetas);
 }
 
@@ -209,66 +201,58 @@ void HazMuestras(const Carpetas& carpetas) {
     guarda(PintaMuestra(carpetas), "sheet.png");
 }
 
-// A hand of the help's page of Póker: its cards as the files of the drawings name them.
-struct Jugada {
-    const char* nombre;
-    std::array<const char*, 5> cartas;
+// A number of the help's picture of the table, in its pixels: what the page beside it explains.
+struct Llamada {
+    int numero;
+    QPoint donde;
 };
 
-constexpr std::array kJugadas{
-    Jugada{"repoker",
-           {"french/diamantes-09", "french/corazones-09", "french/picas-09", "french/treboles-09",
-            "comodin1"}},
-    Jugada{"escalera-de-color",
-           {"french/picas-09", "french/picas-08", "french/picas-07", "french/picas-06",
-            "french/picas-05"}},
-    Jugada{"poker",
-           {"french/diamantes-12", "french/corazones-12", "french/picas-12", "french/treboles-12",
-            "french/picas-04"}},
-    Jugada{"full",
-           {"french/corazones-10", "french/picas-10", "french/treboles-10", "french/diamantes-04",
-            "french/treboles-04"}},
-    Jugada{"color",
-           {"french/corazones-13", "french/corazones-10", "french/corazones-08",
-            "french/corazones-05", "french/corazones-03"}},
-    Jugada{"escalera",
-           {"french/treboles-10", "french/corazones-09", "french/picas-08", "french/diamantes-07",
-            "french/treboles-06"}},
-    Jugada{"figuras",
-           {"french/treboles-01", "french/diamantes-13", "french/picas-13", "french/corazones-12",
-            "french/picas-11"}},
-    Jugada{"trio",
-           {"french/diamantes-07", "french/picas-07", "french/treboles-07", "french/corazones-12",
-            "french/diamantes-03"}},
-    Jugada{"doble-pareja",
-           {"french/diamantes-11", "french/picas-11", "french/corazones-05", "french/treboles-05",
-            "french/picas-09"}},
-    Jugada{"pareja",
-           {"french/corazones-08", "french/treboles-08", "french/picas-13", "french/diamantes-06",
-            "french/treboles-02"}},
-    Jugada{"carta-mayor",
-           {"french/picas-01", "french/diamantes-10", "french/treboles-07", "french/corazones-05",
-            "french/diamantes-03"}},
-    Jugada{"trio-con-comodin",
-           {"french/diamantes-12", "french/treboles-12", "comodin1", "french/picas-09",
-            "french/corazones-04"}},
-};
+const std::array kLlamadas{Llamada{1, {488, 16}},  Llamada{2, {352, 356}}, Llamada{3, {592, 304}},
+                           Llamada{4, {582, 592}}, Llamada{5, {238, 640}}, Llamada{6, {862, 240}},
+                           Llamada{7, {856, 646}}};
+constexpr QSize kMesaDeMuestra(960, 680);
+constexpr int kRadioLlamada = 16;
+constexpr QColor kLlamadaFondo(255, 226, 122), kLlamadaTinta(20, 20, 20);
 
-// The hands at the size of a page: five cards side by side in the second column of a table.
-void HazJugadas(const Carpetas& carpetas) {
-    constexpr int ancho = 56, alto = 78, hueco = 4;
-    const QSize medida(kAnchoCarta, kAltoCarta);
-    for (const Jugada& jugada : kJugadas) {
-        QImage imagen = Lienzo(5 * ancho + 4 * hueco, alto, 0);
-        QPainter pintor(&imagen);
-        int x = 0;
-        for (const char* carta : jugada.cartas) {
-            Pinta(pintor, carpetas.dibujos + "/cards/" + carta + ".svg", {x, 0, ancho, alto},
-                  medida);
-            x += ancho + hueco;
+void PintaLlamada(QPainter& pintor, const Llamada& llamada) {
+    const QRect circulo(llamada.donde - QPoint(kRadioLlamada, kRadioLlamada),
+                        QSize(2 * kRadioLlamada, 2 * kRadioLlamada));
+    pintor.setPen(QPen(kLlamadaTinta, 2));
+    pintor.setBrush(kLlamadaFondo);
+    pintor.drawEllipse(circulo);
+    pintor.drawText(circulo, Qt::AlignCenter, QString::number(llamada.numero));
+}
+
+// The grain of the felt would make most of the file; the eye does not miss it here.
+void AlisaFieltro(QImage& mesa) {
+    constexpr int kGrano = 5;
+    for (int y = 0; y < mesa.height(); ++y) {
+        for (int x = 0; x < mesa.width(); ++x) {
+            const QColor punto = mesa.pixelColor(x, y);
+            if (punto.red() <= kGrano && punto.blue() <= kGrano &&
+                std::abs(punto.green() - qGreen(kFieltro)) <= kGrano)
+                mesa.setPixel(x, y, kFieltro);
         }
-        Guarda(imagen, carpetas.salida + "/jugada-" + jugada.nombre + ".png");
     }
+}
+
+// From the picture that the console took of a table (table.esc) the one that the help shows.
+void HazMesa(const Carpetas& carpetas) {
+    const QString toma = carpetas.salida + "/mesa.png";
+    QImage mesa = QImage(toma).convertToFormat(QImage::Format_RGB32);
+    if (mesa.size() != kMesaDeMuestra)
+        Falla(toma, "not a picture of the table that the numbers are for");
+    AlisaFieltro(mesa);
+    QPainter pintor(&mesa);
+    pintor.setRenderHint(QPainter::Antialiasing);
+    QFont letra = pintor.font();
+    letra.setPixelSize(19);
+    letra.setBold(true);
+    pintor.setFont(letra);
+    for (const Llamada& llamada : kLlamadas)
+        PintaLlamada(pintor, llamada);
+    pintor.end();
+    Guarda(mesa, toma);
 }
 
 struct Encargo {
@@ -276,8 +260,9 @@ struct Encargo {
     void (*haz)(const Carpetas&);
 };
 
-const std::array kEncargos{Encargo{"decks", HazBarajas}, Encargo{"resources", HazRecursos},
-                           Encargo{"contact", HazMuestras}, Encargo{"hands", HazJugadas}};
+const std::array kEncargos{Encargo{"decks", HazBarajas}, Encargo{"signatures", HazFirmas},
+                           Encargo{"resources", HazRecursos}, Encargo{"contact", HazMuestras},
+                           Encargo{"table", HazMesa}};
 
 int Trabaja(int argc, char** argv) {
     CLI::App opciones{"Paints the drawings of the suite."};
@@ -285,7 +270,9 @@ int Trabaja(int argc, char** argv) {
     std::string dibujos, salida;
     for (const Encargo& encargo : kEncargos) {
         CLI::App* orden = opciones.add_subcommand(encargo.nombre);
-        orden->add_option("drawings", dibujos, "the folder of the SVG files")
+        orden
+            ->add_option("drawings", dibujos,
+                         "the folder of the SVG files, or of the deck images to sign")
             ->required()
             ->check(CLI::ExistingDirectory);
         orden->add_option("output", salida, "the folder to write to")->required();

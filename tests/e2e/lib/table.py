@@ -53,10 +53,17 @@ class Table:
         for old in self.shots.glob("*.png"):
             old.unlink()
         self.count = 0
+        self.process = None
+        self.window = None
+        self.lay_out(programs, prepared)
+
+    def lay_out(self, programs, prepared):
         self.folder = pathlib.Path.home() / "juego"
         self.folder.mkdir(exist_ok=True)
+        self.program = self.folder / "zovin"
+        self.console = programs / "sonda"
         if prepared:
-            (self.folder / "zovin").symlink_to(programs.parent / "tests" / "zovin_prepared")
+            self.program.symlink_to(programs.parent / "tests" / "zovin_prepared")
         for piece in ("zovin", "Baraja01.bmp", "Baraja02.bmp", "PkFDes.ZOV", "ayuda"):
             link = self.folder / piece
             if not link.is_symlink():
@@ -65,8 +72,6 @@ class Table:
             if not (self.folder / made.name).exists():
                 shutil.copy(made, self.folder)
         self.begin_with("70")
-        self.process = None
-        self.window = None
 
     def begin_with(self, game):
         """The table comes up with this game; a first start would bring Póker."""
@@ -76,7 +81,7 @@ class Table:
     # The program.
 
     def start(self, **how):
-        self.process = subprocess.Popen([self.folder / "zovin"], **how)
+        self.process = subprocess.Popen([self.program], **how)
 
     def wait_for_window(self, seconds=10):
         def found():
@@ -285,9 +290,9 @@ def _starts_here(picture, x, y):
     return paper and edge
 
 
-def run(play, prepared=False):
+def run(play, prepared=False, kind=Table):
     """Runs a test and tells its end."""
-    table = Table(pathlib.Path(sys.argv[0]).stem, prepared)
+    table = kind(pathlib.Path(sys.argv[0]).stem, prepared)
     try:
         play(table)
     except Failure as failure:

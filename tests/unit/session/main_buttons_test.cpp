@@ -242,6 +242,20 @@ TEST_F(Botones, UnControlEscondidoNoRecibeClics) {
     EXPECT_TRUE(estado.EsperandoJugada);
 }
 
+// With a pause between moves one clicks from turn to turn: the click too many is not the person's.
+TEST_F(Botones, UnClicQueEmpezoEnTurnoAjenoNoJuegaPorLaPersona) {
+    ManoEmpezada(4);
+    p.DuermeHasta(1000);
+    PedirContinuar(1);
+    const Evento clic{.tipo = TipoEvento::Clic, .control = Control::Pic_BotContinuar, .desde = 900};
+    DespachaEvento(clic);
+    EXPECT_TRUE(estado.EsperandoJugada);
+    DespachaEvento({.tipo = TipoEvento::Tecla, .tecla = 'a', .desde = 900});
+    EXPECT_TRUE(estado.EsperandoJugada);
+    DespachaEvento({.tipo = TipoEvento::Clic, .control = Control::Pic_BotContinuar, .desde = 1200});
+    EXPECT_FALSE(estado.EsperandoJugada);
+}
+
 TEST_F(SalidaEnCualquierMomento, EnElSorteoQuedaUnaPartidaSinJuegos) {
     p.traviesa = true;
     PasaDeLargo(1);

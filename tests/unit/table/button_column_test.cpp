@@ -1,6 +1,7 @@
 #include "table/button_column.h"
 #include "table/whole_table.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "tests/support/live_table.h"
@@ -89,6 +90,46 @@ TEST_F(Columna, CalcularLaMesaPintaTodaLaColumna) {
     EXPECT_EQ(p.Dibujado(Control::Pic_Botonera).Llamadas(),
               (std::vector<std::string>{"Fieltro(0, 0, 90, 600)", "Linea(0, 0, 0, 600; 2040E0, 1)",
                                         "Linea(1, 0, 1, 600; 6080E0, 1)"}));
-    for (int boton = 1; boton <= 8; ++boton)
+    for (const int boton : {1, 3, 4, 5, 6, 7, 8})
         EXPECT_FALSE(p.Dibujado(Control::Pic_Boton, boton).Llamadas().empty()) << boton;
+}
+
+TEST_F(Columna, ElBotonQueEstaCorridoSePintaEnLaLineaDeLosDemas) {
+    CalcularMesa();
+    PintaColumna();
+    EXPECT_THAT(p.Dibujado(Control::Pic_Botonera).Llamadas(), testing::Contains("Lamina(20, 125)"));
+    EXPECT_TRUE(p.Dibujado(Control::Pic_Boton, kBotonPersonal).Llamadas().empty());
+}
+
+TEST_F(Columna, ElBotonQueJugariaPorLaPersonaLoDice) {
+    ManoEmpezada(4);
+    estado.NombreJugador(4) = "Ana";
+    PedirContinuar(1);
+    EXPECT_EQ(RotuloVerde(), "Ana automático: el programa juega por este jugador");
+}
+
+TEST_F(Columna, ConOtroRotuloUnClicDeAntesValeSiNadieJuegaPorLaPersona) {
+    ManoEmpezada(2);
+    p.DuermeHasta(100);
+    PedirContinuar(1);
+    EXPECT_TRUE(ValeElClicVerde(50));
+}
+
+TEST_F(Columna, UnClicDeAntesDelRotuloDeLaPersonaNoVale) {
+    ManoEmpezada(4);
+    p.DuermeHasta(100);
+    PedirContinuar(1);
+    EXPECT_FALSE(ValeElClicVerde(99));
+    EXPECT_TRUE(ValeElClicVerde(100));
+    EXPECT_TRUE(ValeElClicVerde(std::nullopt));
+}
+
+TEST_F(Columna, ElMismoRotuloPedidoDeNuevoNoEmpiezaOtraVez) {
+    ManoEmpezada(4);
+    p.DuermeHasta(100);
+    PedirContinuar(1);
+    p.DuermeHasta(300);
+    PedirContinuar(2);
+    PedirContinuar(1);
+    EXPECT_TRUE(ValeElClicVerde(200));
 }

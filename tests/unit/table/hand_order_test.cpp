@@ -225,3 +225,25 @@ TEST_F(Ordenar, AlPintarTodoDeNuevoLaCartaQueSeLlevaTambien) {
         p.Dibujado(Control::Pic_Mover).Llamadas(),
         (std::vector<std::string>{"MiniCarta(0, 0, 26, 36; palo 1 valor 3 cara 2 orientación 1)"}));
 }
+
+TEST_F(Ordenar, AlSoltarElPunteroDiceEnseguidaQueHayDebajo) {
+    Lleva(4, 3, SobreCarta(4, 7));
+    EXPECT_EQ(PunteroEnMesa(), Puntero::Ordenar);
+}
+
+TEST_F(Ordenar, AlDejarloElPunteroDejaDeOfrecerlo) {
+    const Punto carta = SobreCarta(4, 3);
+    Mueve(carta.x, carta.y);
+    ASSERT_EQ(PunteroEnMesa(), Puntero::Ordenar);
+    DejaDeOrdenar();
+    EXPECT_NE(PunteroEnMesa(), Puntero::Ordenar);
+}
+
+TEST_F(Ordenar, AlEmpezarElPunteroLoOfreceSinMoverlo) {
+    PonModoOrdenar(false);
+    const Punto carta = SobreCarta(4, 3);
+    Mueve(carta.x, carta.y);
+    ASSERT_NE(PunteroEnMesa(), Puntero::Ordenar);
+    PonModoOrdenar(true);
+    EXPECT_EQ(PunteroEnMesa(), Puntero::Ordenar);
+}

@@ -186,3 +186,28 @@ TEST_F(Menu, ConOtroTamanoSeCierra) {
     CambiaTamano();
     EXPECT_FALSE(ALaVista());
 }
+
+// The box opens with its corner at the click: its words begin beyond what the pointer covers there.
+TEST_F(Menu, ElPunteroNoTapaSusPalabras) {
+    constexpr int kFlecha = 18;
+    p.UsaLienzosRegistrados();
+    estado.ModoOrdenar = true;
+    ClicDerecho({300, 500});
+    int palabras = 0;
+    for (const std::string& llamada : p.Dibujado(Control::Pic_SelOpciones).Llamadas()) {
+        if (!llamada.starts_with("Texto("))
+            continue;
+        ++palabras;
+        EXPECT_GE(std::stoi(llamada.substr(6)), kFlecha) << llamada;
+    }
+    EXPECT_EQ(palabras, 3);
+}
+
+// The pointer lies where the line was that has been chosen.
+TEST_F(Menu, AlElegirElPunteroEsElDeLoQueHayDebajo) {
+    ClicDerecho({240, 480});
+    MueveDentro(kEntradaManual);
+    Elige(kEntradaManual);
+    EXPECT_TRUE(estado.ModoOrdenar);
+    EXPECT_EQ(p.PunteroDe(Control::Mesa, 0), Puntero::Ordenar);
+}

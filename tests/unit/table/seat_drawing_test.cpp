@@ -1,5 +1,6 @@
 // A seat on the felt: cards, name, caption, the winner's mark.
 
+#include <fmt/format.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -196,4 +197,102 @@ TEST_F(AsientoEnMesa, UnRotuloQueParpadeaSeAnunciaCadaVezQueVuelve) {
         RedibujarAsiento(3);
     }
     EXPECT_EQ(p.anuncios, (std::vector<std::string>{"Jugador3: Paso", "Jugador3: Paso"}));
+}
+
+namespace {
+
+struct NombreEncendido : AsientoEnMesa {
+    NombreEncendido() {
+        for (int asiento = 1; asiento <= 4; ++asiento)
+            estado.NombreJugador(asiento) = asiento == 4 ? "Eva" : "Ana";
+        MostrarNombres();
+        p.Dibujado(Control::Mesa).Olvida();
+    }
+    bool Hay(const std::string& que) {
+        for (const std::string& llamada : p.Dibujado(Control::Mesa).Llamadas()) {
+            if (llamada.find(que) != std::string::npos)
+                return true;
+        }
+        return false;
+    }
+};
+
+} // namespace
+
+TEST_F(NombreEncendido, ElDelTurnoLoEstaPorColorYPorSusSenales) {
+    estado.JugadorActual = 4;
+    EnciendeTurno();
+    EXPECT_TRUE(Hay("\"E\"; 14 negrita hasta 11, 00FFFF"));
+    EXPECT_TRUE(Hay("\"▶\""));
+    EXPECT_TRUE(Hay("\"◀\""));
+}
+
+TEST_F(NombreEncendido, AlosLadosLasSenalesMiranAlNombreDesdeArribaYDesdeAbajo) {
+    estado.JugadorActual = 1;
+    EnciendeTurno();
+    EXPECT_TRUE(Hay("\"▼\""));
+    EXPECT_TRUE(Hay("\"▲\""));
+}
+
+TEST_F(NombreEncendido, SigueEncendidoCuandoElAsientoSeRepinta) {
+    estado.JugadorActual = 4;
+    ResaltarAsiento();
+    p.Dibujado(Control::Mesa).Olvida();
+    RedibujarAsiento(4);
+    EXPECT_TRUE(Hay("\"▶\""));
+}
+
+TEST_F(NombreEncendido, SoloHayUno) {
+    estado.JugadorActual = 4;
+    EnciendeTurno();
+    estado.JugadorActual = 2;
+    p.Dibujado(Control::Mesa).Olvida();
+    EnciendeTurno();
+    EXPECT_TRUE(Hay("\"E\"; 14 negrita hasta 11, FFFFFF"));
+    EXPECT_EQ(vista.asiento_encendido, 2);
+}
+
+TEST_F(NombreEncendido, ElQueGanaLaBazaLlevaOtraSenal) {
+    EnciendeBaza(4);
+    EXPECT_TRUE(Hay("\"★\""));
+    EXPECT_FALSE(Hay("\"▶\""));
+    p.Dibujado(Control::Mesa).Olvida();
+    ApagaNombre();
+    EXPECT_FALSE(Hay("\"★\""));
+    EXPECT_TRUE(Hay("FFFFFF"));
+}
+
+TEST_F(AsientoEnMesa, LaMarcaDelGanadorSigueCuandoElAsientoSeRepinta) {
+    MarcaGanador(4, true);
+    EXPECT_EQ(Dibujado("Lamina"), (std::vector<std::string>{"Lamina(309, 473)"}));
+    p.Dibujado(Control::Mesa).Olvida();
+    RedibujarAsiento(4);
+    EXPECT_EQ(Dibujado("Lamina").size(), 1U);
+    MarcaGanador(4, false);
+    p.Dibujado(Control::Mesa).Olvida();
+    RedibujarAsiento(4);
+    EXPECT_TRUE(Dibujado("Lamina").empty());
+}
+
+TEST_F(AsientoEnMesa, ElCanteSeLeeDelanteDeLasCartasLevantadas) {
+    for (const int asiento : {1, 2, 3, 4}) {
+        p.Dibujado(Control::Mesa).Olvida();
+        MuestraCante(asiento, "Veinte en Oros");
+        const Rectangulo zona = ZonaConRealce(asiento);
+        const int fuera = asiento == 1   ? zona.x + zona.ancho
+                          : asiento == 2 ? zona.y + zona.alto
+                          : asiento == 3 ? zona.x - 18
+                                         : zona.y - 18;
+        const Rectangulo banda =
+            asiento == 1 || asiento == 3
+                ? Rectangulo{fuera, ZonaDe(asiento).y, 18, ZonaDe(asiento).alto}
+                : Rectangulo{ZonaDe(asiento).x, fuera, ZonaDe(asiento).ancho, 18};
+        EXPECT_THAT(Dibujado("Caja").front(),
+                    HasSubstr(fmt::format("Caja({}, {}, {}, {};", banda.x, banda.y, banda.ancho,
+                                          banda.alto)))
+            << asiento;
+        QuitaCante(asiento);
+        EXPECT_EQ(Dibujado("Fieltro").back(), fmt::format("Fieltro({}, {}, {}, {})", banda.x,
+                                                          banda.y, banda.ancho, banda.alto));
+    }
 }

@@ -7,6 +7,7 @@
 
 #include "games/cinquillo/cinquillo.h"
 #include "games/common/trick_state.h"
+#include "table/table_view.h"
 #include "tests/support/live_table.h"
 
 using namespace prueba;
@@ -89,4 +90,52 @@ TEST_F(Tendido, PintarloOtraVezEmpiezaPorElFieltroDeLasColumnasConCartas) {
     ASSERT_EQ(llamadas.size(), 4U);
     EXPECT_EQ(llamadas[0], "Fieltro(" + std::to_string(siete.x) + ", " + std::to_string(siete.y) +
                                ", 101, " + std::to_string(alto) + ")");
+}
+
+namespace {
+
+struct TendidoPintado : Tendido {
+    TendidoPintado() {
+        p.UsaLienzosRegistrados();
+        vista.nombres = true;
+        estado.CartasEnMazo = 0;
+    }
+    std::vector<std::string> Pintado(const std::string& que) {
+        std::vector<std::string> suyas;
+        for (const std::string& llamada : p.Dibujado(Control::Mesa).Llamadas()) {
+            if (llamada.starts_with(que + "("))
+                suyas.push_back(llamada);
+        }
+        return suyas;
+    }
+};
+
+} // namespace
+
+TEST_F(TendidoPintado, LosSitiosDeLosCincosSeVenVeladosMientrasEstanVacios) {
+    PintaTendido();
+    EXPECT_EQ(Pintado("Velo").size(), 4U);
+    bazas.CartaJugada(kCopas, 5) = 2;
+    p.Dibujado(Control::Mesa).Olvida();
+    PintaTendido();
+    EXPECT_EQ(Pintado("Velo").size(), 3U);
+    EXPECT_EQ(Pintado("Carta").size(), 4U);
+}
+
+TEST_F(TendidoPintado, MientrasSeReparteNoSeVen) {
+    estado.CartasEnMazo = 12;
+    PintaTendido();
+    EXPECT_TRUE(Pintado("Velo").empty());
+}
+
+// At 800 by 600 a strip of 12 pixels is to be seen of a card: its number is written into that.
+TEST_F(TendidoPintado, ElNumeroDeUnaCartaCubiertaSeLeeEntero) {
+    for (const Integer valor : {5, 6, 7, 10})
+        bazas.CartaJugada(kOros, valor) = 1;
+    PintaTendido();
+    EXPECT_EQ(Pintado("Texto").size(), 3U); // the 5 is whole
+    Mide(1280, 800);
+    p.Dibujado(Control::Mesa).Olvida();
+    PintaTendido();
+    EXPECT_TRUE(Pintado("Texto").empty());
 }

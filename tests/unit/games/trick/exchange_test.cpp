@@ -5,6 +5,8 @@
 
 #include <memory>
 
+#include "table/messages.h"
+#include "tests/support/live_table.h"
 #include "tests/support/trick_table.h"
 
 using namespace prueba;
@@ -139,4 +141,40 @@ TEST_F(Cambio, LasDosCartasVuelan) {
     ASSERT_EQ(mesa->traza.size(), 2U);
     EXPECT_TRUE(mesa->traza[0].starts_with("MoverCarta(4, 12, "));
     EXPECT_TRUE(mesa->traza[1].starts_with("MoverCarta(4, 7, "));
+}
+
+namespace {
+
+struct CambioConRaton : MesaViva {
+    CambioConRaton() {
+        Juega(kBrisca);
+        PonMano(4, {{kOros, 4}, {kBastos, 7}, {kOros, 5}});
+        ManoEmpezada(4);
+        estado.PaloTriunfo = kBastos;
+        estado.ValorTriunfo = kAs;
+        estado.CartasEnMazo = 20;
+        estado.GanadorBaza = 4;
+        bazas.CartaCambio = 7;
+    }
+};
+
+} // namespace
+
+TEST_F(CambioConRaton, AlCambiarElPunteroYElConsejoDejanDeOfrecerlo) {
+    estado.VentanaInfo = 1;
+    MostrarSugerencia(42);
+    Mueve(estado.MazoX + 50, estado.MazoY + 50);
+    ASSERT_EQ(PunteroEnMesa(), Puntero::Cambiar);
+    Clic(estado.MazoX + 50, estado.MazoY + 50);
+    EXPECT_EQ(estado.ValorTriunfo, 7);
+    EXPECT_NE(PunteroEnMesa(), Puntero::Cambiar);
+    EXPECT_FALSE(p.EstaVisible(Control::Pic_Sugerencia, 0));
+}
+
+TEST_F(CambioConRaton, UnConsejoDeOtraCosaSeQueda) {
+    estado.VentanaInfo = 1;
+    MostrarSugerencia(50);
+    Clic(estado.MazoX + 50, estado.MazoY + 50);
+    EXPECT_EQ(estado.ValorTriunfo, 7);
+    EXPECT_TRUE(p.EstaVisible(Control::Pic_Sugerencia, 0));
 }

@@ -1,0 +1,176 @@
+#include "platform/qt/help_pictures.h"
+
+#include <QPixmap>
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <utility>
+
+#include "core/game_state.h"
+#include "platform/platform.h"
+#include "platform/qt/card_images.h"
+#include "platform/qt/pointers.h"
+#include "platform/qt/sheet_images.h"
+#include "table/sheet_layout.h"
+
+namespace {
+
+constexpr int kAnchoEnPagina = 44;
+constexpr int kAnchoEsquina = 22;
+constexpr QSize kEsquina(29, 40); // of the card on the table
+constexpr int kAnchoMaximo = 1000;
+constexpr Integer kUnComodin = 91;
+
+constexpr std::array kClases{"carta", "esquina", "pieza", "puntero", "foto"};
+
+struct BarajaDibujada {
+    const char* fichero;
+    int columnas;
+    std::array<const char*, 4> palos;
+};
+constexpr std::array kBarajas{
+    BarajaDibujada{"Baraja01.bmp", 13, {"diamantes", "corazones", "picas", "treboles"}},
+    BarajaDibujada{"Baraja02.bmp", 12, {"oros", "copas", "espadas", "bastos"}}};
+constexpr int kFrancesa = 0, kEspanola = 1;
+
+struct NombreDeValor {
+    const char* nombre;
+    std::array<Integer, 2> valor; // in the French deck and in the Spanish one, 0: not in it
+};
+constexpr std::array kNombres{NombreDeValor{"as", {1, 1}},       NombreDeValor{"sota", {0, 10}},
+                              NombreDeValor{"caballo", {0, 11}}, NombreDeValor{"jota", {11, 0}},
+                              NombreDeValor{"dama", {12, 0}},    NombreDeValor{"rey", {13, 12}}};
+
+constexpr std::array kFormas{
+    std::pair{"mano_indice", Puntero::ManoIndice}, std::pair{"mano_verde", Puntero::ManoVerde},
+    std::pair{"mano_roja", Puntero::ManoRoja},     std::pair{"ordenar", Puntero::Ordenar},
+    std::pair{"cambiar", Puntero::Cambiar},        std::pair{"mano_cerrada", Puntero::ManoCerrada},
+    std::pair{"voltear", Puntero::Voltear},        std::pair{"abrirse", Puntero::Abrirse}};
+
+struct Naipe {
+    int baraja;
+    ImagenCarta carta;
+};
+
+Integer ValorDe(const QString& nombre, int baraja) {
+    for (const NombreDeValor& uno : kNombres) {
+        if (nombre == QLatin1String(uno.nombre))
+            return uno.valor.at(static_cast<std::size_t>(baraja));
+    }
+    return static_cast<Integer>(nombre.toShort());
+}
+
+std::optional<Naipe> NaipeDe(const QString& palo, const QString& valor) {
+    for (int baraja : {kFrancesa, kEspanola}) {
+        const auto& palos = kBarajas.at(static_cast<std::size_t>(baraja)).palos;
+        const auto fila = std::ranges::find_if(
+            palos, [&](const char* nombre) { return palo == QLatin1String(nombre); });
+        if (fila != palos.end())
+            return Naipe{baraja,
+                         {.palo = static_cast<Integer>(fila - palos.begin() + 1),
+                          .valor = ValorDe(valor, baraja),
+                          .cara = kDescubierta,
+                          .orientacion = 1}};
+    }
+    return std::nullopt;
+}
+
+int AnchoPedido(const QStringList& partes, qsizetype lugar, int si_no) {
+    const int ancho = partes.value(lugar).toInt();
+    return ancho > 0 ? std::min(ancho, kAnchoMaximo) : si_no;
+}
+
+QImage Escalada(QImage dibujo, int ancho, double ratio) {
+    dibujo.setDevicePixelRatio(1);
+    const int pixeles = qRound(ancho * ratio);
+    return dibujo.width() == pixeles ? dibujo
+                                     : dibujo.scaledToWidth(pixeles, Qt::SmoothTransformation);
+}
+
+QImage DibujaPieza(const QStringList& partes, double ratio) {
+    const auto pieza = std::ranges::find_if(lamina::kPiezas, [&](const lamina::Pieza& una) {
+        return partes.front() ==
+               QLatin1String(una.archivo.data(), static_cast<qsizetype>(una.archivo.size()));
+    });
+    if (pieza == lamina::kPiezas.end())
+        return {};
+    const int ancho = AnchoPedido(partes, 1, pieza->sitio.ancho);
+    return PiezaDe(pieza->sitio, ratio * ancho / pieza->sitio.ancho);
+}
+
+QImage DibujaPuntero(const QString& nombre, double ratio) {
+    const auto forma = std::ranges::find_if(
+        kFormas, [&](const auto& una) { return nombre == QLatin1String(una.first); });
+    return forma == kFormas.end()
+               ? QImage()
+               : Escalada(CursorDe(forma->second).pixmap().toImage(), lamina::kLadoPuntero, ratio);
+}
+
+} // namespace
+
+DibujosAyuda::DibujosAyuda(const QString& paginas, const QString& barajas)
+    : paginas_(paginas), barajas_(barajas) {}
+DibujosAyuda::~DibujosAyuda() = default;
+
+bool DibujosAyuda::EsSuyo(const QUrl& cual) {
+    return std::ranges::any_of(
+        kClases, [&](const char* clase) { return cual.scheme() == QLatin1String(clase); });
+}
+
+// A whole deck at once: a page with one of its cards has most often a dozen.
+Imagenes* DibujosAyuda::Baraja(int cual, double ratio) {
+    auto& lista = listas_[{cual, ratio}];
+    if (lista)
+        return lista.get();
+    const BarajaDibujada& baraja = kBarajas.at(static_cast<std::size_t>(cual));
+    auto nueva = std::make_unique<Imagenes>(ratio);
+    try {
+        nueva->CargaBaraja(barajas_ + '/' + QLatin1String(baraja.fichero), baraja.columnas);
+    } catch (const FalloGrave&) {
+        return nullptr;
+    }
+    lista = std::move(nueva);
+    return lista.get();
+}
+
+QImage DibujosAyuda::Carta(const QStringList& partes, double ratio) {
+    if (partes.front() == QLatin1String("dorso") || partes.front() == QLatin1String("comodin")) {
+        const bool dorso = partes.front() == QLatin1String("dorso");
+        const Imagenes sueltas(ratio * AnchoPedido(partes, 1, kAnchoEnPagina) / kAnchoCarta);
+        return sueltas.Carta({.palo = kComodin,
+                              .valor = kUnComodin,
+                              .cara = dorso ? kDorso : kDescubierta,
+                              .orientacion = 1});
+    }
+    const auto naipe = NaipeDe(partes.front(), partes.value(1));
+    const double suyo = ratio * AnchoPedido(partes, 2, kAnchoEnPagina) / kAnchoCarta;
+    const Imagenes* baraja = naipe ? Baraja(naipe->baraja, suyo) : nullptr;
+    return baraja == nullptr ? QImage() : baraja->Carta(naipe->carta);
+}
+
+QImage DibujosAyuda::Esquina(const QStringList& partes, double ratio) {
+    const auto naipe = NaipeDe(partes.front(), partes.value(1));
+    const double suyo = ratio * AnchoPedido(partes, 2, kAnchoEsquina) / kEsquina.width();
+    const Imagenes* baraja = naipe ? Baraja(naipe->baraja, suyo) : nullptr;
+    return baraja == nullptr ? QImage()
+                             : baraja->MiniCarta(naipe->carta, {baraja->Px(kEsquina.width()),
+                                                                baraja->Px(kEsquina.height())});
+}
+
+QImage DibujosAyuda::Foto(const QStringList& partes, double ratio, int tope) const {
+    const QImage foto(paginas_ + '/' + partes.front());
+    const int ancho = std::min(AnchoPedido(partes, 1, foto.width()), tope);
+    return foto.isNull() ? foto : Escalada(foto, ancho, ratio);
+}
+
+QImage DibujosAyuda::Dibujo(const QUrl& cual, double ratio, int tope) {
+    const QStringList partes = cual.path().split(u'/');
+    const QString clase = cual.scheme();
+    QImage dibujo = clase == QLatin1String("carta")     ? Carta(partes, ratio)
+                    : clase == QLatin1String("esquina") ? Esquina(partes, ratio)
+                    : clase == QLatin1String("pieza")   ? DibujaPieza(partes, ratio)
+                    : clase == QLatin1String("puntero") ? DibujaPuntero(partes.front(), ratio)
+                                                        : Foto(partes, ratio, tope);
+    dibujo.setDevicePixelRatio(ratio);
+    return dibujo;
+}

@@ -1,0 +1,43 @@
+#pragma once
+// The pictures inside the help's pages that come from the program's own drawings, at the size and for the
+// screen on which they are read: no file is kept for them.
+//
+//   carta:oros/sota      a card, 44 pixels wide; carta:oros/sota/90, so many wide. Palos oros, copas, espadas,
+//                        bastos and diamantes, corazones, picas, treboles; as, sota, caballo, rey, jota, dama or a
+//                        number; also carta:comodin and carta:dorso.
+//   esquina:oros/sota    its upper left corner with number and palo, as in the deal by hand, 22 pixels wide or /so many.
+//   pieza:boton5_arriba  a piece of the sheet as lamina::kPiezas names it, at its own size or /so many wide.
+//   puntero:mano_verde   a pointer of the table.
+//   foto:mesa.png/600    a picture among the pages, so many pixels wide, or as wide as the page when that is less.
+
+#include <QImage>
+#include <QString>
+#include <QUrl>
+#include <map>
+#include <memory>
+
+class Imagenes;
+
+class DibujosAyuda {
+public:
+    // paginas: the folder of the pages; barajas: of the deck images. What cannot be read is left out.
+    DibujosAyuda(const QString& paginas, const QString& barajas);
+    ~DibujosAyuda();
+
+    static constexpr int kSinTope = 10000;
+
+    // Whether the address is one of these pictures.
+    static bool EsSuyo(const QUrl& cual);
+    // The picture for a screen with so many device pixels a pixel, marked with them; null when there is none
+    // of that name. tope: the width of the page.
+    QImage Dibujo(const QUrl& cual, double ratio, int tope = kSinTope);
+
+private:
+    QImage Carta(const QStringList& partes, double ratio);
+    QImage Esquina(const QStringList& partes, double ratio);
+    QImage Foto(const QStringList& partes, double ratio, int tope) const;
+    Imagenes* Baraja(int cual, double ratio);
+
+    QString paginas_, barajas_;
+    std::map<std::pair<int, double>, std::unique_ptr<Imagenes>> listas_; // by deck and its ratio
+};
