@@ -130,7 +130,7 @@ TEST_F(TendidoPintado, MientrasSeReparteNoSeVen) {
 
 // At 800 by 600 a strip of 12 pixels is to be seen of a card: its number is written into that.
 TEST_F(TendidoPintado, ElNumeroDeUnaCartaCubiertaSeLeeEntero) {
-    for (const Integer valor : {5, 6, 7, 10})
+    for (const Integer valor : {Integer{5}, Integer{6}, Integer{7}, Integer{10}})
         bazas.CartaJugada(kOros, valor) = 1;
     PintaTendido();
     EXPECT_EQ(Pintado("Texto").size(), 3U); // the 5 is whole
