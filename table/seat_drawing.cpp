@@ -350,6 +350,14 @@ void MarcaGanador(int asiento, bool visible) {
     }
 }
 
+void DejaMarcaGanador(int asiento) {
+    vista.ganador(asiento) = true;
+    if (!plataforma().HayPantalla())
+        return;
+    PintaGanador(asiento);
+    plataforma().Repinta();
+}
+
 void EnciendeTurno() {
     Enciende(estado.JugadorActual, Luz::Turno);
 }

@@ -65,6 +65,7 @@ TEST_F(Tendido, LasColumnasNoPasanDeCientoSeisNiLasCartasSeSalen) {
 }
 
 TEST_F(Tendido, SePintanSoloLasTendidasDeArribaAbajo) {
+    Mide(1280, 800);
     p.UsaLienzosRegistrados();
     bazas.CartaJugada(kOros, 5) = 1;
     bazas.CartaJugada(kOros, 6) = 2;
@@ -80,6 +81,7 @@ TEST_F(Tendido, SePintanSoloLasTendidasDeArribaAbajo) {
 
 // A round corner painted twice over itself would be less smooth than at first.
 TEST_F(Tendido, PintarloOtraVezEmpiezaPorElFieltroDeLasColumnasConCartas) {
+    Mide(1280, 800);
     p.UsaLienzosRegistrados();
     for (Integer valor : {Integer{5}, Integer{6}, Integer{7}})
         bazas.CartaJugada(kCopas, valor) = 1;
