@@ -139,10 +139,12 @@ void RatonEnMesa(const Evento& evento) {
 void RatonEnControl(const Evento& evento) {
     if (evento.control == Control::Pic_SelOpciones) {
         ApuntaEnOpciones(evento.x, evento.y);
-        if (evento.tipo == TipoEvento::RatonMueve)
+        if (evento.tipo == TipoEvento::RatonMueve) {
             Opciones_MouseMove(evento.y);
-        else if (evento.tipo == TipoEvento::RatonSuelta)
+        } else if (evento.tipo == TipoEvento::RatonSuelta) {
             Opciones_MouseUp();
+            RefrescaPuntero();
+        }
     } else if (evento.control == Control::Pic_Botonera && evento.tipo == TipoEvento::RatonMueve) {
         estado.CursorTabla = 0;
         CambiarCursor(Control::Mesa, 0, Puntero::Flecha);

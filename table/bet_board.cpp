@@ -15,6 +15,7 @@
 #include "table/game_row.h"
 #include "table/layout.h"
 #include "table/messages.h"
+#include "table/score_plate.h"
 #include "table/seat_drawing.h"
 #include "table/sheet_layout.h"
 #include "table/sounds.h"
@@ -211,6 +212,7 @@ void AnulaApuestas(Integer asiento) {
         RedibujaApuesta(asiento);
         MueveFicha(ficha);
         PintarFichas(asiento, kAreaRestos + asiento - 1);
+        RefrescaTanteo();
     });
     RedibujarAsiento(asiento);
     ActualizaApostadora();

@@ -17,6 +17,7 @@
 #include "table/game_row.h"
 #include "table/layout.h"
 #include "table/messages.h"
+#include "table/score_plate.h"
 #include "table/seat_drawing.h"
 #include "table/table_view.h"
 #include "table/trace.h"
@@ -74,6 +75,7 @@ void DiLaNegativa(const Veredicto& veredicto) {
 
 void PintaResto(Integer asiento) {
     PintarFichas(asiento, kAreaRestos + asiento - 1);
+    RefrescaTanteo();
 }
 
 // A seat that has no such serie, as the bank while another's second one is settled, would lose its cards from the

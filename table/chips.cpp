@@ -14,7 +14,6 @@
 #include "table/game_row.h"
 #include "table/layout.h"
 #include "table/messages.h"
-#include "table/score_plate.h"
 #include "table/sheet_layout.h"
 #include "table/side_buttons.h"
 #include "table/sounds.h"
@@ -169,7 +168,6 @@ void PintarFichas(int asiento, int area) {
     Mesa().Fieltro({esquina.x, esquina.y - kCreceFicha, kAnchoArea, kCreceFicha + kAltoArea});
     for (int d = 1; d <= kDenominaciones; ++d)
         PintaPila(LugarDePila(area, d), d, apuestas.Fichas(asiento, d));
-    RefrescaTanteo();
 }
 
 void RedibujaBote() {

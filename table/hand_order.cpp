@@ -15,7 +15,6 @@
 #include "table/notice.h"
 #include "table/seat_drawing.h"
 #include "table/sounds.h"
-#include "table/table_input.h"
 #include "table/table_view.h"
 
 namespace {
@@ -153,7 +152,6 @@ void SueltaArrastrada() {
     CompactarMano(asiento);
     RedibujaActivos();
     TrasReordenar(asiento);
-    RefrescaPuntero();
     Sonido(0, sonido::kPosa);
 }
 
@@ -183,5 +181,4 @@ void PonModoOrdenar(bool activo) {
         return;
     estado.ModoOrdenar = activo;
     RefrescaAviso();
-    RefrescaPuntero();
 }

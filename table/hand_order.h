@@ -17,7 +17,7 @@ void AbandonaArrastre();
 // The end of putting in order, before a hand changes: a taken card would be put down by a place that may no
 // longer hold it. Clears ModoOrdenar.
 void DejaDeOrdenar();
-// ModoOrdenar, with the words on the table and the pointer that go with it.
+// ModoOrdenar, with the words on the table that go with it.
 void PonModoOrdenar(bool activo);
 
 // The small card that follows the pointer, its corner at (x, y).

@@ -8,7 +8,6 @@
 #include "table/deck.h"
 #include "table/game_row.h"
 #include "table/hand_order.h"
-#include "table/table_input.h"
 #include "table/table_view.h"
 
 namespace {
@@ -123,5 +122,4 @@ void Opciones_MouseUp() {
     const FilaJuego& juego = JuegoEnMesa();
     if (asiento == estado.JugadorActual && juego.entrada.tras_reordenar != nullptr)
         juego.entrada.tras_reordenar();
-    RefrescaPuntero();
 }

@@ -10,6 +10,7 @@
 #include "table/game_row.h"
 #include "table/layout.h"
 #include "table/messages.h"
+#include "table/score_plate.h"
 #include "table/sheet_layout.h"
 #include "table/side_buttons.h"
 #include "table/sounds.h"
@@ -104,7 +105,7 @@ Senales SenalesDe(Luz luz, bool columna) {
 void PintaEncendido(int asiento, const Rectangulo& banda, int paso) {
     const bool columna = AsientoLateral(asiento);
     const std::string& nombre = estado.NombreJugador(asiento);
-    const int mitad = (Longitud(nombre) + 3) * paso / 2 + 2;
+    const int mitad = (Longitud(nombre) + 3) * paso / 2 + 5;
     const int x = banda.x + banda.ancho / 2;
     const int y = banda.y + banda.alto / 2;
     const Rectangulo placa = columna ? Rectangulo{banda.x, y - mitad, banda.ancho, 2 * mitad}
@@ -113,7 +114,7 @@ void PintaEncendido(int asiento, const Rectangulo& banda, int paso) {
     Mesa().Borde(placa, color::kAmarillo, 1);
     LetraALetra(asiento, banda, nombre, paso, color::kAmarillo);
     const Senales senales = SenalesDe(vista.luz, columna);
-    const int lejos = (Longitud(nombre) + 1) * paso / 2 + 1;
+    const int lejos = (Longitud(nombre) + 1) * paso / 2 + 4;
     const auto senala = [&](int donde, const char* senal) {
         Mesa().Texto(columna ? x : x + donde,
                      columna ? y + donde - kAltoSenal / 2 - 2 : banda.y + 2, senal,
@@ -249,6 +250,7 @@ void PintaDinero(int asiento) {
     if (!JuegoEnMesa().dinero.hay)
         return;
     PintarFichas(asiento, kAreaRestos + asiento - 1);
+    RefrescaTanteo();
     // In a manual deal the spread lies where the bets will.
     if (!estado.RepartoEnCurso)
         RedibujaApuesta(EnteroDe(asiento));
@@ -346,6 +348,14 @@ void MarcaGanador(int asiento, bool visible) {
     } else {
         RedibujarAsiento(asiento);
     }
+}
+
+void DejaMarcaGanador(int asiento) {
+    vista.ganador(asiento) = true;
+    if (!plataforma().HayPantalla())
+        return;
+    PintaGanador(asiento);
+    plataforma().Repinta();
 }
 
 void EnciendeTurno() {

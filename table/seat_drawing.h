@@ -27,3 +27,5 @@ void MostrarNombres();
 
 // The winner's mark of a seat, shown until it is taken away or the table is cleared.
 void MarcaGanador(int asiento, bool visible);
+// The mark after its blinks, until the table is cleared for the next hand.
+void DejaMarcaGanador(int asiento);

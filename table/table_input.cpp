@@ -322,8 +322,10 @@ void Form_MouseUp() {
         DevuelveAlReparto();
         RefrescaPuntero();
     }
-    if (estado.ArrastraCarta)
+    if (estado.ArrastraCarta) {
         SueltaArrastrada();
+        RefrescaPuntero();
+    }
 }
 
 void Form_Click() {
@@ -334,8 +336,10 @@ void Form_Click() {
         PonOpciones(zona != 0 && OfreceOrdenar(zona));
         MuestraOpciones();
     }
-    if (estado.ZonaBajoCursor == 0)
+    if (estado.ZonaBajoCursor == 0 && estado.ModoOrdenar) {
         PonModoOrdenar(false);
+        RefrescaPuntero();
+    }
 }
 
 bool TeclaActiva(int tecla) {

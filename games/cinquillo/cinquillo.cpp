@@ -86,7 +86,6 @@ void ExtiendeCarta(Integer asiento) {
     PreparaEleccion(asiento);
     const bool elegida = EsperaEleccion(asiento, EligeCartaCinquillo);
     CierraEleccion();
-    RefrescaPuntero();
     if (!elegida)
         return false;
     ExtiendeCarta(asiento);

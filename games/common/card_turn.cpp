@@ -8,6 +8,7 @@
 #include "table/layout.h"
 #include "table/messages.h"
 #include "table/seat_drawing.h"
+#include "table/table_input.h"
 #include "table/waiting.h"
 
 namespace {
@@ -55,6 +56,7 @@ bool EsperaEleccion(Integer asiento, void (*elige)()) {
 void CierraEleccion() {
     estado.EligeCarta = false;
     DejaDeOrdenar();
+    RefrescaPuntero();
     HabilitaBoton(kBotonTutor, false);
 }
 

@@ -1,5 +1,7 @@
 #include "games/common/hands.h"
 
+#include <vector>
+
 #include "betting/bet_state.h"
 #include "betting/stakes.h"
 #include "core/game_state.h"
@@ -153,11 +155,13 @@ std::string TextoFinalPartida() {
     return texto != nullptr ? texto() : TextoGana(estado.GanadorPartida, "la partida");
 }
 
-void MarcaGanadores(bool visible) {
+std::vector<int> Ganadores() {
+    std::vector<int> ganadores;
     for (int asiento = 1; asiento <= 4; ++asiento) {
         if (EnEquipo(asiento, estado.GanadorMano))
-            MarcaGanador(asiento, visible);
+            ganadores.push_back(asiento);
     }
+    return ganadores;
 }
 
 std::string Equipo(int uno) {
@@ -203,11 +207,13 @@ void ParpadeaGanador() {
     Sonido(1, sonido::kFinMano);
     for (int vez = 0; vez < 4; ++vez) {
         for (const bool visible : {true, false}) {
-            MarcaGanadores(visible);
+            for (const int asiento : Ganadores())
+                MarcaGanador(asiento, visible);
             Pausa(visible ? 490 : 200);
         }
     }
-    MarcaGanadores(true);
+    for (const int asiento : Ganadores())
+        DejaMarcaGanador(asiento);
 }
 
 std::string TextoGana(Integer ganador, const std::string& que) {

@@ -151,7 +151,7 @@ void LienzoQt::Lamina(int x, int y, const lamina::Recorte& recorte) {
 }
 
 void LienzoQt::Velo(const Rectangulo& donde) {
-    constexpr double kTapa = 0.8;
+    constexpr double kTapa = 0.74;
     QPainter& p = Pintor();
     p.setOpacity(kTapa);
     Fieltro(donde);

@@ -253,7 +253,7 @@ class Deck:
 
 def is_felt(pixel):
     red, green, blue = pixel
-    return red < 24 and blue < 24 and 110 < green < 145
+    return red < 24 and blue < 24 and 80 < green < 145  # the light falls from above
 
 
 def hand_at_the_bottom(table, deck, picture):

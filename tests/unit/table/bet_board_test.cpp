@@ -332,7 +332,6 @@ TEST_F(Apostadora, EnOtrasFasesLasFichasNoSePulsan) {
         {"sin apuestas", [] { apuestas.ModoApuesta = false; }},
         {"automático", [] { estado.ControlJugador(4) = kAutomatico; }},
         {"mirando otra serie", [] { estado.SerieEnJuego = 2; }},
-        {"ordenando", [] { estado.ModoOrdenar = true; }},
         {"repartiendo", [] { estado.RepartoEnCurso = true; }},
         {"sin turno", [] { estado.JugadorActual = 0; }},
     };
@@ -343,8 +342,17 @@ TEST_F(Apostadora, EnOtrasFasesLasFichasNoSePulsan) {
         EXPECT_EQ(RestoDe(4), 100) << fase;
         EXPECT_NE(PunteroEnMesa(), Puntero::ManoIndice) << fase;
         estado.ControlJugador(4) = kManual;
-        estado.ModoOrdenar = estado.RepartoEnCurso = false;
+        estado.RepartoEnCurso = false;
     }
+}
+
+TEST_F(Apostadora, OrdenandoElClicEnUnaFichaSoloDejaDeOrdenar) {
+    Apuestan(kPoker);
+    estado.ModoOrdenar = true;
+    ClicEnFicha(4, 4);
+    EXPECT_EQ(RestoDe(4), 100);
+    EXPECT_FALSE(estado.ModoOrdenar);
+    EXPECT_EQ(PunteroEnMesa(), Puntero::ManoIndice); // from now on it may be placed
 }
 
 TEST_F(Apostadora, UnaFichaNegadaNoCambiaElTablero) {

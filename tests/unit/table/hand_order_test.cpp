@@ -7,6 +7,7 @@
 
 #include "core/session_state.h"
 #include "games/cinquillo/cinquillo_choice.h"
+#include "games/common/card_turn.h"
 #include "games/common/trick_state.h"
 #include "session/main_buttons.h"
 #include "tests/support/live_table.h"
@@ -235,15 +236,6 @@ TEST_F(Ordenar, AlDejarloElPunteroDejaDeOfrecerlo) {
     const Punto carta = SobreCarta(4, 3);
     Mueve(carta.x, carta.y);
     ASSERT_EQ(PunteroEnMesa(), Puntero::Ordenar);
-    DejaDeOrdenar();
+    CierraEleccion();
     EXPECT_NE(PunteroEnMesa(), Puntero::Ordenar);
-}
-
-TEST_F(Ordenar, AlEmpezarElPunteroLoOfreceSinMoverlo) {
-    PonModoOrdenar(false);
-    const Punto carta = SobreCarta(4, 3);
-    Mueve(carta.x, carta.y);
-    ASSERT_NE(PunteroEnMesa(), Puntero::Ordenar);
-    PonModoOrdenar(true);
-    EXPECT_EQ(PunteroEnMesa(), Puntero::Ordenar);
 }

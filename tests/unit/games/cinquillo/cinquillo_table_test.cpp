@@ -65,6 +65,7 @@ TEST_F(Tendido, LasColumnasNoPasanDeCientoSeisNiLasCartasSeSalen) {
 }
 
 TEST_F(Tendido, SePintanSoloLasTendidasDeArribaAbajo) {
+    Mide(1280, 800);
     p.UsaLienzosRegistrados();
     bazas.CartaJugada(kOros, 5) = 1;
     bazas.CartaJugada(kOros, 6) = 2;
@@ -80,6 +81,7 @@ TEST_F(Tendido, SePintanSoloLasTendidasDeArribaAbajo) {
 
 // A round corner painted twice over itself would be less smooth than at first.
 TEST_F(Tendido, PintarloOtraVezEmpiezaPorElFieltroDeLasColumnasConCartas) {
+    Mide(1280, 800);
     p.UsaLienzosRegistrados();
     for (Integer valor : {Integer{5}, Integer{6}, Integer{7}})
         bazas.CartaJugada(kCopas, valor) = 1;
@@ -130,7 +132,7 @@ TEST_F(TendidoPintado, MientrasSeReparteNoSeVen) {
 
 // At 800 by 600 a strip of 12 pixels is to be seen of a card: its number is written into that.
 TEST_F(TendidoPintado, ElNumeroDeUnaCartaCubiertaSeLeeEntero) {
-    for (const Integer valor : {5, 6, 7, 10})
+    for (const Integer valor : {Integer{5}, Integer{6}, Integer{7}, Integer{10}})
         bazas.CartaJugada(kOros, valor) = 1;
     PintaTendido();
     EXPECT_EQ(Pintado("Texto").size(), 3U); // the 5 is whole

@@ -8,6 +8,8 @@
 
 #include "core/session_state.h"
 #include "games/common/trick_state.h"
+#include "table/table_view.h"
+#include "table/whole_table.h"
 #include "tests/support/live_table.h"
 
 using namespace prueba;
@@ -193,6 +195,11 @@ TEST_F(Manos, LaMarcaDelGanadorParpadeaCuatroVeces) {
                             "Pausa(200)", "Pausa(490)", "Pausa(200)"));
     EXPECT_EQ(TrazaDe("MarcaGanador").size(), 8U);
     EXPECT_EQ(TrazaDe("MarcaGanador")[0], "MarcaGanador(3, 1)");
+    // It stays until the table is cleared for the next hand.
+    EXPECT_TRUE(vista.ganador(3));
+    EXPECT_FALSE(vista.ganador(1));
+    LimpiarMesa();
+    EXPECT_FALSE(vista.ganador(3));
 }
 
 TEST_F(Manos, PorParejasParpadeanLosDos) {

@@ -100,7 +100,8 @@ TEST_F(MesaDePoker, UnClicLevantaLaCartaYOtroLaBaja) {
     EXPECT_EQ(p.Tablero().NombreDe({Control::Pic_BotContinuar, 0}), "Descartar elegidas");
     Clic(carta.x, carta.y);
     EXPECT_EQ(estado.Mano(4, 1, 2, kAltura), kEnLinea);
-    EXPECT_EQ(p.Tablero().NombreDe({Control::Pic_BotContinuar, 0}), "Jugador4 automático");
+    EXPECT_EQ(p.Tablero().NombreDe({Control::Pic_BotContinuar, 0}),
+              "Jugador4 automático: el programa juega por este jugador");
 }
 
 TEST_F(MesaDePoker, EnLasApuestasUnClicNoLevantaNada) {

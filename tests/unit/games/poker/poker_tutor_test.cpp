@@ -219,7 +219,8 @@ TEST_F(TutorDePoker, LoElegidoAManoSeQuitaAntes) {
     EXPECT_EQ(Alturas(), "_____");
     EXPECT_FALSE(estado.JugadaHecha);
     EXPECT_TRUE(estado.EsperandoJugada);
-    EXPECT_EQ(p.Tablero().NombreDe({Control::Pic_BotContinuar, 0}), "Jugador4 automático");
+    EXPECT_EQ(p.Tablero().NombreDe({Control::Pic_BotContinuar, 0}),
+              "Jugador4 automático: el programa juega por este jugador");
 }
 
 TEST_F(TutorDePoker, QuitarLaSeleccionNoAbreUnaEspera) {
