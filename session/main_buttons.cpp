@@ -188,10 +188,12 @@ void Manda(const Evento& evento) {
     SigueElPuntero(puntero);
 }
 
-bool MueveElRaton(const Evento& evento) {
+// It moves, or one of its buttons goes down.
+bool UsaElRaton(const Evento& evento) {
     const bool quieto = evento.control == Control::Mesa && evento.x == vista.puntero_x &&
                         evento.y == vista.puntero_y;
-    return evento.tipo == TipoEvento::RatonMueve && !quieto;
+    return evento.tipo == TipoEvento::RatonPulsa ||
+           (evento.tipo == TipoEvento::RatonMueve && !quieto);
 }
 
 void CierraVentana() {
@@ -240,7 +242,7 @@ void Despacha(const Evento& evento) {
 } // namespace
 
 void DespachaEvento(const Evento& evento) {
-    if (MueveElRaton(evento))
+    if (UsaElRaton(evento))
         QuitaMarco();
     Despacha(evento);
     RevisaMarcos();

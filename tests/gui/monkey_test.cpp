@@ -342,6 +342,9 @@ class PruebaMono : public QObject {
                                                            {Qt::Key_Return, "\r"},
                                                            {Qt::Key_Tab, "\t"},
                                                            {Qt::Key_Left, ""},
+                                                           {Qt::Key_Right, ""},
+                                                           {Qt::Key_Up, ""},
+                                                           {Qt::Key_Down, ""},
                                                            {Qt::Key_F5, ""},
                                                            {Qt::Key_Escape, "\x1b"},
                                                            {Qt::Key_Q, "q"}});

@@ -183,10 +183,11 @@ private Q_SLOTS:
         QTest::newRow("Entrar") << int(Qt::Key_Return) << "\r" << 0 << 13;
         QTest::newRow("espacio") << int(Qt::Key_Space) << " " << 0 << 32;
         QTest::newRow("Control+C") << int(Qt::Key_C) << "\x03" << int(Qt::ControlModifier) << 0;
+        QTest::newRow("Control+p") << int(Qt::Key_P) << "\x10" << int(Qt::ControlModifier) << 0;
         QTest::newRow("Tab") << int(Qt::Key_Tab) << "\t" << 0 << 0;
-        QTest::newRow("flecha") << int(Qt::Key_Left) << "" << 0 << 0;
         QTest::newRow("Mayúsculas") << int(Qt::Key_Shift) << "" << int(Qt::ShiftModifier) << 0;
-        QTest::newRow("F5") << int(Qt::Key_F5) << "" << 0 << 0;
+        QTest::newRow("F10") << int(Qt::Key_F10) << "" << 0 << 0;
+        QTest::newRow("Mayúsculas+F5") << int(Qt::Key_F5) << "" << int(Qt::ShiftModifier) << 0;
         QTest::newRow("Alt+x") << int(Qt::Key_X) << "x" << int(Qt::AltModifier) << 0;
     }
     void LasTeclas() {
@@ -202,6 +203,50 @@ private Q_SLOTS:
             QVERIFY(eventos[0].tipo == TipoEvento::Tecla);
             QCOMPARE(eventos[0].tecla, numero);
         }
+    }
+
+    void LosMandos_data() {
+        QTest::addColumn<int>("tecla");
+        QTest::addColumn<int>("modificador");
+        QTest::addColumn<int>("mando");
+        QTest::addColumn<int>("indice");
+        const auto fila = [](const char* nombre, Qt::Key tecla, int modificador, Mando mando,
+                             int indice = 0) {
+            QTest::newRow(nombre) << int(tecla) << modificador << int(mando) << indice;
+        };
+        fila("izquierda", Qt::Key_Left, 0, Mando::Izquierda);
+        fila("derecha", Qt::Key_Right, 0, Mando::Derecha);
+        fila("arriba", Qt::Key_Up, 0, Mando::Arriba);
+        fila("abajo", Qt::Key_Down, 0, Mando::Abajo);
+        fila("del teclado numérico", Qt::Key_Up, Qt::KeypadModifier, Mando::Arriba);
+        fila("Mayúsculas+izquierda", Qt::Key_Left, Qt::ShiftModifier, Mando::MayusIzquierda);
+        fila("Mayúsculas+derecha", Qt::Key_Right, Qt::ShiftModifier, Mando::MayusDerecha);
+        fila("F1", Qt::Key_F1, 0, Mando::Funcion, 1);
+        fila("F9", Qt::Key_F9, 0, Mando::Funcion, 9);
+    }
+    void LosMandos() {
+        QFETCH(int, tecla);
+        QFETCH(int, modificador);
+        QFETCH(int, mando);
+        QFETCH(int, indice);
+        QKeyEvent pulsada(QEvent::KeyPress, tecla, Qt::KeyboardModifiers(modificador));
+        QApplication::sendEvent(Tapete(), &pulsada);
+        const auto eventos = Toma();
+        QCOMPARE(eventos.size(), 1u);
+        QVERIFY(eventos[0].tipo == TipoEvento::Mando);
+        QCOMPARE(int(eventos[0].mando), mando);
+        QCOMPARE(eventos[0].indice, indice);
+    }
+
+    void SoloElPaseoSeRepiteConLaTeclaApretada() {
+        const auto repite = [this](Qt::Key tecla) {
+            QKeyEvent repetida(QEvent::KeyPress, tecla, Qt::NoModifier, "", true);
+            QApplication::sendEvent(Tapete(), &repetida);
+            return Toma().size();
+        };
+        QCOMPARE(repite(Qt::Key_Right), 1u);
+        QCOMPARE(repite(Qt::Key_Up), 0u);
+        QCOMPARE(repite(Qt::Key_F2), 0u);
     }
 
     void UnaTeclaApretadaCuentaUnaVez() {

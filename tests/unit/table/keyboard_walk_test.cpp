@@ -120,6 +120,17 @@ TEST_F(Teclado, AlMoverElRatonElMarcoSeVaYVuelveDondeEstaba) {
     EXPECT_EQ(Enmarcado(), "Cinco de Copas");
 }
 
+TEST_F(Teclado, UnClicSinMoverElRatonTambienQuitaElMarco) {
+    Elige();
+    Mueve(300, 300);
+    Pulsa(Mando::Derecha);
+    ASSERT_EQ(Enmarcado(), "Seis de Oros");
+    Mueve(300, 300);
+    EXPECT_EQ(Enmarcado(), "Seis de Oros");
+    Aprieta(300, 300);
+    EXPECT_EQ(Enmarcado(), "");
+}
+
 TEST_F(Teclado, LasTeclasNoMuevenElPuntero) {
     Elige();
     Mueve(300, 300);
