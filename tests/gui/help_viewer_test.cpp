@@ -336,6 +336,63 @@ private Q_SLOTS:
         QVERIFY(Visibles(ayuda).contains("Cómo juegan los rivales"));
     }
 
+    void IntroAbreLaPaginaQueMasLoNombra() {
+        VistaAyuda ayuda(PaginasDelProyecto(), BarajasDelProyecto());
+        ayuda.MuestraTema(0);
+        auto* busca = ayuda.findChild<QLineEdit*>();
+        busca->setText("acusar"); // in no page but the glossary; the page of Tute has its cantes
+        QTest::keyClick(busca, Qt::Key_Return);
+        QCOMPARE(ayuda.findChild<QTreeWidget*>()->currentItem()->text(0), "Tute");
+        QVERIFY(Marcadas(ayuda).contains("cante"));
+    }
+
+    void UnTextoSeAplanaSinPerderSusLugares() {
+        const ayuda::TextoPlano plano = ayuda::Plano(QStringLiteral("El Póker\u00a0y Ñoño"));
+        QCOMPARE(plano.letras, "el poker y nono");
+        QCOMPARE(plano.sitios.size(), plano.letras.size());
+        QCOMPARE(ayuda::Apariciones(plano, {"poker", {}}), (QList<ayuda::Tramo>{{3, 5}}));
+        QCOMPARE(ayuda::Apariciones(plano, {"no", {}}), (QList<ayuda::Tramo>{{11, 2}, {13, 2}}));
+        QVERIFY(ayuda::Apariciones(plano, {"", {}}).isEmpty());
+    }
+
+    void UnSinonimoEsUnaPalabraEnteraEnSingularOEnPlural() {
+        const ayuda::TextoPlano plano = ayuda::Plano("Verás los acuses: ver un acuse");
+        const ayuda::Clave clave{"zzz", {"ver", "acuse"}};
+        QCOMPARE(ayuda::Apariciones(plano, clave),
+                 (QList<ayuda::Tramo>{{10, 6}, {18, 3}, {25, 5}}));
+        QVERIFY(!ayuda::Tiene(ayuda::Plano("verdes y acusada"), clave));
+    }
+
+    void ElVocabularioSaleDeLasTablasDeTresColumnas() {
+        const ayuda::Vocabulario palabras(
+            "<table><tr><th>Palabra</th><th>También</th><th>Qué es</th></tr>"
+            "<tr><td>Cantar</td><td>acuse, las cuarenta</td><td>Se canta.</td></tr>"
+            "<tr><td>Sola</td><td></td><td>Sin otra.</td></tr></table>"
+            "<table><tr><td>dos</td><td>columnas</td></tr><tr><td>a</td><td>b</td></tr></table>");
+        QCOMPARE(palabras.Grupos(), 1);
+        QCOMPARE(palabras.Claves("acuses").size(), 1);
+        QCOMPARE(palabras.Claves("acuses").front().sinonimos,
+                 (QStringList{"cantar", "acuse", "las cuarenta"}));
+        QCOMPARE(palabras.Claves("  Las  Cuarenta ").front().sinonimos,
+                 (QStringList{"cantar", "acuse"}));
+        QCOMPARE(palabras.Claves("cantar mesa").size(), 2);
+        QVERIFY(palabras.Claves("mesa").front().sinonimos.isEmpty());
+        QVERIFY(palabras.Claves("  ").isEmpty());
+        QCOMPARE(ayuda::Vocabulario("<p>Sin tablas").Grupos(), 0);
+    }
+
+    void NingunaPaginaSeSaleDeLaVentana() {
+        VistaAyuda ayuda(PaginasDelProyecto(), BarajasDelProyecto());
+        ayuda.MuestraTema(0);
+        ayuda.resize(980, 680);
+        QCoreApplication::processEvents();
+        auto* hoja = ayuda.findChild<QTextBrowser*>();
+        for (const PaginaAyuda& pagina : LeeContenido(PaginasDelProyecto())) {
+            ayuda.MuestraTema(pagina.tema);
+            QVERIFY2(hoja->horizontalScrollBar()->maximum() == 0, qPrintable(pagina.titulo));
+        }
+    }
+
     void LaAyudaNoTapaLaMesaSiHaySitio() {
         const QRect pantalla(0, 0, 1920, 1080);
         const QSize ayuda(900, 700);
