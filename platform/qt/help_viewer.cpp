@@ -88,7 +88,7 @@ std::optional<QRect> JuntoA(const QRect& otra, const QSize& tamano, const QRect&
     return QRect(QPoint(x, y), cabe);
 }
 
-VistaAyuda::VistaAyuda(const QString& carpeta, const QString& barajas)
+VistaAyuda::VistaAyuda(const QString& carpeta, const QStringList& barajas)
     : carpeta_(carpeta),
       hoja_(new HojaAyuda(carpeta, barajas)),
       arbol_(new QTreeWidget),

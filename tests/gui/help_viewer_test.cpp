@@ -21,6 +21,7 @@
 #include "reports/estadis.h"
 #include "reports/historic.h"
 #include "reports/marcador.h"
+#include "table/game_row.h"
 #include "table/tips.h"
 
 namespace {
@@ -29,8 +30,8 @@ QString PaginasDelProyecto() {
     return qEnvironmentVariable("ZOVIN_SOURCE") + "/assets/help";
 }
 
-QString BarajasDelProyecto() {
-    return qEnvironmentVariable("ZOVIN_BIN");
+QStringList BarajasDelProyecto() {
+    return {qEnvironmentVariable("ZOVIN_BIN")};
 }
 
 QString Lee(const QString& fichero) {
@@ -286,8 +287,11 @@ private Q_SLOTS:
              {"carta:", "carta:oros", "carta:oros/0", "carta:oros/13", "carta:picas/14",
               "carta:tomates/as", "pieza:nada", "puntero:nada", "foto:nada.png", "foto:"})
             QVERIFY2(dibujos.Dibujo(QUrl(cual), 1).isNull(), cual);
-        DibujosAyuda sin_barajas(PaginasDelProyecto(), carpeta_.filePath("no_hay"));
+        const QString no_hay = carpeta_.filePath("no_hay");
+        DibujosAyuda sin_barajas(PaginasDelProyecto(), {no_hay});
         QVERIFY(sin_barajas.Dibujo(QUrl("carta:oros/as"), 1).isNull());
+        DibujosAyuda en_otra(PaginasDelProyecto(), {no_hay, BarajasDelProyecto().front()});
+        QVERIFY(!en_otra.Dibujo(QUrl("carta:oros/as"), 1).isNull());
         QVERIFY(!DibujosAyuda::EsSuyo(QUrl("3130.html")));
     }
 
@@ -456,8 +460,12 @@ private Q_SLOTS:
 
     void CadaBotonDeAyudaTieneSuPagina() {
         const auto paginas = LeeContenido(PaginasDelProyecto());
-        for (const int tema :
-             {kAyudaNormas, kAyudaPersonal, kAyudaMarcador, kAyudaHistorico, kAyudaEstadis}) {
+        std::vector<int> temas{kAyudaNormas, kAyudaPersonal, kAyudaMarcador, kAyudaHistorico,
+                               kAyudaEstadis};
+        for (const FilaJuego* juego : FilasDeJuegos())
+            temas.push_back(juego->tema);
+        QCOMPARE(temas.size(), std::size_t{11});
+        for (const int tema : temas) {
             QVERIFY(std::ranges::any_of(
                 paginas, [tema](const PaginaAyuda& pagina) { return pagina.tema == tema; }));
             QVERIFY(QFile::exists(PaginasDelProyecto() + QStringLiteral("/%1.html").arg(tema)));
