@@ -10,7 +10,8 @@ constexpr int kMargenPagina = 14;
 
 } // namespace
 
-HojaAyuda::HojaAyuda(const QString& paginas, const QString& barajas) : dibujos_(paginas, barajas) {
+HojaAyuda::HojaAyuda(const QString& paginas, const QStringList& barajas)
+    : dibujos_(paginas, barajas) {
     setOpenExternalLinks(false);
     document()->setDocumentMargin(kMargenPagina);
     connect(this, &QTextBrowser::sourceChanged, this, &HojaAyuda::Marca);

@@ -11,7 +11,7 @@ class HojaAyuda : public QTextBrowser {
     Q_OBJECT
 public:
     // The folders of the pages and of the deck images.
-    HojaAyuda(const QString& paginas, const QString& barajas);
+    HojaAyuda(const QString& paginas, const QStringList& barajas);
 
     // From now on these words are marked on every page; none when the list is empty.
     void PonClaves(const QList<ayuda::Clave>& claves);

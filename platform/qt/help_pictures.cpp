@@ -108,7 +108,7 @@ QImage DibujaPuntero(const QString& nombre, double ratio) {
 
 } // namespace
 
-DibujosAyuda::DibujosAyuda(const QString& paginas, const QString& barajas)
+DibujosAyuda::DibujosAyuda(const QString& paginas, const QStringList& barajas)
     : paginas_(paginas), barajas_(barajas) {}
 DibujosAyuda::~DibujosAyuda() = default;
 
@@ -123,14 +123,17 @@ Imagenes* DibujosAyuda::Baraja(int cual, double ratio) {
     if (lista)
         return lista.get();
     const BarajaDibujada& baraja = kBarajas.at(static_cast<std::size_t>(cual));
-    auto nueva = std::make_unique<Imagenes>(ratio);
-    try {
-        nueva->CargaBaraja(barajas_ + '/' + QLatin1String(baraja.fichero), baraja.columnas);
-    } catch (const FalloGrave&) {
-        return nullptr;
+    for (const QString& carpeta : barajas_) {
+        auto nueva = std::make_unique<Imagenes>(ratio);
+        try {
+            nueva->CargaBaraja(carpeta + '/' + QLatin1String(baraja.fichero), baraja.columnas);
+            lista = std::move(nueva);
+            return lista.get();
+        } catch (const FalloGrave&) {
+            continue;
+        }
     }
-    lista = std::move(nueva);
-    return lista.get();
+    return nullptr;
 }
 
 QImage DibujosAyuda::Carta(const QStringList& partes, double ratio) {

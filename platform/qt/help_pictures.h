@@ -20,8 +20,9 @@ class Imagenes;
 
 class DibujosAyuda {
 public:
-    // paginas: the folder of the pages; barajas: of the deck images. What cannot be read is left out.
-    DibujosAyuda(const QString& paginas, const QString& barajas);
+    // paginas: the folder of the pages; barajas: those of the deck images, the first that has one counts. What cannot
+    // be read is left out.
+    DibujosAyuda(const QString& paginas, const QStringList& barajas);
     ~DibujosAyuda();
 
     static constexpr int kSinTope = 10000;
@@ -38,6 +39,7 @@ private:
     QImage Foto(const QStringList& partes, double ratio, int tope) const;
     Imagenes* Baraja(int cual, double ratio);
 
-    QString paginas_, barajas_;
+    QString paginas_;
+    QStringList barajas_;
     std::map<std::pair<int, double>, std::unique_ptr<Imagenes>> listas_; // by deck and its ratio
 };

@@ -53,6 +53,13 @@ bool TieneTodas(const TextoPlano& texto, const QList<Clave>& claves) {
                                [&](const Clave& clave) { return ayuda::Tiene(texto, clave); });
 }
 
+qsizetype Veces(const TextoPlano& texto, const QList<Clave>& claves) {
+    qsizetype veces = 0;
+    for (const Clave& clave : claves)
+        veces += ayuda::Apariciones(texto, clave).size();
+    return veces;
+}
+
 } // namespace
 
 QList<PaginaAyuda> LeeContenido(const QString& carpeta) {
@@ -81,7 +88,7 @@ std::optional<QRect> JuntoA(const QRect& otra, const QSize& tamano, const QRect&
     return QRect(QPoint(x, y), cabe);
 }
 
-VistaAyuda::VistaAyuda(const QString& carpeta, const QString& barajas)
+VistaAyuda::VistaAyuda(const QString& carpeta, const QStringList& barajas)
     : carpeta_(carpeta),
       hoja_(new HojaAyuda(carpeta, barajas)),
       arbol_(new QTreeWidget),
@@ -250,16 +257,23 @@ QList<Clave> VistaAyuda::Claves() const {
     return vocabulario_.Claves(busca_->text());
 }
 
-// A page whose title has the words comes before those that only mention them.
+// A page whose title has the words comes before those that only mention them, and of these the one that
+// mentions them most.
 void VistaAyuda::AbreLaPrimera() {
     const QList<Clave> claves = Claves();
     QTreeWidgetItem* primera = nullptr;
+    qsizetype mas_veces = 0;
     for (QTreeWidgetItemIterator rama(arbol_); !claves.isEmpty() && *rama != nullptr; ++rama) {
-        const bool nombra = TieneTodas(Plano((*rama)->text(0)), claves);
-        if (nombra || (primera == nullptr && Tiene(*rama, claves)))
+        if (TieneTodas(Plano((*rama)->text(0)), claves)) {
             primera = *rama;
-        if (nombra)
             break;
+        }
+        const TextoPlano& texto = TextoDe((*rama)->data(0, kTemaEnRama).toInt());
+        const qsizetype veces = TieneTodas(texto, claves) ? Veces(texto, claves) : 0;
+        if (veces > mas_veces) {
+            primera = *rama;
+            mas_veces = veces;
+        }
     }
     if (primera != nullptr)
         arbol_->setCurrentItem(primera);

@@ -32,8 +32,8 @@ std::optional<QRect> JuntoA(const QRect& otra, const QSize& tamano, const QRect&
 class VistaAyuda : public QWidget {
     Q_OBJECT
 public:
-    // carpeta: the pages; barajas: the folder of the deck images that they show.
-    explicit VistaAyuda(const QString& carpeta, const QString& barajas = QString());
+    // carpeta: the pages; barajas: where the deck images that they show are looked for.
+    explicit VistaAyuda(const QString& carpeta, const QStringList& barajas = {});
     ~VistaAyuda() override;
     // The topic's page, or the contents for 0 and for a topic that has none. On its first appearance the window
     // stands where it was left, or beside the table's frame when it would cover it and there is room.

@@ -412,7 +412,8 @@ void PlataformaQt::Suena(int id, bool espera) {
 
 void PlataformaQt::Ayuda(int tema) {
     if (!ayuda_)
-        ayuda_ = std::make_unique<VistaAyuda>(CarpetaAyuda(carpeta_), carpeta_barajas_);
+        ayuda_ = std::make_unique<VistaAyuda>(CarpetaAyuda(carpeta_),
+                                              QStringList{carpeta_barajas_, carpeta_});
     ayuda_->MuestraTema(tema, ventana_->isVisible() ? ventana_->frameGeometry() : QRect());
 }
 

@@ -21,6 +21,7 @@
 #include "reports/estadis.h"
 #include "reports/historic.h"
 #include "reports/marcador.h"
+#include "table/game_row.h"
 #include "table/tips.h"
 
 namespace {
@@ -29,8 +30,8 @@ QString PaginasDelProyecto() {
     return qEnvironmentVariable("ZOVIN_SOURCE") + "/assets/help";
 }
 
-QString BarajasDelProyecto() {
-    return qEnvironmentVariable("ZOVIN_BIN");
+QStringList BarajasDelProyecto() {
+    return {qEnvironmentVariable("ZOVIN_BIN")};
 }
 
 QString Lee(const QString& fichero) {
@@ -286,8 +287,11 @@ private Q_SLOTS:
              {"carta:", "carta:oros", "carta:oros/0", "carta:oros/13", "carta:picas/14",
               "carta:tomates/as", "pieza:nada", "puntero:nada", "foto:nada.png", "foto:"})
             QVERIFY2(dibujos.Dibujo(QUrl(cual), 1).isNull(), cual);
-        DibujosAyuda sin_barajas(PaginasDelProyecto(), carpeta_.filePath("no_hay"));
+        const QString no_hay = carpeta_.filePath("no_hay");
+        DibujosAyuda sin_barajas(PaginasDelProyecto(), {no_hay});
         QVERIFY(sin_barajas.Dibujo(QUrl("carta:oros/as"), 1).isNull());
+        DibujosAyuda en_otra(PaginasDelProyecto(), {no_hay, BarajasDelProyecto().front()});
+        QVERIFY(!en_otra.Dibujo(QUrl("carta:oros/as"), 1).isNull());
         QVERIFY(!DibujosAyuda::EsSuyo(QUrl("3130.html")));
     }
 
@@ -334,6 +338,63 @@ private Q_SLOTS:
         QVERIFY(Visibles(ayuda).contains("Igualar, subir o retirarse"));
         busca->setText("dificultad");
         QVERIFY(Visibles(ayuda).contains("Cómo juegan los rivales"));
+    }
+
+    void IntroAbreLaPaginaQueMasLoNombra() {
+        VistaAyuda ayuda(PaginasDelProyecto(), BarajasDelProyecto());
+        ayuda.MuestraTema(0);
+        auto* busca = ayuda.findChild<QLineEdit*>();
+        busca->setText("acusar"); // in no page but the glossary; the page of Tute has its cantes
+        QTest::keyClick(busca, Qt::Key_Return);
+        QCOMPARE(ayuda.findChild<QTreeWidget*>()->currentItem()->text(0), "Tute");
+        QVERIFY(Marcadas(ayuda).contains("cante"));
+    }
+
+    void UnTextoSeAplanaSinPerderSusLugares() {
+        const ayuda::TextoPlano plano = ayuda::Plano(QStringLiteral("El Póker\u00a0y Ñoño"));
+        QCOMPARE(plano.letras, "el poker y nono");
+        QCOMPARE(plano.sitios.size(), plano.letras.size());
+        QCOMPARE(ayuda::Apariciones(plano, {"poker", {}}), (QList<ayuda::Tramo>{{3, 5}}));
+        QCOMPARE(ayuda::Apariciones(plano, {"no", {}}), (QList<ayuda::Tramo>{{11, 2}, {13, 2}}));
+        QVERIFY(ayuda::Apariciones(plano, {"", {}}).isEmpty());
+    }
+
+    void UnSinonimoEsUnaPalabraEnteraEnSingularOEnPlural() {
+        const ayuda::TextoPlano plano = ayuda::Plano("Verás los acuses: ver un acuse");
+        const ayuda::Clave clave{"zzz", {"ver", "acuse"}};
+        QCOMPARE(ayuda::Apariciones(plano, clave),
+                 (QList<ayuda::Tramo>{{10, 6}, {18, 3}, {25, 5}}));
+        QVERIFY(!ayuda::Tiene(ayuda::Plano("verdes y acusada"), clave));
+    }
+
+    void ElVocabularioSaleDeLasTablasDeTresColumnas() {
+        const ayuda::Vocabulario palabras(
+            "<table><tr><th>Palabra</th><th>También</th><th>Qué es</th></tr>"
+            "<tr><td>Cantar</td><td>acuse, las cuarenta</td><td>Se canta.</td></tr>"
+            "<tr><td>Sola</td><td></td><td>Sin otra.</td></tr></table>"
+            "<table><tr><td>dos</td><td>columnas</td></tr><tr><td>a</td><td>b</td></tr></table>");
+        QCOMPARE(palabras.Grupos(), 1);
+        QCOMPARE(palabras.Claves("acuses").size(), 1);
+        QCOMPARE(palabras.Claves("acuses").front().sinonimos,
+                 (QStringList{"cantar", "acuse", "las cuarenta"}));
+        QCOMPARE(palabras.Claves("  Las  Cuarenta ").front().sinonimos,
+                 (QStringList{"cantar", "acuse"}));
+        QCOMPARE(palabras.Claves("cantar mesa").size(), 2);
+        QVERIFY(palabras.Claves("mesa").front().sinonimos.isEmpty());
+        QVERIFY(palabras.Claves("  ").isEmpty());
+        QCOMPARE(ayuda::Vocabulario("<p>Sin tablas").Grupos(), 0);
+    }
+
+    void NingunaPaginaSeSaleDeLaVentana() {
+        VistaAyuda ayuda(PaginasDelProyecto(), BarajasDelProyecto());
+        ayuda.MuestraTema(0);
+        ayuda.resize(980, 680);
+        QCoreApplication::processEvents();
+        auto* hoja = ayuda.findChild<QTextBrowser*>();
+        for (const PaginaAyuda& pagina : LeeContenido(PaginasDelProyecto())) {
+            ayuda.MuestraTema(pagina.tema);
+            QVERIFY2(hoja->horizontalScrollBar()->maximum() == 0, qPrintable(pagina.titulo));
+        }
     }
 
     void LaAyudaNoTapaLaMesaSiHaySitio() {
@@ -399,8 +460,12 @@ private Q_SLOTS:
 
     void CadaBotonDeAyudaTieneSuPagina() {
         const auto paginas = LeeContenido(PaginasDelProyecto());
-        for (const int tema :
-             {kAyudaNormas, kAyudaPersonal, kAyudaMarcador, kAyudaHistorico, kAyudaEstadis}) {
+        std::vector<int> temas{kAyudaNormas, kAyudaPersonal, kAyudaMarcador, kAyudaHistorico,
+                               kAyudaEstadis};
+        for (const FilaJuego* juego : FilasDeJuegos())
+            temas.push_back(juego->tema);
+        QCOMPARE(temas.size(), std::size_t{11});
+        for (const int tema : temas) {
             QVERIFY(std::ranges::any_of(
                 paginas, [tema](const PaginaAyuda& pagina) { return pagina.tema == tema; }));
             QVERIFY(QFile::exists(PaginasDelProyecto() + QStringLiteral("/%1.html").arg(tema)));

@@ -45,8 +45,18 @@ def literals(text, lines_end_words=False):
     return "\n".join(WIDE.sub(" ", t) for t in found if SENTENCE.search(t))
 
 
-def spanish_metadata(text):
-    return " ".join(a or b for a, b in re.findall(r'xml:lang="es"[^>]*>([^<]*)<|\[es\]=(.*)', text))
+def manual(text):
+    # Of the requests only headings hold words; the others name commands and their options.
+    text = re.sub(r"(?m)^\.(?!S[HS] ).*$", " ", text)
+    return re.sub(r"(?m)^\.S[HS]|\\f.|\\\(..|\\.", " ", text)
+
+
+def desktop_entry(text):
+    return " ".join(re.findall(r"(?m)^(?:GenericName|Comment|Keywords)=(.*)", text))
+
+
+def metainfo(text):
+    return " ".join(re.findall(r"<(?:summary|p|li|caption)>([^<]*)<", text))
 
 
 def texts(root):
@@ -55,9 +65,9 @@ def texts(root):
     yield root / "assets/help/contents.txt", (root / "assets/help/contents.txt").read_text()
     for path in sorted(root.glob("LEEME*")):
         yield path, markdown(path.read_text())
-    for pattern in ("*.desktop", "*.metainfo.xml"):
-        for path in sorted((root / "packaging").rglob(pattern)):
-            yield path, spanish_metadata(path.read_text())
+    for pattern, words in (("*.6", manual), ("*.desktop", desktop_entry), ("*.metainfo.xml", metainfo)):
+        for path in sorted((root / "packaging").glob(pattern)):
+            yield path, words(path.read_text())
     for room in ROOMS:
         for path in sorted((root / room).rglob("*.cpp")):
             # A tip is five lines, each filled to the last letter.
