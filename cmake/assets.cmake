@@ -71,20 +71,13 @@ endif()
 zovin_drawings(own_drawings cards/*.svg cards/spanish/*.svg cards/french/*.svg sheet/*.svg
   cursors/*.svg)
 function(zovin_add_assets target)
-  qt_add_resources(${target} arte PREFIX /arte BASE "${pictures}" FILES ${signatures} ${icons})
-  qt_add_resources(${target} dibujos PREFIX /dibujos BASE "${drawings}" FILES ${own_drawings})
+  qt_add_resources(${target} arte PREFIX /arte BASE "${pictures}" FILES ${signatures} ${icons}
+    OPTIONS ${resources_without_dates})
+  qt_add_resources(${target} dibujos PREFIX /dibujos BASE "${drawings}" FILES ${own_drawings}
+    OPTIONS ${resources_without_dates})
   add_dependencies(${target} zovin_assets)
 endfunction()
 
 if(TARGET zovin_qt)
   zovin_add_assets(zovin_qt)
-endif()
-
-if(TARGET zovin)
-  install(FILES ${decks} DESTINATION lib/zovin)
-  install(FILES assets/icon/zovin.svg DESTINATION share/icons/hicolor/scalable/apps)
-  foreach(size IN LISTS icon_sizes)
-    install(FILES "${pictures}/zovin-${size}.png" RENAME zovin.png
-      DESTINATION share/icons/hicolor/${size}x${size}/apps)
-  endforeach()
 endif()

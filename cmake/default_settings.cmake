@@ -17,16 +17,3 @@ add_custom_command(OUTPUT "${made}"
   DEPENDS default_settings
   COMMENT "Writing the settings of a first start" VERBATIM)
 add_custom_target(zovin_settings ALL DEPENDS "${made}")
-
-# Where somebody plays in the folder of the installation, a newer one takes no match away.
-install(CODE "set(pristine_settings \"${pristine_settings}\")")
-install(CODE [[
-  set(folder "${CMAKE_INSTALL_PREFIX}/lib/zovin")
-  file(GLOB files "${pristine_settings}/*.INI")
-  foreach(file IN LISTS files)
-    cmake_path(GET file FILENAME name)
-    if(NOT EXISTS "$ENV{DESTDIR}${folder}/${name}")
-      file(INSTALL "${file}" DESTINATION "${folder}")
-    endif()
-  endforeach()
-]])

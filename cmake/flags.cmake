@@ -16,6 +16,11 @@ set(CMAKE_CXX_FLAGS_RELWITHDEBINFO "-Og -g1")
 
 add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror=unused-result)
 
+# What people play is the same to the bit wherever and whenever it is built.
+add_compile_options("$<$<CONFIG:Release>:-ffile-prefix-map=${CMAKE_SOURCE_DIR}=.>"
+  "$<$<CONFIG:Release>:-ffile-prefix-map=${CMAKE_BINARY_DIR}=build>")
+set(resources_without_dates --format-version 1)
+
 # What ccache has to overlook so that a precompiled header does not put it out of work.
 find_program(ZOVIN_CCACHE ccache)
 if(ZOVIN_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)

@@ -23,6 +23,7 @@
 #include "platform/qt/open_screen.h"
 #include "platform/qt/places.h"
 #include "platform/qt/platform_qt.h"
+#include "platform/qt/player_folder.h"
 #include "platform/qt/termination.h"
 #include "reports/estadis_view.h"
 #include "reports/historic_view.h"
@@ -54,7 +55,7 @@ void PreparaEntorno(bool con_ventana) {
 void Presenta() {
     QApplication::setApplicationName(QStringLiteral("zovin"));
     QApplication::setApplicationVersion(QStringLiteral(ZOVIN_VERSION));
-    QApplication::setDesktopFileName(QStringLiteral("local.zovin.Zovin"));
+    QApplication::setDesktopFileName(QStringLiteral("org.example.zovin"));
     QApplication::setQuitOnLastWindowClosed(false);
     QIcon icono;
     for (const int lado : {16, 32, 48, 64, 128})
@@ -71,7 +72,7 @@ void HablaEspanol(QTranslator& traductor) {
 }
 
 // Another table stands open on the same files: two would write over each other's matches.
-bool QuiereJugarSinGuardar(const QString& carpeta) {
+bool QuiereOtraMesa(const QString& carpeta) {
     const std::string texto =
         "Zovin ya está en uso en la carpeta\r\n" + carpeta.toStdString() +
         "\r\nPulse Aceptar para jugar en esta otra mesa sin guardar nada de lo "
@@ -79,7 +80,15 @@ bool QuiereJugarSinGuardar(const QString& carpeta) {
     return PreguntaAceptar("Zovin ya está en uso", texto, LineasDe(texto));
 }
 
-int JuegaEnVentana(const QString& carpeta) {
+bool QuiereSeguirSinCarpeta(const QString& carpeta) {
+    const std::string texto = "No se puede escribir en la carpeta\r\n" + carpeta.toStdString() +
+                              "\r\nPulse Aceptar para jugar sin guardar nada de lo que haga, o "
+                              "Cancelar para salir.";
+    return PreguntaAceptar("Zovin no puede guardar", texto, LineasDe(texto));
+}
+
+int JuegaEnVentana(const CarpetaDeJuego& juego) {
+    const QString carpeta = juego.Ruta();
     const CerrojoCarpeta cerrojo(carpeta);
     PlataformaQt escritorio(carpeta);
     UsaPlataforma(escritorio);
@@ -89,8 +98,10 @@ int JuegaEnVentana(const QString& carpeta) {
     escritorio.PonForma(Forma::Historic, AbreVistaHistoric);
     escritorio.PonForma(Forma::Estadis, AbreVistaEstadis);
     const AvisoDeFin fin([&escritorio] { escritorio.PideTermina(); });
-    if (cerrojo.EnUso()) {
-        if (!QuiereJugarSinGuardar(carpeta))
+    if (juego.EsPrestada() || cerrojo.EnUso()) {
+        const bool sigue =
+            juego.EsPrestada() ? QuiereSeguirSinCarpeta(juego.Propia()) : QuiereOtraMesa(carpeta);
+        if (!sigue)
             return 0;
         escritorio.JuegaSinGuardar();
     }
@@ -114,8 +125,9 @@ int Juega(int argc, char** argv, bool con_ventana) {
     QTranslator traductor;
     HablaEspanol(traductor);
     try {
-        const QString carpeta = CarpetaDeArranque(QString::fromLocal8Bit(argv[0]));
-        return con_ventana ? JuegaEnVentana(carpeta) : JuegaDemo(carpeta);
+        const QString orden = QString::fromLocal8Bit(argv[0]);
+        return con_ventana ? JuegaEnVentana(CarpetaDeJuego(orden))
+                           : JuegaDemo(CarpetaDeLoQueTrae(orden));
     } catch (const std::exception& fallo) {
         CuentaFallo(fallo.what());
         return 1;

@@ -5,7 +5,14 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
+#include "platform/data_folder.h"
+#include "storage/settings.h"
+
 namespace {
+
+QString DatosInstalados() {
+    return QCoreApplication::applicationDirPath() + u'/' + QString::fromLatin1(kDatosInstalados);
+}
 
 QString PrimeroQueHay(const QStringList& sitios) {
     for (const QString& sitio : sitios) {
@@ -17,6 +24,11 @@ QString PrimeroQueHay(const QStringList& sitios) {
 
 } // namespace
 
+QString CarpetaDeInstalacion() {
+    const QString datos = QDir::cleanPath(DatosInstalados());
+    return QFileInfo::exists(datos + u'/' + QString::fromLatin1(kIniGeneral)) ? datos : QString();
+}
+
 QString CarpetaDeArranque(const QString& orden) {
     const QString programa = orden.contains(u'/') ? orden : QStandardPaths::findExecutable(orden);
     if (programa.isEmpty() || !QFileInfo::exists(programa))
@@ -26,7 +38,7 @@ QString CarpetaDeArranque(const QString& orden) {
 
 QString CarpetaAyuda(const QString& programa) {
     const QString real = QCoreApplication::applicationDirPath();
-    return PrimeroQueHay({programa + "/ayuda", real + "/ayuda", real + "/../share/zovin/ayuda"});
+    return PrimeroQueHay({programa + "/ayuda", real + "/ayuda", DatosInstalados() + "/ayuda"});
 }
 
 QString FicheroSonido(const QString& programa) {

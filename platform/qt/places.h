@@ -3,6 +3,8 @@
 
 #include <QString>
 
+// What an installed program comes with, for all its players; empty for a program that lies in one folder with its files.
+QString CarpetaDeInstalacion();
 // The folder through which the program was started, its last link not followed.
 QString CarpetaDeArranque(const QString& orden);
 // The help pages, and the sound plugin; the first candidate when there is none at all.

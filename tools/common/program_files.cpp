@@ -3,16 +3,24 @@
 #include <array>
 #include <filesystem>
 
+#include "platform/data_folder.h"
+
+namespace fs = std::filesystem;
+
 namespace {
 
 constexpr std::array kDatos{"PkFDes.ZOV"};
 
 } // namespace
 
-std::string CarpetaDelEjecutable() {
+std::string CarpetaDeDatos() {
     std::error_code fallo;
-    const auto programa = std::filesystem::read_symlink("/proc/self/exe", fallo);
-    return fallo ? "." : programa.parent_path().string();
+    const fs::path programa = fs::read_symlink("/proc/self/exe", fallo).parent_path();
+    if (fallo)
+        return ".";
+    const fs::path instalados = programa / kDatosInstalados;
+    return fs::exists(instalados / kDatos.front(), fallo) ? instalados.lexically_normal().string()
+                                                          : programa.string();
 }
 
 void InstalaFicherosDelPrograma(PlataformaSinPantalla& mesa, const std::string& carpeta) {

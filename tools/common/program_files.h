@@ -5,8 +5,8 @@
 
 #include "platform/headless/headless_platform.h"
 
-// The folder in which the running program lies.
-std::string CarpetaDelEjecutable();
+// Where the running program finds them: in the folder in which it lies, or in that of an installation.
+std::string CarpetaDeDatos();
 
 // Puts the data files of a folder into the memory of a table without a screen. What is not there is left out.
 void InstalaFicherosDelPrograma(PlataformaSinPantalla& mesa, const std::string& carpeta);

@@ -147,7 +147,7 @@ MesaSimulada::MesaSimulada(void (*al_acabar_mano)(), void (*al_pasar)())
     : al_acabar_mano_(al_acabar_mano), al_pasar_(al_pasar) {
     siempre_continua = true;
     registra = false;
-    InstalaFicherosDelPrograma(*this, CarpetaDelEjecutable());
+    InstalaFicherosDelPrograma(*this, CarpetaDeDatos());
 }
 
 Boton MesaSimulada::Pregunta(const CajaMensaje& caja) {

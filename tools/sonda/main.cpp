@@ -17,7 +17,7 @@ int main(int argc, char** argv) { // NOLINT(bugprone-exception-escape)
     CLI11_PARSE(app, argc, argv);
 
     PlataformaSinPantalla mesa;
-    InstalaFicherosDelPrograma(mesa, CarpetaDelEjecutable());
+    InstalaFicherosDelPrograma(mesa, CarpetaDeDatos());
     if (!carpeta.empty())
         mesa.UsaCarpeta(carpeta);
     Consola consola(mesa, std::cout,

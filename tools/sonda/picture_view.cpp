@@ -68,7 +68,7 @@ void PonEncima(QImage& cuadro, const QImage& forma) {
 
 std::string RutaDeBaraja() {
     const char* nombre = estado.TipoBaraja == kBarajaEspanola ? "Baraja02.bmp" : "Baraja01.bmp";
-    return CarpetaDelEjecutable() + "/" + nombre;
+    return CarpetaDeDatos() + "/" + nombre;
 }
 
 } // namespace

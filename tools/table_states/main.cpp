@@ -109,7 +109,7 @@ void Pinta(const Opciones& opciones, const Taller& taller, const Estampa& estamp
 class Mesa : public PlataformaCuadro {
 public:
     using PlataformaCuadro::PlataformaCuadro;
-    std::string CarpetaDelPrograma() const override { return CarpetaDelEjecutable(); }
+    std::string CarpetaDelPrograma() const override { return CarpetaDeDatos(); }
 };
 
 void PintaTamano(const Opciones& opciones, const std::string& tamano, double ratio) {
