@@ -343,9 +343,11 @@ TEST_F(Objetivos, ElBotonVerdeVaAntesQueLosPrincipales) {
     PedirContinuar(1);
     p.UsaLienzosRegistrados();
     PedirContinuar(1);
-    EXPECT_EQ(Dichos(ClaseObjetivo::Boton).front(), "Iñigo automático");
+    EXPECT_EQ(Dichos(ClaseObjetivo::Boton).front(),
+              "Iñigo automático: el programa juega por este jugador");
     estado.EsperandoJugada = false;
-    EXPECT_EQ(Dichos(ClaseObjetivo::Boton).front(), "Iñigo automático, no disponible");
+    EXPECT_EQ(Dichos(ClaseObjetivo::Boton).front(),
+              "Iñigo automático: el programa juega por este jugador, no disponible");
 }
 
 TEST_F(Objetivos, LaSugerenciaSeDiceSinBlancosDeRelleno) {
