@@ -432,12 +432,12 @@ private Q_SLOTS:
     }
 
     void ElSitioSeRecuerda() {
-        mesa_->Ventana().resize(911, 655);
+        mesa_->Ventana().resize(800, 655);
         Toma();
         mesa_.reset();
         mesa_ = std::make_unique<PlataformaQt>(carpeta_.path());
         mesa_->MuestraMesa();
-        QCOMPARE(mesa_->Ventana().size(), QSize(911, 655));
+        QCOMPARE(mesa_->Ventana().size(), QSize(800, 655));
         QVERIFY(!mesa_->Ventana().isMaximized());
     }
 
