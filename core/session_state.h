@@ -12,7 +12,6 @@ struct Sesion {
     bool cierre_pendiente = false; // the window was closed where the exit button is disabled
     int estado_salida = 0;         // the program's exit status
     bool fallo_contado = false;    // a failed write has been told in this run
-    int baraja_contada = 0;        // the kind of deck whose own picture was last told to be bad
     // The result of game JuegosJugados stands in the records: from then until the next hand start. What is
     // saved counts that game as finished.
     bool mano_apuntada = false;

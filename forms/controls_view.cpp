@@ -50,7 +50,7 @@ void PintaMarca(QPainter& p, const QAbstractButton& boton, const lamina::Recorte
     p.setFont(boton.font());
     p.setPen(boton.palette().color(QPalette::WindowText));
     const QRect letras = todo.adjusted(kLadoMarca + 6, 0, 0, 0);
-    p.drawText(letras, Qt::AlignVCenter | Qt::AlignLeft, boton.text());
+    estilo::PintaTexto(p, letras, Qt::AlignVCenter | Qt::AlignLeft, boton.text());
     p.setOpacity(1);
     if (boton.hasFocus())
         forma::PintaFoco(p, todo, boton.palette());
@@ -71,7 +71,8 @@ void PintaPanel(QPainter& pintor, const QRect& donde, const lamina::Recorte& pie
 void PintaRecuadro(QPainter& p, const QRect& donde, const QString& titulo, const QPalette& paleta) {
     p.setRenderHint(QPainter::Antialiasing);
     p.setFont(LetraDe(kLetraTitulo));
-    const int letras = p.fontMetrics().horizontalAdvance(titulo);
+    const int letras =
+        std::min(p.fontMetrics().horizontalAdvance(titulo), donde.width() - 2 * kMargen);
     const QRect hueco(donde.left() + kMargen - 3, donde.top(), letras + 6, kAltoTitulo);
     const QRectF marco = QRectF(donde).adjusted(0.5, kAltoTitulo / 2.0, -0.5, -0.5);
     p.save();
@@ -81,7 +82,7 @@ void PintaRecuadro(QPainter& p, const QRect& donde, const QString& titulo, const
     p.drawRoundedRect(marco, 6, 6);
     p.restore();
     p.setPen(paleta.color(QPalette::WindowText));
-    p.drawText(hueco, Qt::AlignCenter, titulo);
+    estilo::PintaTexto(p, hueco, Qt::AlignCenter, titulo);
 }
 
 void PintaFoco(QPainter& p, const QRect& donde, const QPalette& paleta) {
@@ -139,7 +140,7 @@ void SelectorVista::paintEvent(QPaintEvent*) {
     PintaCampo(p, campo, hasFocus());
     p.setFont(font());
     p.setPen(palette().color(QPalette::Text));
-    p.drawText(campo.adjusted(6, 0, -2, 0), Qt::AlignVCenter | Qt::AlignLeft, valor_);
+    estilo::PintaTexto(p, campo.adjusted(6, 0, -2, 0), Qt::AlignVCenter | Qt::AlignLeft, valor_);
     estilo::PintaPieza(p, Flecha().topLeft(),
                        isDown() ? lamina::kSelectorPulsado : lamina::kSelectorArriba);
 }
@@ -232,7 +233,8 @@ void DeslizadorVista::paintEvent(QPaintEvent*) {
     estilo::PintaPieza(p, Pomo().topLeft(), lamina::kPomoDeslizador);
     p.setFont(font());
     p.setPen(palette().color(QPalette::WindowText));
-    p.drawText(
+    estilo::PintaTexto(
+        p,
         QRect(estilo::CajaDe(*this).width() - kMargen - kAnchoValor, kAltoTitulo, kAnchoValor, 28),
         Qt::AlignVCenter | Qt::AlignRight, texto_);
     if (hasFocus())
@@ -367,8 +369,8 @@ void SpinVista::paintEvent(QPaintEvent*) {
     estilo::PintorDeVista p(this);
     p.setFont(LetraDe(kLetraTitulo));
     p.setPen(palette().color(QPalette::WindowText));
-    p.drawText(QRect(kMargen, 0, estilo::CajaDe(*this).width() - kMargen, kAltoTitulo),
-               Qt::AlignVCenter | Qt::AlignLeft, rotulo_);
+    estilo::PintaTexto(p, QRect(kMargen, 0, estilo::CajaDe(*this).width() - kMargen, kAltoTitulo),
+                       Qt::AlignVCenter | Qt::AlignLeft, rotulo_);
 }
 
 bool SpinVista::eventFilter(QObject* quien, QEvent* evento) {

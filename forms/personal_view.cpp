@@ -68,8 +68,8 @@ protected:
         estilo::PintorDeVista p(this);
         p.setFont(LetraDe({.alto = 11, .negrita = true}));
         p.setPen(palette().color(QPalette::WindowText));
-        p.drawText(QRect(8, 0, estilo::CajaDe(*this).width() - 8, 15), Qt::AlignVCenter,
-                   QStringLiteral("Nombre..:"));
+        estilo::PintaTexto(p, QRect(8, 0, estilo::CajaDe(*this).width() - 8, 15), Qt::AlignVCenter,
+                           QStringLiteral("Nombre..:"));
     }
 };
 

@@ -183,7 +183,7 @@ void Manda(const Evento& evento) {
     if (evento.mando == Mando::Funcion)
         return PulsaFuncion(evento.indice);
     const Punto puntero{vista.puntero_x, vista.puntero_y};
-    for (const Evento& uno : EventosDeMando(evento.mando))
+    for (const Evento& uno : EventosDeMando(evento.mando, evento.desde))
         Despacha(uno);
     SigueElPuntero(puntero);
 }
@@ -202,10 +202,6 @@ void CierraVentana() {
     else
         sesion.cierre_pendiente = true;
 }
-
-} // namespace
-
-namespace {
 
 void Despacha(const Evento& evento) {
     switch (evento.tipo) {

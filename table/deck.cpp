@@ -3,13 +3,11 @@
 #include <algorithm>
 #include <array>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "core/game_state.h"
 #include "core/numeric.h"
 #include "core/random.h"
-#include "core/session_state.h"
 #include "table/game_row.h"
 #include "table/layout.h"
 #include "table/messages.h"
@@ -41,32 +39,6 @@ void MeteValor(Integer palo, Integer valor) {
         MeteEnBaraja(palo, valor);
 }
 
-void CuentaMalaImagen(const std::string& motivo) {
-    if (std::exchange(sesion.baraja_contada, estado.TipoBaraja) == estado.TipoBaraja)
-        return;
-    const std::string texto =
-        motivo + estado.SaltoLinea + "Se juega con la imagen que viene con el programa.";
-    Mensaje("Imagen de la baraja", texto, LineasDe(texto), 1);
-}
-
-// A player's own folder may hold another picture of the deck than the one that comes with the program, which is there
-// when that one cannot be used.
-void CargaImagen(const std::string& nombre) {
-    const std::string propia = estado.CarpetaTrabajo + nombre;
-    const std::string del_programa = estado.CarpetaPrograma + nombre;
-    Archivos& archivos = plataforma().LosArchivos();
-    if (propia == del_programa || !archivos.Existe(del_programa))
-        return plataforma().CargaBaraja(propia, estado.ColumnasBaraja);
-    if (!archivos.Existe(propia))
-        return plataforma().CargaBaraja(del_programa, estado.ColumnasBaraja);
-    try {
-        plataforma().CargaBaraja(propia, estado.ColumnasBaraja);
-    } catch (const FalloGrave& fallo) {
-        plataforma().CargaBaraja(del_programa, estado.ColumnasBaraja);
-        CuentaMalaImagen(fallo.what());
-    }
-}
-
 struct CartaConClave {
     std::string clave;
     std::array<Integer, 6> campos{};
@@ -77,7 +49,10 @@ struct CartaConClave {
 void ConstruirBaraja() {
     const FilaJuego& juego = JuegoEnMesa();
     juego.baraja.prepara();
-    CargaImagen(estado.TipoBaraja == kBarajaEspanola ? "/Baraja02.bmp" : "/Baraja01.bmp");
+    plataforma().CargaBaraja(estado.CarpetaTrabajo + (estado.TipoBaraja == kBarajaEspanola
+                                                          ? "/Baraja02.bmp"
+                                                          : "/Baraja01.bmp"),
+                             estado.ColumnasBaraja);
 }
 
 void Barajar() {

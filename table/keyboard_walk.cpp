@@ -20,11 +20,16 @@ struct Paseo {
     std::optional<Objetivo> donde; // what the frame is on, as it was last seen
     std::optional<Objetivo>
         vuelta; // where it goes back to from the pop-up, or when the held card has been laid down
+    Milisegundos vale_desde = 0; // presses that began earlier were meant for something else
 };
 
 constinit Paseo paseo;
 
 void RefrescaMarco();
+
+bool EsPulsacion(Mando mando) {
+    return mando == Mando::Arriba || mando == Mando::Abajo;
+}
 
 bool EsPropia(const Objetivo& carta) {
     const Integer turno = estado.JugadorActual;
@@ -205,12 +210,15 @@ std::vector<Evento> Anda(const Camino& camino, const Objetivo& desde, int hacia)
 }
 
 // A card of the spread is taken with the button down, and given to a seat by being moved there.
-std::vector<Evento> Pulsacion(const Objetivo& donde) {
+std::vector<Evento> Pulsacion(const Objetivo& donde, std::optional<Milisegundos> desde) {
     if (!donde.se_pulsa)
         return {};
     switch (donde.clase) {
     case ClaseObjetivo::Boton:
-        return {{.tipo = TipoEvento::Clic, .control = donde.control, .indice = donde.indice}};
+        return {{.tipo = TipoEvento::Clic,
+                 .control = donde.control,
+                 .indice = donde.indice,
+                 .desde = desde}};
     case ClaseObjetivo::Opcion:
         return {Raton(TipoEvento::RatonMueve, donde, kIzquierdo),
                 Raton(TipoEvento::RatonSuelta, donde, kIzquierdo)};
@@ -281,14 +289,17 @@ void RefrescaMarco() {
 
 } // namespace
 
-std::vector<Evento> EventosDeMando(Mando mando) {
+std::vector<Evento> EventosDeMando(Mando mando, std::optional<Milisegundos> desde) {
     RefrescaMarco();
     const Camino camino = ElCamino();
     if (!HayMarco(Marco::DeTeclas)) {
+        paseo.vale_desde = EsPulsacion(mando) ? plataforma().Reloj() : 0;
         Aparece(camino);
         return {};
     }
     const Objetivo aqui = *Busca(camino, *paseo.donde);
+    if (EsPulsacion(mando) && desde.value_or(paseo.vale_desde) < paseo.vale_desde)
+        return {};
     switch (mando) {
     case Mando::Izquierda:
         return Anda(camino, aqui, -1);
@@ -301,7 +312,7 @@ std::vector<Evento> EventosDeMando(Mando mando) {
         Desplaza(camino, aqui, 1);
         return {};
     case Mando::Arriba:
-        return Pulsacion(aqui);
+        return Pulsacion(aqui, desde);
     case Mando::Abajo:
         return PulsacionDerecha(aqui);
     case Mando::Funcion:

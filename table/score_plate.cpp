@@ -29,7 +29,7 @@ bool HayDinero() {
 }
 
 bool SeVe() {
-    return (estado.PartidaEnCurso || vista.nombres) && estado.JuegosJugados > 0 && vista.nombres;
+    return vista.nombres && estado.JuegosJugados > 0;
 }
 
 std::string Ganadas(Integer equipo) {

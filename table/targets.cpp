@@ -374,6 +374,8 @@ void AgregaPlaca(Objetivos& todos, Control control, int indice, const char* nomb
 }
 
 void AgregaPlacas(Objetivos& todos) {
+    AgregaPlaca(todos, Control::Pic_Aviso, 0);
+    AgregaPlaca(todos, Control::Pic_Tanteo, 0);
     for (int asiento = 1; asiento <= 4; ++asiento)
         AgregaPlaca(todos, Control::Pic_Tantos, asiento);
     AgregaPlaca(todos, Control::Pic_Apostadora, 0);

@@ -23,7 +23,7 @@ enum class ClaseObjetivo {
 };
 
 // Words on the felt that are no control.
-inline constexpr Integer kRotuloBote = 1, kRotuloTriunfo = 2, kRotuloDescartes = 3;
+inline constexpr Integer kRotuloBote = 1, kRotuloDescartes = 2;
 
 // One of them. What a click does is done by the same handlers that the mouse meets, at `toque`.
 struct Objetivo {

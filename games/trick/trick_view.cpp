@@ -49,15 +49,6 @@ Objetivo ElTriunfo() {
             .se_pulsa = SeCambiaEnElMazo()};
 }
 
-// Where it lay: everybody knows it for the rest of the hand.
-Objetivo ElPaloDeTriunfo() {
-    return {.clase = ClaseObjetivo::Rotulo,
-            .lugar = kRotuloTriunfo,
-            .donde = TriunfoALaVista(),
-            .toque = LugarTriunfo(),
-            .nombre = std::string("Triunfo: ") + NombreDePalo(estado.PaloTriunfo)};
-}
-
 void PonCartas(Integer asiento, const std::vector<Integer>& lugares, Integer cara, Integer altura) {
     for (const Integer lugar : lugares) {
         estado.Mano(asiento, kSerie, lugar, kCara) = cara;
@@ -86,8 +77,6 @@ void PintaTriunfo(int x, int y) {
 void AgregaBazaYTriunfo(std::vector<Objetivo>& todos) {
     if (TriunfoEnMesa())
         todos.push_back(ElTriunfo());
-    else if (estado.ManoEnCurso && estado.PaloTriunfo != kSinCarta)
-        todos.push_back(ElPaloDeTriunfo());
     if (!BazaEnMesa())
         return;
     Integer asiento = estado.JugadorSalida;

@@ -32,8 +32,8 @@ void RecogeMesa();
 // The winner's card blinks on the table.
 void ParpadeaBaza();
 
-// The turned card, which a click changes while that is on offer, or the trump's name when the pile is gone; and the cards
-// of the trick in the order in which they were laid.
+// The turned card, which a click changes while that is on offer, and the cards of the trick in the order in which they
+// were laid.
 void AgregaBazaYTriunfo(std::vector<Objetivo>& todos);
 
 // The cards at these places of the seat's hand blink three times face up, raised out of it, and go back to the

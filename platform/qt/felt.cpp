@@ -173,8 +173,9 @@ void Tapete::NotaSueltaCallada() {
 }
 
 void Tapete::keyPressEvent(QKeyEvent* evento) {
-    if (const auto mando = MandoDe(*evento)) {
+    if (auto mando = MandoDe(*evento)) {
         setFocus(); // from a button that had it: one mark at a time tells where the keys go
+        mando->desde = cola_.Ahora();
         return cola_.Pon(*mando);
     }
     const auto caracter = CaracterDe(*evento);

@@ -36,8 +36,8 @@ constexpr int kAltoMarco = 40;
 constexpr double kParteDePantalla = 0.9;
 
 // Under a title bar the lower edge of the table would lie below the screen.
-bool NoCabeConMarco() {
-    return QApplication::primaryScreen()->availableSize().height() < kMinimo.height() + kAltoMarco;
+bool NoCabeConMarco(const QScreen& pantalla) {
+    return pantalla.availableSize().height() < kMinimo.height() + kAltoMarco;
 }
 
 // Plus stands on the key of the equals sign where it takes Shift.
@@ -93,6 +93,9 @@ VentanaPrincipal::VentanaPrincipal(QWidget* mesa) {
 void VentanaPrincipal::RecuerdaSitio() {
     const QByteArray sitio = Ajustes().value(kSitio).toByteArray();
     recordado_ = !sitio.isEmpty() && restoreGeometry(sitio);
+    // As large as on a larger screen, or where there is none any more.
+    if (recordado_ && !isMaximized())
+        setGeometry(DentroDe(screen()->availableGeometry(), geometry()));
 }
 
 double VentanaPrincipal::FactorGuardado() {
@@ -116,11 +119,26 @@ void VentanaPrincipal::VigilaPantallas() {
     connect(qApp, &QGuiApplication::screenRemoved, this, cambia);
 }
 
+void VentanaPrincipal::LlenaPantalla() {
+    llena_por_falta_ = true;
+    showFullScreen();
+}
+
+// There is room for a frame again.
+void VentanaPrincipal::DejaPantalla() {
+    llena_por_falta_ = false;
+    showMaximized();
+}
+
 void VentanaPrincipal::CabeEnPantalla() {
     const QRect libre = screen()->availableGeometry();
     setMinimumSize(kMinimo.boundedTo(libre.size()));
+    if (!isVisible())
+        return;
+    if (NoCabeConMarco(*screen()) != llena_por_falta_)
+        return llena_por_falta_ ? DejaPantalla() : LlenaPantalla();
     const QRect con_marco = frameGeometry();
-    if (!isVisible() || libre.contains(con_marco) || screen()->geometry() == geometry())
+    if (libre.contains(con_marco) || screen()->geometry() == geometry())
         return;
     const QSize marco = con_marco.size() - size();
     const QRect dentro =
@@ -130,10 +148,10 @@ void VentanaPrincipal::CabeEnPantalla() {
 }
 
 void VentanaPrincipal::Aparece() {
-    if (NoCabeConMarco())
-        showFullScreen();
+    if (NoCabeConMarco(*QApplication::primaryScreen()))
+        LlenaPantalla();
     else if (recordado_)
-        show();
+        MuestraDentro();
     else
         showMaximized();
     raise();
@@ -141,9 +159,15 @@ void VentanaPrincipal::Aparece() {
 }
 
 void VentanaPrincipal::AlternaPantallaCompleta() {
-    if (NoCabeConMarco())
+    if (llena_por_falta_)
         return;
     setWindowState(windowState() ^ Qt::WindowFullScreen);
+}
+
+// Only now is it known what the desktop's frame takes.
+void VentanaPrincipal::MuestraDentro() {
+    show();
+    QTimer::singleShot(0, this, &VentanaPrincipal::CabeEnPantalla);
 }
 
 void VentanaPrincipal::GuardaSitio() {

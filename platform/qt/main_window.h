@@ -34,5 +34,9 @@ private:
     void RecuerdaSitio();
     void VigilaPantallas();
     void CabeEnPantalla();
+    void MuestraDentro();
+    void LlenaPantalla();
+    void DejaPantalla();
     bool recordado_ = false;
+    bool llena_por_falta_ = false; // on the whole screen because there is no room for a frame
 };

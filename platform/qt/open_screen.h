@@ -4,5 +4,5 @@
 #include <QApplication>
 #include <memory>
 
-// Where no screen can be opened the program says so in one sentence and ends with status 1.
+// A desktop's scale below 1 is not taken. Where no screen can be opened the program says so in one sentence and ends with status 1.
 std::unique_ptr<QApplication> AbrePantalla(int& argc, char** argv);

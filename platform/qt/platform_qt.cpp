@@ -360,8 +360,40 @@ void PlataformaQt::PideFactor(int sentido) {
 }
 
 void PlataformaQt::CargaBaraja(const std::string& ruta, int columnas) {
-    imagenes_.CargaBaraja(QString::fromStdString(ruta), columnas);
-    carpeta_barajas_ = QFileInfo(QString::fromStdString(ruta)).path();
+    const QString propia = QString::fromStdString(ruta);
+    try {
+        UsaBaraja(propia, columnas);
+    } catch (const FalloGrave& fallo) {
+        const QString otra = BarajaQueViene(propia);
+        if (otra.isEmpty())
+            throw;
+        UsaBaraja(otra, columnas);
+        CuentaMalaBaraja(propia, fallo.what());
+    }
+}
+
+void PlataformaQt::UsaBaraja(const QString& ruta, int columnas) {
+    imagenes_.CargaBaraja(ruta, columnas);
+    carpeta_barajas_ = QFileInfo(ruta).path();
+}
+
+// The deck of that name that comes with the program, where it is another file; empty when there is none.
+QString PlataformaQt::BarajaQueViene(const QString& propia) const {
+    const QFileInfo suya(propia);
+    for (const QString& carpeta : {CarpetaDeInstalacion(), carpeta_}) {
+        const QFileInfo otra(carpeta + u'/' + suya.fileName());
+        if (!carpeta.isEmpty() && otra.exists() && otra != suya)
+            return otra.filePath();
+    }
+    return {};
+}
+
+// Once for a file; one that is not there is nothing to tell.
+void PlataformaQt::CuentaMalaBaraja(const QString& propia, const std::string& motivo) {
+    if (!QFileInfo::exists(propia) || std::exchange(baraja_contada_, propia) == propia)
+        return;
+    const std::string texto = motivo + "\r\nSe juega con la imagen que viene con el programa.";
+    Pregunta({.titulo = "Imagen de la baraja", .texto = texto, .lineas = 4, .modo = 1});
 }
 
 QWidget* PlataformaQt::Padre() {

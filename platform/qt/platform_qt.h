@@ -97,6 +97,9 @@ private:
     void AvisaTamano();
     // Takes the factor that the table's size and the player's wish ask for.
     void AjustaFactor();
+    void UsaBaraja(const QString& ruta, int columnas);
+    QString BarajaQueViene(const QString& propia) const;
+    void CuentaMalaBaraja(const QString& propia, const std::string& motivo);
     // A step up or down from the factor in use; 0 leaves it to the program again.
     void PideFactor(int sentido);
     // The window that a dialog belongs to: the form that is open, the table, or before it is shown the
@@ -120,7 +123,8 @@ private:
     std::unique_ptr<Careta> careta_;
     std::unique_ptr<VistaAyuda> ayuda_;
     std::unique_ptr<Altavoz> altavoz_;
-    double deseo_ = 0; // the factor that the player has chosen, 0 none
+    QString baraja_contada_; // the own picture of a deck that was last told to be bad
+    double deseo_ = 0;       // the factor that the player has chosen, 0 none
     bool termina_ = false;
     bool guarda_ = true;
 };

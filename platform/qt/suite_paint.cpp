@@ -155,6 +155,17 @@ void PintaPieza(QPainter& p, const QRect& donde, const lamina::Recorte& pieza, i
     }
 }
 
+void PintaTexto(QPainter& p, const QRect& donde, int alineacion, const QString& texto) {
+    const int ancho = p.fontMetrics().horizontalAdvance(texto);
+    if (ancho <= donde.width())
+        return p.drawText(donde, alineacion, texto);
+    p.save();
+    p.translate(donde.left(), 0);
+    p.scale(1.0 * donde.width() / ancho, 1);
+    p.drawText(QRect(0, donde.top(), ancho, donde.height()), alineacion, texto);
+    p.restore();
+}
+
 void PintaPanel(QPainter& p, const QRect& donde, const QString& titulo) {
     p.fillRect(donde, kCanto);
     PintaPieza(p, donde, lamina::kPanelPergamino, lamina::kBordePanel);
@@ -167,7 +178,7 @@ void PintaPanel(QPainter& p, const QRect& donde, const QString& titulo) {
     p.fillRect(QRect(banda.left(), banda.bottom() + 1, banda.width(), 2), QColor(214, 158, 40));
     p.setFont(LetraDe({.alto = 16, .negrita = true}));
     p.setPen(kTitulo);
-    p.drawText(banda, Qt::AlignCenter, titulo);
+    PintaTexto(p, banda, Qt::AlignCenter, titulo);
 }
 
 } // namespace estilo
@@ -199,7 +210,8 @@ void BotonSuite::paintEvent(QPaintEvent*) {
         p.drawRoundedRect(QRectF(todo).adjusted(4, 4, -4, -4), 5, 5);
     }
     p.setPen(estilo::kBanda);
-    p.drawText(todo.translated(0, isDown() ? 1 : 0), Qt::AlignCenter, text());
+    estilo::PintaTexto(p, todo.adjusted(4, 0, -4, 0).translated(0, isDown() ? 1 : 0),
+                       Qt::AlignCenter, text());
     if (!hasFocus())
         return;
     p.setBrush(Qt::NoBrush);

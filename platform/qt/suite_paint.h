@@ -34,6 +34,8 @@ public:
 void PintaPieza(QPainter& pintor, const QPointF& donde, const lamina::Recorte& pieza);
 // A piece drawn out to donde: its rim of borde pixels stays, the rest stretches.
 void PintaPieza(QPainter& pintor, const QRect& donde, const lamina::Recorte& pieza, int borde);
+// A line of text in its box; narrower where the letters at hand are too broad for it.
+void PintaTexto(QPainter& pintor, const QRect& donde, int alineacion, const QString& texto);
 // Parchment, rim and title band over the whole of donde.
 void PintaPanel(QPainter& pintor, const QRect& donde, const QString& titulo);
 } // namespace estilo

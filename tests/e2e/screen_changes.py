@@ -6,7 +6,7 @@ import subprocess
 from lib.table import expect, run, wait_for, xdotool
 
 START = "1280x800"
-MODES = ("1024x768", "800x600", "1920x1080", "1600x900")
+MODES = (START, "1024x768", "800x600", "1600x900")
 
 
 def xrandr(*words):

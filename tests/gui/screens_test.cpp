@@ -12,6 +12,7 @@
 #include <QTest>
 
 #include "platform/qt/message_box.h"
+#include "platform/qt/open_screen.h"
 #include "platform/qt/platform_qt.h"
 #include "platform/qt/scale.h"
 
@@ -68,7 +69,8 @@ class PruebaPantallas : public QObject {
                  EsEnana());
         // The factor is one of the steps, or less than one; a table pixel is never less than the screen's.
         const double ratio = ventana.devicePixelRatioF();
-        QVERIFY(FactorDeMesa() * std::max(1.0, ratio) >= 1);
+        QVERIFY(ratio >= 1);
+        QVERIFY(FactorDeMesa() * ratio >= 1);
         QVERIFY(EsPasoDeFactor(FactorDeMesa()) || FactorDeMesa() < 1);
         // Nothing stretched: the picture is as large as the screen's pixels that show it.
         const QImage& cuadro =
@@ -147,7 +149,7 @@ private Q_SLOTS:
 // A screen is settled before the application stands: each has a run of its own.
 int main(int argc, char** argv) {
     if (qEnvironmentVariableIsSet("ZOVIN_TEST_SCREEN")) {
-        QApplication programa(argc, argv);
+        const auto programa = AbrePantalla(argc, argv);
         PruebaPantallas prueba;
         return QTest::qExec(&prueba, argc, argv);
     }

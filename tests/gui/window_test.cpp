@@ -12,6 +12,7 @@
 
 #include "platform/qt/platform_qt.h"
 #include "table/sheet_layout.h"
+#include "tests/gui/deck_images.h"
 
 Q_DECLARE_METATYPE(TipoEvento)
 
@@ -432,12 +433,12 @@ private Q_SLOTS:
     }
 
     void ElSitioSeRecuerda() {
-        mesa_->Ventana().resize(911, 655);
+        mesa_->Ventana().resize(800, 655);
         Toma();
         mesa_.reset();
         mesa_ = std::make_unique<PlataformaQt>(carpeta_.path());
         mesa_->MuestraMesa();
-        QCOMPARE(mesa_->Ventana().size(), QSize(911, 655));
+        QCOMPARE(mesa_->Ventana().size(), QSize(800, 655));
         QVERIFY(!mesa_->Ventana().isMaximized());
     }
 
@@ -524,6 +525,42 @@ private Q_SLOTS:
         QVERIFY(mesa_->TieneForma(Forma::Personal));
         mesa_->Abre(Forma::Personal);
         QVERIFY(abierta);
+    }
+
+    void DeUnaBarajaPropiaMalaSeAvisaUnaVezYVaLaDelPrograma() {
+        QTemporaryDir propia;
+        const QString mala = propia.filePath("Baraja02.bmp");
+        QVERIFY(BarajaDeColores(12).save(carpeta_.filePath("Baraja02.bmp")));
+        QVERIFY(BarajaDeColores(13).save(mala)); // of another size
+        QStringList dicho;
+        QTimer mira;
+        connect(&mira, &QTimer::timeout, Tapete(), [&dicho] {
+            if (QWidget* caja = QApplication::activeModalWidget(); caja != nullptr) {
+                dicho << caja->accessibleDescription();
+                caja->close();
+            }
+        });
+        mira.start(10);
+        for (int vez = 0; vez < 2; ++vez)
+            mesa_->CargaBaraja(mala.toStdString(), 12);
+        QCOMPARE(dicho.size(), 1);
+        QVERIFY(dicho[0].contains(mala));
+        QVERIFY(dicho[0].contains("Se juega con la imagen que viene con el programa."));
+        mesa_->LienzoDe(Control::Mesa, 0).Carta(40, 40, {2, 5, 2, 1});
+        QCOMPARE(QColor(Tapete()->grab().toImage().pixel(90, 110)), ColorDeCarta(2, 5));
+        // A good one of one's own is used, and so is the program's where there is none.
+        QImage otra = BarajaDeColores(12);
+        otra.fill(Qt::blue);
+        QVERIFY(otra.save(mala));
+        mesa_->CargaBaraja(mala.toStdString(), 12);
+        mesa_->LienzoDe(Control::Mesa, 0).Carta(40, 40, {2, 5, 2, 1});
+        QCOMPARE(QColor(Tapete()->grab().toImage().pixel(90, 110)), QColor(Qt::blue));
+        QVERIFY(QFile::remove(mala));
+        mesa_->CargaBaraja(mala.toStdString(), 12);
+        QCOMPARE(dicho.size(), 1);
+        // Without any of them there is no game.
+        QVERIFY(QFile::remove(carpeta_.filePath("Baraja02.bmp")));
+        QVERIFY_EXCEPTION_THROWN(mesa_->CargaBaraja(mala.toStdString(), 12), FalloGrave);
     }
 
     void SinComplementoDeSonidoHaySilencio() {

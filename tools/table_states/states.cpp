@@ -136,7 +136,7 @@ void Tapadas(int vez) {
 // The turned card under the pile, from full to alone, and a trick that grows in the middle.
 constexpr std::array<Integer, 5> kAlturasTriunfo{27, 16, 4, 1, 0};
 
-void Triunfo(int vez) {
+void ElTriunfo(int vez) {
     PonPartida(vez <= 4 ? kBrisca : kTute);
     for (Integer asiento = 1; asiento <= 4; ++asiento)
         PonCartas(asiento, 3, 4 * asiento, kDescubierta);
@@ -471,7 +471,7 @@ const std::vector<Estampa>& Estampas() {
         {"ocultas", ManosOcultas, 14},
         {"comodines", Comodines},
         {"tapadas", Tapadas, 3},
-        {"triunfo", Triunfo, static_cast<int>(kAlturasTriunfo.size())},
+        {"triunfo", ElTriunfo, static_cast<int>(kAlturasTriunfo.size())},
         {"ordenando", Ordenando},
         {"levantadas", Levantadas},
         {"rotulos", Rotulos, static_cast<int>(kColores.size())},

@@ -320,6 +320,21 @@ TEST_F(Teclado, UnBotonVerdeQueJugariaPorMiPierdeElMarco) {
     EXPECT_EQ(Enmarcado(), "Seis de Oros");
 }
 
+TEST_F(Teclado, LasPulsacionesQueEsperabanNoJueganLaCartaQueApareceEnmarcada) {
+    Elige();
+    const auto arriba = [](Milisegundos desde) {
+        DespachaEvento({.tipo = TipoEvento::Mando, .desde = desde, .mando = Mando::Arriba});
+    };
+    p.DuermeHasta(1000);
+    arriba(900);
+    EXPECT_EQ(Enmarcado(), "Seis de Oros");
+    arriba(950);
+    EXPECT_FALSE(estado.JugadaHecha);
+    p.DuermeHasta(2000);
+    arriba(1500);
+    EXPECT_TRUE(estado.JugadaHecha);
+}
+
 TEST_F(Teclado, EnLaMesaVaciaSeRecorrenLosBotones) {
     Pulsa(Mando::Derecha);
     EXPECT_EQ(Enmarcado(), "Nueva partida");

@@ -20,6 +20,7 @@
 #include "table/manual_deal.h"
 #include "table/messages.h"
 #include "table/pile.h"
+#include "table/score_plate.h"
 #include "table/side_buttons.h"
 #include "table/table_input.h"
 #include "table/table_view.h"
@@ -226,7 +227,11 @@ TEST_F(Objetivos, SinMazoSeSigueDiciendoElPaloDeTriunfo) {
     Pinta({kCopas, kAs});
     estado.CartasEnMazo = 0;
     EXPECT_THAT(Dichos(ClaseObjetivo::Triunfo), ElementsAre());
-    EXPECT_THAT(Dichos(ClaseObjetivo::Rotulo), Contains("Triunfo: Copas"));
+    estado.JuegosJugados = 2;
+    vista.nombres = true;
+    PintaTanteo();
+    EXPECT_THAT(Dichos(ClaseObjetivo::Rotulo),
+                Contains(testing::StartsWith("Mano 2. Triunfo: Copas. Ana: 0 de ")));
 }
 
 TEST_F(Objetivos, LaBazaSeDiceEnElOrdenEnQueSeJugo) {
@@ -343,9 +348,11 @@ TEST_F(Objetivos, ElBotonVerdeVaAntesQueLosPrincipales) {
     PedirContinuar(1);
     p.UsaLienzosRegistrados();
     PedirContinuar(1);
-    EXPECT_EQ(Dichos(ClaseObjetivo::Boton).front(), "Iñigo automático");
+    EXPECT_EQ(Dichos(ClaseObjetivo::Boton).front(),
+              "Iñigo automático: el programa juega por este jugador");
     estado.EsperandoJugada = false;
-    EXPECT_EQ(Dichos(ClaseObjetivo::Boton).front(), "Iñigo automático, no disponible");
+    EXPECT_EQ(Dichos(ClaseObjetivo::Boton).front(),
+              "Iñigo automático: el programa juega por este jugador, no disponible");
 }
 
 TEST_F(Objetivos, LaSugerenciaSeDiceSinBlancosDeRelleno) {
