@@ -152,13 +152,13 @@ COLOURS = {  # light, middle, dark
     "azul": ("#9cc3ee", "#2f63ad", "#12305f"),
     "rojo": ("#f2958a", "#bf2d30", "#6a0f18"),
     "oro": ("#fdeca8", "#d79a28", "#80500c"),
-    "gris": ("#eef1f4", "#9aa3ae", "#4d5560"),
+    "gris": ("#d6dce3", "#56606c", "#2b323a"),
     "marfil": ("#fffdf4", "#ecdfbd", "#b49f6c"),
 }
 
 
 # Faces that carry light letters: only a breath of gloss, so that the letters keep their contrast.
-DARK_FACES = {"verde", "azul", "rojo"}
+DARK_FACES = {"verde", "azul", "rojo", "gris"}
 
 
 def plain_button(width, height, colour, down, r=5.0):
@@ -168,7 +168,7 @@ def plain_button(width, height, colour, down, r=5.0):
     g = Drawing(width, height, (0, 0, w, h))
     bezel = g.linear("bezel", [(0, "#fff1b8"), (0.5, GOLD), (1, "#8a560c")] if not down else
                      [(0, "#7c4c0a"), (0.5, "#b98220"), (1, "#f2d27c")])
-    face = g.linear("face", [(0, light), (0.08, middle), (1, dark)] if not down else [(0, dark), (0.85, middle), (1, middle)])
+    face = g.linear("face", [(0, light), (0.03, middle), (1, dark)] if not down else [(0, dark), (0.85, middle), (1, middle)])
     k = 3 * r
     g.rect(0.8, 0.8, w - 1.6, h - 1.6, INK, None, r=k + 2)
     g.rect(3, 3, w - 6, h - 6, bezel, None, r=k)
