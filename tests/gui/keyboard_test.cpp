@@ -127,6 +127,16 @@ private Q_SLOTS:
         QVERIFY(EnElBorde(cinco) != QColor(120, 255, 120));
     }
 
+    void FueraDeLaMesaNoQuedaContorno() {
+        Elige();
+        const Rectangulo cinco = CartaALaVista(4, 1, 3);
+        Mueve({cinco.x + 20, cinco.y + 60});
+        QCOMPARE(EnElBorde(cinco), QColor(120, 255, 120));
+        QEvent fuera(QEvent::Leave);
+        QApplication::sendEvent(Tapete(), &fuera);
+        QVERIFY(EnElBorde(cinco) != QColor(120, 255, 120));
+    }
+
     void UnaFlechaDevuelveElFocoALaMesaYTabLoLlevaALosBotones() {
         Elige();
         Teclea(Qt::Key_Right);
