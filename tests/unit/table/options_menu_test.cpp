@@ -214,9 +214,7 @@ TEST_F(Menu, AlElegirElPunteroEsElDeLoQueHayDebajo) {
 }
 
 TEST_F(Menu, SobreElMenuNoSeContorneaNingunaCarta) {
-    ManoEmpezada(4);
-    estado.EligeCarta = true;
-    estado.EsperandoJugada = true;
+    estado.ModoOrdenar = true;
     const Punto carta = SobreCarta(4, 1);
     Mueve(carta.x, carta.y);
     ASSERT_TRUE(HayMarco(Marco::DePuntero));
