@@ -146,6 +146,7 @@ void RatonEnControl(const Evento& evento) {
             RefrescaPuntero();
         }
     } else if (evento.control == Control::Pic_Botonera && evento.tipo == TipoEvento::RatonMueve) {
+        vista.puntero_x = vista.puntero_y = -1; // on no card any more
         estado.CursorTabla = 0;
         CambiarCursor(Control::Mesa, 0, Puntero::Flecha);
     }

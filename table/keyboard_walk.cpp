@@ -322,7 +322,7 @@ std::vector<Evento> EventosDeMando(Mando mando, std::optional<Milisegundos> desd
 }
 
 std::vector<Evento> EventosDeClic(const Objetivo& donde, int boton) {
-    return boton == kIzquierdo ? Pulsacion(donde) : PulsacionDerecha(donde);
+    return boton == kIzquierdo ? Pulsacion(donde, std::nullopt) : PulsacionDerecha(donde);
 }
 
 void QuitaMarco() {

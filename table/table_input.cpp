@@ -118,6 +118,9 @@ bool SeContornea(Integer asiento, Integer lugar) {
     const Integer cartas = estado.NumCartas(asiento, estado.SerieActual);
     if (lugar == 0 || lugar > cartas || HayMarco(Marco::DeTeclas))
         return false;
+    // The pop-up lies over the card, and the pointer is on that.
+    if (plataforma().EstaVisible(Control::Pic_SelOpciones, 0))
+        return false;
     const Rectangulo carta = CajaDeCarta(asiento, lugar, cartas);
     return (SeTocaCarta(asiento, lugar) || SeMueveCarta(asiento)) &&
            Dentro(vista.puntero_x, carta.x, carta.x + carta.ancho - 1) &&

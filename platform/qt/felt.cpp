@@ -12,6 +12,7 @@
 #include "platform/qt/control_view.h"
 #include "platform/qt/pointers.h"
 #include "platform/qt/scale.h"
+#include "table/frames.h"
 #include "table/keyboard_walk.h"
 
 namespace {
@@ -170,6 +171,12 @@ void Tapete::NotaSueltaCallada() {
         return;
     apretado_ = false;
     Avisa(TipoEvento::RatonSuelta, mapFromGlobal(QPointF(QCursor::pos())), 1);
+}
+
+// Over a button and outside of the window nobody tells where the pointer is: a card would stay outlined.
+void Tapete::leaveEvent(QEvent*) {
+    if (!apretado_ && HayMarco(Marco::DePuntero))
+        Avisa(TipoEvento::RatonMueve, QPointF(-1, -1), 0);
 }
 
 void Tapete::keyPressEvent(QKeyEvent* evento) {

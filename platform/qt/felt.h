@@ -62,6 +62,7 @@ protected:
     void mouseMoveEvent(QMouseEvent* evento) override;
     void mouseDoubleClickEvent(QMouseEvent* evento) override;
     void keyPressEvent(QKeyEvent* evento) override;
+    void leaveEvent(QEvent* evento) override;
     void timerEvent(QTimerEvent* evento) override;
 
 private:

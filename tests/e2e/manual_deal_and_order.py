@@ -30,6 +30,7 @@ class Dealer(TrickPlayer):
 
     def let_go(self, card, what):
         xdotool("mouseup", 1)
+        self.table.look_away()
         wait_for(lambda: self.in_spread(card, self.table.shot()), 20, what)
 
     def card_in_hand(self, card):
@@ -60,7 +61,7 @@ class PopUp:
     def is_marked(self):
         """Whether an X stands before the first entry."""
         wait_for(self.is_open, 20, "the pop-up")
-        picture = self.table.shot().crop(self.x + 6, self.y + 3, 14, 15)
+        picture = self.table.shot().crop(self.x + 18, self.y + 3, 14, 15)
         return any(max(picture.data[i:i + 3]) < 90 for i in range(0, len(picture.data), 3))
 
     def choose(self, entry, shot):
@@ -69,6 +70,7 @@ class PopUp:
         wait_for(lambda: self.is_lit(entry), 20, "the entry under the pointer lit")
         self.table.shot(shot)
         xdotool("click", 1)
+        self.table.look_away()
         wait_for(lambda: not self.is_open(), 20, "the pop-up to close")
 
     def is_lit(self, entry):
@@ -164,6 +166,7 @@ def move(table, player, hand, old, onto):
     wait_for(lambda: player.holds(card, 13, 18, end), 20, "the held card under the pointer")
     table.shot("moving")
     xdotool("mouseup", 1)
+    table.look_away()
     moved.insert(onto + 1 if onto < old else onto, card)
     player.wait_for_hand(moved, "the card in its new place")
     return moved

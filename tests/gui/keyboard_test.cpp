@@ -30,6 +30,15 @@ Qt::Key TeclaDe(const Evento& mando) {
     }
 }
 
+// A key that the table has not taken yet was pressed for what was to be seen then: nobody presses the next one.
+bool tecla_en_camino = false;
+
+void Atiende(const Evento& evento) {
+    if (evento.tipo == TipoEvento::Mando)
+        tecla_en_camino = false;
+    DespachaEvento(evento);
+}
+
 } // namespace
 
 class PruebaTeclado : public QObject, private prueba::VentanaViva {
@@ -47,6 +56,8 @@ class PruebaTeclado : public QObject, private prueba::VentanaViva {
     void TecleaLaPersona(prueba::PersonaConTeclas& persona) {
         if (QWidget* caja = QApplication::activeModalWidget())
             return QTest::keyClick(caja, Qt::Key_Return);
+        if (std::exchange(tecla_en_camino, true))
+            return;
         QTest::keyClick(Tapete(), TeclaDe(persona.SiguienteTecla()));
     }
     // Seat 4 chooses in Cinquillo; the first card may be laid.
@@ -116,6 +127,16 @@ private Q_SLOTS:
         QVERIFY(EnElBorde(cinco) != QColor(120, 255, 120));
     }
 
+    void FueraDeLaMesaNoQuedaContorno() {
+        Elige();
+        const Rectangulo cinco = CartaALaVista(4, 1, 3);
+        Mueve({cinco.x + 20, cinco.y + 60});
+        QCOMPARE(EnElBorde(cinco), QColor(120, 255, 120));
+        QEvent fuera(QEvent::Leave);
+        QApplication::sendEvent(Tapete(), &fuera);
+        QVERIFY(EnElBorde(cinco) != QColor(120, 255, 120));
+    }
+
     void UnaFlechaDevuelveElFocoALaMesaYTabLoLlevaALosBotones() {
         Elige();
         Teclea(Qt::Key_Right);
@@ -158,6 +179,8 @@ private Q_SLOTS:
     void UnaPartidaEnteraSinRatonNiLetras() {
         estado.LimitePartida = 1;
         prueba::PersonaConTeclas persona;
+        RegistraDespacho(Atiende);
+        tecla_en_camino = false;
         QTimer dedos;
         connect(&dedos, &QTimer::timeout, this, [&] { TecleaLaPersona(persona); });
         dedos.start(0);

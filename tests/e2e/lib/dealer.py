@@ -52,6 +52,7 @@ class Dealer(Player):
         (x, y), (end_x, end_y) = self.mini(card), self.seat_place(seat)
         xdotool("mousemove", x, y, "mousedown", 1, "mousemove", (x + end_x) // 2,
                 (y + end_y) // 2, "mousemove", end_x, end_y, "mouseup", 1)
+        self.table.look_away()
 
     def give(self, card, seat):
         self.drag(card, seat)

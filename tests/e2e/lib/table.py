@@ -194,6 +194,15 @@ class Table:
 
     def click(self, x, y):
         xdotool("mousemove", x, y, "click", 1)
+        self.look_away()
+
+    def look_away(self):
+        """The pointer leaves the cards: the one under it is framed. Where the table has gone it stays."""
+        try:
+            x, y, width, _ = self.place()
+        except Failure:
+            return
+        xdotool("mousemove", x + width - COLUMN - 6, y + 6)
 
     def press_main(self, button):
         x, y, width, _ = self.place()

@@ -1,6 +1,7 @@
 #include "betting/bet_state.h"
 #include "session/main_buttons.h"
 #include "table/button_column.h"
+#include "table/table_input.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -254,6 +255,19 @@ TEST_F(Botones, UnClicQueEmpezoEnTurnoAjenoNoJuegaPorLaPersona) {
     EXPECT_TRUE(estado.EsperandoJugada);
     DespachaEvento({.tipo = TipoEvento::Clic, .control = Control::Pic_BotContinuar, .desde = 1200});
     EXPECT_FALSE(estado.EsperandoJugada);
+}
+
+// Also when a turn begins while the pointer is on the column: it is not on the card on which it was seen last.
+TEST_F(Botones, SobreLaColumnaElPunteroYaNoEstaEnNingunaCarta) {
+    PonMano(4, {{kOros, 5}, {kCopas, 7}});
+    ManoEmpezada(4);
+    estado.EligeCarta = true;
+    const Punto carta = SobreCarta(4, 1);
+    Mueve(carta.x, carta.y);
+    ASSERT_NE(PunteroEnMesa(), Puntero::Flecha);
+    DespachaEvento({.tipo = TipoEvento::RatonMueve, .control = Control::Pic_Botonera});
+    RefrescaPuntero();
+    EXPECT_EQ(PunteroEnMesa(), Puntero::Flecha);
 }
 
 TEST_F(SalidaEnCualquierMomento, EnElSorteoQuedaUnaPartidaSinJuegos) {

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "games/cinquillo/cinquillo_choice.h"
+#include "table/frames.h"
 #include "table/waiting.h"
 #include "tests/support/live_table.h"
 
@@ -210,4 +211,14 @@ TEST_F(Menu, AlElegirElPunteroEsElDeLoQueHayDebajo) {
     Elige(kEntradaManual);
     EXPECT_TRUE(estado.ModoOrdenar);
     EXPECT_EQ(p.PunteroDe(Control::Mesa, 0), Puntero::Ordenar);
+}
+
+TEST_F(Menu, SobreElMenuNoSeContorneaNingunaCarta) {
+    estado.ModoOrdenar = true;
+    const Punto carta = SobreCarta(4, 1);
+    Mueve(carta.x, carta.y);
+    ASSERT_TRUE(HayMarco(Marco::DePuntero));
+    ClicDerecho(carta);
+    ASSERT_TRUE(ALaVista());
+    EXPECT_FALSE(HayMarco(Marco::DePuntero));
 }
