@@ -17,7 +17,7 @@ using testing::Not;
 namespace {
 
 struct PartidaDicha : MesaViva {
-    // One hand wins, who has no chips left loses soon. Seat 4's cards lie open, nobody else's do.
+    // One hand wins, who has no chips left loses soon. Seat 4's cards lie open, nobody else's do but in Black Jack.
     void JuegaEntera(Integer juego, Integer asientos) {
         Juega(juego);
         TodoSolo();
@@ -26,7 +26,7 @@ struct PartidaDicha : MesaViva {
         estado.RestoInicial = 20;
         estado.ApuestaSalida = 5;
         for (int asiento = 1; asiento <= 3; ++asiento)
-            estado.CartasJugador(asiento) = kDorso;
+            estado.CartasJugador(asiento) = juego == kBlackJack ? kDescubierta : kDorso;
         estado.CartasJugador(4) = kDescubierta;
         if (const Integer banca = JuegoEnMesa().asientos.banca; banca != 0)
             estado.JugadorBanca = banca;
@@ -63,8 +63,11 @@ private:
                 }
             }
         }
+        const std::size_t cambia = texto.find(" cambia el ");
         if (triunfo)
             triunfos_.push_back(texto.substr(9));
+        else if (cambia != std::string::npos)
+            triunfos_.push_back(texto.substr(cambia + 11, texto.find(" por ") - cambia - 11));
     }
     std::vector<std::string> triunfos_;
 };
