@@ -197,7 +197,9 @@ class Table:
         self.look_away()
 
     def look_away(self):
-        """The pointer leaves the cards: the one under it is framed. Where the table has gone it stays."""
+        """The pointer leaves the cards: the one under it is framed. Where there is no table, or it has gone, it stays."""
+        if self.window is None:
+            return
         try:
             x, y, width, _ = self.place()
         except Failure:
