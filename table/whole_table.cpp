@@ -115,7 +115,6 @@ void RedibujarMesa() {
     if (!plataforma().HayPantalla())
         return;
     LimpiaTapete();
-    PintaMesaVacia();
     RedibujaMazo();
     RedibujaSorteo();
     const FilaJuego* juego = FilaDe(estado.JuegoActivo);
@@ -123,6 +122,7 @@ void RedibujarMesa() {
         juego->pintura.centro();
     if (juego != nullptr && juego->dinero.reglas.bote && !estado.RepartoEnCurso)
         RedibujaBote(); // in a manual deal the spread lies in its place
+    PintaMesaVacia();   // the place of the pot, which is cleared, reaches into the emblem
     // What a finished match has left on the table stays there until the next one.
     const bool hay_asientos = estado.PartidaEnCurso || vista.nombres;
     for (int asiento = 1; asiento <= 4 && hay_asientos; ++asiento) {

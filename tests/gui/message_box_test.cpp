@@ -61,7 +61,7 @@ private Q_SLOTS:
         CajaQt uno(Caja(1), nullptr), dos(Caja(2), nullptr), tres(Caja(3), nullptr);
         QCOMPARE(Botones(uno), QStringList{"Pic_BotSalir=Aceptar"});
         QCOMPARE(Botones(dos), (QStringList{"Pic_Si=Si", "Pic_No=No"}));
-        QCOMPARE(Botones(tres), (QStringList{"Pic_BotAyuda=Ayuda", "Pic_BotSalir=Salir"}));
+        QCOMPARE(Botones(tres), (QStringList{"Pic_BotAyuda=Ayuda", "Pic_BotSalir=Cerrar"}));
         CajaMensaje aceptar = Caja(2);
         aceptar.aceptar = true;
         CajaQt cuatro(aceptar, nullptr);

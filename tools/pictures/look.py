@@ -16,16 +16,16 @@ from lib import screen  # noqa: E402
 from lib.table import Failure, Table, expect, wait_for, xdotool  # noqa: E402
 
 # The game's number, and how often the green button is pressed before the picture in the middle of the hand.
-GAMES = {"poker": ("01", 3), "blackjack": ("31", 3), "tute": ("51", 4), "brisca": ("58", 6),
+GAMES = {"poker": ("01", 0), "blackjack": ("31", 1), "tute": ("51", 4), "brisca": ("58", 6),
          "siete-y-media": ("65", 3), "cinquillo": ("70", 9)}
 # Their keys; the history is opened from the score.
 FORMS = {"normas": "F3", "personal": "F4", "estadis": "F5", "marcador": "F7", "ayuda": "F8"}
-FORMS_OF = {"poker": ("normas", "estadis"), "blackjack": ("estadis",), "tute": tuple(FORMS), "siete-y-media": ("estadis",),
-            "cinquillo": ("normas", "estadis")}
-# On the others one moment of each game is enough, and the forms of one game.
-WHOLE_SCREEN = "1280x800"
+FORMS_OF = {"poker": ("normas", "estadis"), "blackjack": ("estadis",), "tute": ("normas", "personal", "estadis", "ayuda"),
+            "siete-y-media": ("estadis",), "cinquillo": ("normas", "estadis")}
+# On the others one moment of each game is enough, and the forms of one game; on the largest one form.
+WHOLE_SCREEN, LARGE_SCREENS = "1280x800", ("2560x1440", "2560x1600@2")
 PRESS = "c"  # any character presses the green button, or begins a match
-COLOURS = 250
+COLOURS = 96
 
 
 class Look:
@@ -79,10 +79,11 @@ class Look:
         self.still()
 
     def deal(self):
+        """Up to the first thing that the player is asked; the draw for the first seat pauses on its way."""
         self.key(PRESS)
-        wait_for(self.title, 60, "the match to begin")
+        self.still(120, quiet=2.5)
         self.close_boxes()
-        self.still()
+        self.still(quiet=1.5)
 
     def play_on(self, presses):
         for _ in range(presses):
@@ -94,7 +95,17 @@ class Look:
     def finish_hand(self):
         wait_for(lambda: self.title() or self.play_on(1), 180, "the end of the hand", every=0)
 
+    def next_hand(self):
+        """The finished one enters the score with it."""
+        self.close_boxes()
+        self.still()
+        self.key(PRESS)
+        self.still(quiet=1.5)
+
     def form(self, name):
+        if self.title():
+            self.close_boxes()
+            self.still()
         self.key(FORMS[name])
         wait_for(self.title, 20, f"the form {name}")
         self.keep(name)
@@ -133,8 +144,15 @@ def settings(table, game):
         shutil.copy(history, table.folder)
 
 
-def pictures_of(table, folder, name, whole):
+def forms_of(name, place):
+    if place in LARGE_SCREENS:
+        return ("personal",) if name == "tute" else ()
+    return FORMS_OF.get(name, ()) if place == WHOLE_SCREEN or name == "tute" else ()
+
+
+def pictures_of(table, folder, name):
     game, presses = GAMES[name]
+    whole = folder.name == WHOLE_SCREEN
     settings(table, game)
     look = Look(table, folder, name)
     look.begin()
@@ -145,11 +163,14 @@ def pictures_of(table, folder, name, whole):
         look.keep("reparto")
     look.play_on(presses)
     look.keep("mano")
-    for form in FORMS_OF.get(name, ()) if whole or name == "tute" else ():
+    for form in forms_of(name, folder.name):
         look.form(form)
-    if whole:
+    if whole or "ayuda" in forms_of(name, folder.name):
         look.finish_hand()
         look.keep("final")
+    if "ayuda" in forms_of(name, folder.name):
+        look.next_hand()
+        look.form("marcador")
 
 
 def main():
@@ -159,7 +180,7 @@ def main():
     for name in wanted:
         table = Table("pictures", prepared=True)
         try:
-            pictures_of(table, folder, name, folder.name == WHOLE_SCREEN)
+            pictures_of(table, folder, name)
         except Failure as failure:
             screen.take().save(folder / f"{name}-failure.png")
             expect(False, f"{name}: {failure}")

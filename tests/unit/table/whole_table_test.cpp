@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "table/whole_table.h"
 #include "tests/support/live_table.h"
 
@@ -42,6 +44,21 @@ TEST_F(MesaViva, LaMesaVaciaDiceAQueSeJuegaYPorDondeSeEmpieza) {
     EXPECT_NE(todo.find("Velo("), std::string::npos);
     EXPECT_NE(todo.find("\"Cinquillo\""), std::string::npos);
     EXPECT_NE(todo.find("Para empezar"), std::string::npos);
+}
+
+// Its place lies in the middle, where the emblem and the name stand.
+TEST_F(MesaViva, ElBoteVacioNoBorraElNombreDeLaMesaVacia) {
+    p.UsaLienzosRegistrados();
+    estado.JuegoActivo = kPoker;
+    RedibujarMesa();
+    const std::vector<std::string> llamadas = p.Dibujado(Control::Mesa).Llamadas();
+    const auto nombre = std::ranges::find_if(llamadas, [](const std::string& llamada) {
+        return llamada.find("\"Póker\"") != std::string::npos;
+    });
+    ASSERT_NE(nombre, llamadas.end());
+    EXPECT_TRUE(std::none_of(nombre, llamadas.end(), [](const std::string& llamada) {
+        return llamada.starts_with("Fieltro(");
+    }));
 }
 
 TEST_F(MesaViva, ConPartidaLaMesaNoEstaVacia) {
