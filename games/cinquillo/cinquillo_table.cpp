@@ -75,7 +75,7 @@ void PintaRango(Lienzo& mesa, const Punto& carta, Integer palo, Integer valor) {
     constexpr std::array<Color, 5> kTintas{0, 0x064884, 0x2A20B3, 0x944A1D, 0x276028};
     constexpr Fuente kLetra{.alto = 10, .negrita = true, .tope = 13};
     mesa.Caja({carta.x + 5, carta.y + 4, 14, LaRejilla().fila - 4}, kPapel);
-    mesa.Texto(carta.x + 12, carta.y + 2, Numero(valor), kLetra,
+    mesa.Texto(carta.x + 12, carta.y + 3, Numero(valor), kLetra,
                kTintas.at(static_cast<std::size_t>(palo)), Alineacion::Centro);
 }
 
