@@ -71,10 +71,8 @@ endif()
 zovin_drawings(own_drawings cards/*.svg cards/spanish/*.svg cards/french/*.svg sheet/*.svg
   cursors/*.svg)
 function(zovin_add_assets target)
-  qt_add_resources(${target} arte PREFIX /arte BASE "${pictures}" FILES ${signatures} ${icons}
-    OPTIONS ${resources_without_dates})
-  qt_add_resources(${target} dibujos PREFIX /dibujos BASE "${drawings}" FILES ${own_drawings}
-    OPTIONS ${resources_without_dates})
+  qt_add_resources(${target} arte PREFIX /arte BASE "${pictures}" FILES ${signatures} ${icons})
+  qt_add_resources(${target} dibujos PREFIX /dibujos BASE "${drawings}" FILES ${own_drawings})
   add_dependencies(${target} zovin_assets)
 endfunction()
 

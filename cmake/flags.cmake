@@ -16,10 +16,12 @@ set(CMAKE_CXX_FLAGS_RELWITHDEBINFO "-Og -g1")
 
 add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror=unused-result)
 
-# What people play is the same to the bit wherever and whenever it is built.
+# What people play is the same to the bit wherever and whenever it is built: Qt's compiler of resources would write the
+# date of each file.
 add_compile_options("$<$<CONFIG:Release>:-ffile-prefix-map=${CMAKE_SOURCE_DIR}=.>"
   "$<$<CONFIG:Release>:-ffile-prefix-map=${CMAKE_BINARY_DIR}=build>")
-set(resources_without_dates --format-version 1)
+set_property(DIRECTORY PROPERTY RULE_LAUNCH_CUSTOM
+  "${CMAKE_COMMAND} -E env QT_RCC_SOURCE_DATE_OVERRIDE=1")
 
 # What ccache has to overlook so that a precompiled header does not put it out of work.
 find_program(ZOVIN_CCACHE ccache)

@@ -70,6 +70,5 @@ if(sound_plugin_sources)
   target_link_libraries(zovin_sound PRIVATE Qt6::Core Qt6::Multimedia)
   file(GLOB sounds CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/assets/sounds/*.wav")
   qt_add_resources(zovin_sound sonidos
-    PREFIX /sonidos BASE "${CMAKE_SOURCE_DIR}/assets/sounds" FILES ${sounds}
-    OPTIONS ${resources_without_dates})
+    PREFIX /sonidos BASE "${CMAKE_SOURCE_DIR}/assets/sounds" FILES ${sounds})
 endif()

@@ -25,7 +25,7 @@ FORMS_OF = {"poker": ("normas", "estadis"), "blackjack": ("estadis",), "tute": (
 # On the others one moment of each game is enough, and the forms of one game; on the largest one form.
 WHOLE_SCREEN, LARGE_SCREENS = "1280x800", ("2560x1440", "2560x1600@2")
 PRESS = "c"  # any character presses the green button, or begins a match
-COLOURS = 96
+COLOURS = 64
 
 
 class Look:
