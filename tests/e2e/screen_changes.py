@@ -42,8 +42,8 @@ def play(table):
     size = turn_to(START)
     table.begin_empty()
     whole(table, size)
-    # Maximized: as large as the screen has become. At 1.25 and 1.5 the buttons stand elsewhere, and are looked at by
-    # their place alone.
+    # Maximized: as large as the screen has become. None of these holds the table at more than its own size, where
+    # the buttons would stand elsewhere.
     for mode in ("1024x768", "800x600", "1280x800"):
         size = turn_to(mode)
         whole(table, size)

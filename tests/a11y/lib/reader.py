@@ -44,12 +44,6 @@ class Thing:
     def on_view(self):
         return self.states.contains(pyatspi.STATE_SHOWING)
 
-    def actions(self):
-        if "Action" not in pyatspi.listInterfaces(self.accessible):
-            return []
-        action = self.accessible.queryAction()
-        return [action.getName(at) for at in range(action.nActions)]
-
     def do(self, wanted):
         action = self.accessible.queryAction()
         for at in range(action.nActions):
@@ -63,12 +57,11 @@ class Thing:
 
 
 class Reader:
-    """Listens from its making on. heard holds all that was announced, boxes the words of every box, in their order."""
+    """Listens from its making on. heard holds all that was announced, in its order."""
 
     def __init__(self):
         switch_on()
         self.heard = []
-        self.read = 0  # how many of them were taken by wait_for_words
         self.program = self.table = None
         pyatspi.Registry.registerEventListener(self._on_showing, "object:state-changed:showing")
 
