@@ -1,5 +1,6 @@
 #include "games/common/card_turn.h"
 
+#include "core/session_state.h"
 #include "table/announcements.h"
 #include "table/button_column.h"
 #include "table/deck.h"
@@ -56,7 +57,8 @@ bool EsperaEleccion(Integer asiento, void (*elige)()) {
 void CierraEleccion() {
     estado.EligeCarta = false;
     DejaDeOrdenar();
-    RefrescaPuntero();
+    if (PartidaSigue()) // of a match that was left the pointer keeps its shape
+        RefrescaPuntero();
     HabilitaBoton(kBotonTutor, false);
 }
 
