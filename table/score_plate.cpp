@@ -5,6 +5,7 @@
 
 #include "betting/chips.h"
 #include "core/game_state.h"
+#include "core/session_state.h"
 #include "core/text.h"
 #include "table/chips.h"
 #include "table/controls.h"
@@ -32,8 +33,11 @@ bool SeVe() {
     return vista.nombres && estado.JuegosJugados > 0;
 }
 
+// A hand is counted when the player goes on from it; whoever bears the winner's mark has won it already.
 std::string Ganadas(Integer equipo) {
-    return Numero(estado.JuegosGanados(equipo)) + " de " + Numero(estado.LimitePartida);
+    const bool sin_contar = vista.ganador(equipo) && !sesion.mano_apuntada;
+    return Numero(estado.JuegosGanados(equipo) + (sin_contar ? 1 : 0)) + " de " +
+           Numero(estado.LimitePartida);
 }
 
 std::vector<Tanteo::Renglon> RenglonesDeParejas() {

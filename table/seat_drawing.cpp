@@ -355,6 +355,7 @@ void DejaMarcaGanador(int asiento) {
     if (!plataforma().HayPantalla())
         return;
     PintaGanador(asiento);
+    RefrescaTanteo();
     plataforma().Repinta();
 }
 

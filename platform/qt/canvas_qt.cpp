@@ -12,13 +12,14 @@ QString Qt8(std::string_view texto) {
     return QString::fromUtf8(texto.data(), static_cast<qsizetype>(texto.size()));
 }
 
-// The light falls from above: the felt is darker towards the foot of the canvas. A row has one shade along all of its
-// length, so that a part that is cleared is the same to the pixel as when all of it is painted.
+// The light falls from above: the felt is darker the lower it lies, down to a depth from which on it stays as it is. A
+// row has one shade along all of its length and at any height of the table, so that a part that is cleared is the same
+// to the pixel as when all of it is painted, and what a new size leaves of the old picture fits to the rest.
 void PintaFieltro(QPainter& p, const QRect& sitio, const Imagenes& imagenes) {
-    constexpr int kSombraAlPie = 72;
-    QLinearGradient sombra(0, 0, 0, p.device()->height());
+    constexpr int kFondoDeLaLuz = 960, kSombraAlFondo = 72; // table pixels, and of 255
+    QLinearGradient sombra(0, 0, 0, kFondoDeLaLuz * imagenes.Ratio());
     sombra.setColorAt(0, QColor(0, 0, 0, 0));
-    sombra.setColorAt(1, QColor(0, 0, 0, kSombraAlPie));
+    sombra.setColorAt(1, QColor(0, 0, 0, kSombraAlFondo));
     p.fillRect(sitio, QBrush(imagenes.Fieltro()));
     p.fillRect(sitio, sombra);
 }

@@ -14,6 +14,7 @@
 #include <optional>
 
 #include "platform/qt/scale.h"
+#include "platform/qt/suite_paint.h"
 
 namespace {
 
@@ -189,12 +190,7 @@ void VentanaPrincipal::keyPressEvent(QKeyEvent* evento) {
         al_pedir_factor(*sentido);
 }
 
-// A click beside an open box must not take the keyboard away from the box.
 void VentanaPrincipal::changeEvent(QEvent* evento) {
     QScrollArea::changeEvent(evento);
-    QWidget* caja = QApplication::activeModalWidget();
-    if (evento->type() == QEvent::ActivationChange && isActiveWindow() && caja != nullptr) {
-        caja->raise();
-        caja->activateWindow();
-    }
+    DejaElTecladoALaCaja(*this, *evento);
 }

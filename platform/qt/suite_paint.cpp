@@ -1,5 +1,6 @@
 #include "platform/qt/suite_paint.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLayout>
@@ -242,6 +243,15 @@ DialogoSuite::DialogoSuite(const QString& titulo, QWidget* padre)
     setWindowModality(padre != nullptr ? Qt::WindowModal : Qt::ApplicationModal);
 }
 
+void DejaElTecladoALaCaja(const QWidget& ventana, const QEvent& evento) {
+    QWidget* caja = QApplication::activeModalWidget();
+    if (evento.type() != QEvent::ActivationChange || !ventana.isActiveWindow() || caja == nullptr ||
+        caja == &ventana)
+        return;
+    caja->raise();
+    caja->activateWindow();
+}
+
 void DialogoSuite::CreceConLaMesa() {
     const QSize libre = screen()->availableGeometry().size();
     const double cabe = std::min(1.0 * libre.width() / width(), 1.0 * libre.height() / height());
@@ -264,6 +274,11 @@ void DialogoSuite::CentraEn(const QRect& donde) {
     sitio.moveLeft(std::max(sitio.left(), donde.left()));
     sitio.moveTop(std::max(sitio.top(), donde.top()));
     move(sitio.topLeft());
+}
+
+void DialogoSuite::changeEvent(QEvent* evento) {
+    QDialog::changeEvent(evento);
+    DejaElTecladoALaCaja(*this, *evento);
 }
 
 void DialogoSuite::paintEvent(QPaintEvent*) {

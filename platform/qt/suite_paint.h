@@ -52,6 +52,9 @@ protected:
     void keyPressEvent(QKeyEvent* evento) override;
 };
 
+// For changeEvent: a click on a window beside or behind an open box must not take the keyboard away from the box.
+void DejaElTecladoALaCaja(const QWidget& ventana, const QEvent& evento);
+
 // A dialog without the desktop's frame; its title band moves it. Where the screen is too small for it, the
 // control that Tab comes to is brought into sight.
 class DialogoSuite : public QDialog {
@@ -66,6 +69,7 @@ public:
     void CentraEn(const QRect& donde);
 
 protected:
+    void changeEvent(QEvent* evento) override;
     void paintEvent(QPaintEvent* evento) override;
     void mousePressEvent(QMouseEvent* evento) override;
     bool focusNextPrevChild(bool siguiente) override;

@@ -294,6 +294,30 @@ private Q_SLOTS:
         QVERIFY(en_la_pausa);
     }
 
+    void AQuestionKeepsTheKeyboardWhenTheFormBehindItIsClicked() {
+        QTemporaryDir carpeta;
+        PlataformaQt escritorio(carpeta.path());
+        UsaPlataforma(escritorio);
+        escritorio.PonForma(Forma::Personal, AbreVistaPersonal);
+        estado.SonidoActivo = false;
+        bool la_tiene = false;
+        QTimer::singleShot(0, &escritorio, [&] {
+            Abierta forma(*qobject_cast<QDialog*>(QApplication::activeModalWidget()));
+            QTimer::singleShot(100, &escritorio, [&] {
+                QWidget* caja = QApplication::activeModalWidget();
+                QVERIFY(caja != &forma.dialogo);
+                QTRY_COMPARE(QApplication::activeWindow(), caja);
+                forma.dialogo.activateWindow();
+                la_tiene = QTest::qWaitFor([&] { return QApplication::activeWindow() == caja; });
+                escritorio.PideTermina();
+            });
+            forma.Pulsa(kSelEstado + 1);
+            forma.Pulsa(kSelCartas + 4);
+        });
+        escritorio.Abre(Forma::Personal);
+        QVERIFY(la_tiene);
+    }
+
     void TheEndOfTheDesktopTakesAFormAndItsQuestionAway() {
         QTemporaryDir carpeta;
         PlataformaQt escritorio(carpeta.path());

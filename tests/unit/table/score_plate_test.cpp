@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "betting/chips.h"
+#include "core/session_state.h"
 #include "games/common/trick_state.h"
 #include "games/game_rows.h"
 #include "platform/headless/headless_platform.h"
@@ -170,6 +171,22 @@ TEST_F(PlacaDeLaPartida, UnaManoGanadaSeVeEnElla) {
     p.siempre_continua = true;
     NuevaPartida();
     EXPECT_THAT(p.Tablero().NombreDe({Control::Pic_Tanteo, 0}), HasSubstr("1 de 1"));
+}
+
+TEST_F(PlacaDeLaPartida, QuienLlevaLaMarcaLaTieneYaGanadaAntesDeQueSeApunte) {
+    const auto dicho = [&] { return p.Tablero().NombreDe({Control::Pic_Tanteo, 0}); };
+    Empieza(kTute);
+    estado.JuegosGanados(2) = 1;
+    sesion.mano_apuntada = false;
+    PintaTanteo();
+    EXPECT_THAT(dicho(), HasSubstr("Luis: 1 de 5"));
+    DejaMarcaGanador(2);
+    EXPECT_THAT(dicho(), HasSubstr("Luis: 2 de 5"));
+    EXPECT_THAT(dicho(), HasSubstr("Eva: 0 de 5"));
+    estado.JuegosGanados(2) = 2; // the player goes on
+    sesion.mano_apuntada = true;
+    PintaTanteo();
+    EXPECT_THAT(dicho(), HasSubstr("Luis: 2 de 5"));
 }
 
 // In every game, with the buttons of every seat on view, at every size.
