@@ -16,18 +16,29 @@ void SinPantalla(QtMsgType tipo, const QMessageLogContext&, const QString&) {
     std::_Exit(1);
 }
 
-// Below its own size Qt lays a window out smaller and paints it no smaller: half of it would be cut off. The scales of a
-// desktop come alone or by screens, "2" or "uno=1.5;dos=2".
+bool Encoge(const QString& escala) {
+    bool es_numero = false;
+    const double valor = escala.toDouble(&es_numero);
+    return es_numero && valor < 1;
+}
+
+// Below its own size Qt lays a window out smaller and paints it no smaller: half of it would be cut off.
 void NoEncoge(const char* variable) {
-    for (const QString& escala : qEnvironmentVariable(variable).split(u';')) {
-        bool es_numero = false;
-        const double valor = escala.section(u'=', -1).toDouble(&es_numero);
-        if (es_numero && valor < 1)
-            qunsetenv(variable);
-    }
+    if (qEnvironmentVariableIsSet(variable))
+        qputenv(variable, SinEncoger(qEnvironmentVariable(variable)).toLocal8Bit());
 }
 
 } // namespace
+
+QString SinEncoger(const QString& escalas) {
+    QStringList todas = escalas.split(u';');
+    for (QString& una : todas) {
+        const qsizetype tras_el_nombre = una.lastIndexOf(u'=') + 1;
+        if (Encoge(una.sliced(tras_el_nombre)))
+            una = una.first(tras_el_nombre) + u'1';
+    }
+    return todas.join(u';');
+}
 
 std::unique_ptr<QApplication> AbrePantalla(int& argc, char** argv) {
     for (const char* variable : {"QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS"})

@@ -15,6 +15,7 @@
 #include "forms/normas_view.h"
 #include "forms/personal_view.h"
 #include "platform/qt/message_box.h"
+#include "platform/qt/open_screen.h"
 #include "platform/qt/picture_platform.h"
 #include "platform/qt/scale.h"
 #include "table/button_column.h"
@@ -78,6 +79,35 @@ class PruebaFactor : public QObject {
 
 private Q_SLOTS:
     void initTestCase() { QVERIFY(viva_.PonFicheros()); }
+
+    // The scales that the desktop asks for: each that is below 1 is raised, the others stay.
+    void LaEscalaDelEscritorioNoBajaDeUno_data() {
+        QTest::addColumn<QString>("pedida");
+        QTest::addColumn<QString>("queda");
+        QTest::newRow("ninguna") << ""
+                                 << "";
+        QTest::newRow("dos") << "2"
+                             << "2";
+        QTest::newRow("media") << "0.5"
+                               << "1";
+        QTest::newRow("nada") << "0"
+                              << "1";
+        QTest::newRow("negativa") << "-2"
+                                  << "1";
+        QTest::newRow("una de dos") << "uno=0.75;dos=1.5"
+                                    << "uno=1;dos=1.5";
+        QTest::newRow("la última") << "uno=2;dos=0.5"
+                                   << "uno=2;dos=1";
+        QTest::newRow("sin nombres") << "1.25;0.8;2"
+                                     << "1.25;1;2";
+        QTest::newRow("no es un número") << "uno=grande;dos=0.5"
+                                         << "uno=grande;dos=1";
+    }
+    void LaEscalaDelEscritorioNoBajaDeUno() {
+        QFETCH(QString, pedida);
+        QFETCH(QString, queda);
+        QCOMPARE(SinEncoger(pedida), queda);
+    }
 
     void init() {
         QDir(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation))
