@@ -14,7 +14,7 @@ namespace {
 
 constexpr int kAltoEntrada = 18, kMargen = 4;
 constexpr int kAncho = 256; // the longer entry, in whatever letters the desktop has
-// The box opens with its corner under the pointer: its words stand clear of that.
+// The box opens with a corner under the pointer: its words stand clear of that.
 constexpr int kMarcaX = 20, kTextoX = 36;
 constexpr int kEntradaManual = 4, kEntradaSola = 5;
 
@@ -38,6 +38,12 @@ void PintaEntrada(Lienzo& lienzo, int n) {
         lienzo.Texto(kMarcaX, y + 2, "X", {.alto = 12, .negrita = true}, tinta,
                      Alineacion::Izquierda);
     lienzo.Texto(kTextoX, y + 2, TextoDeOpcion(n), {.alto = 12}, tinta, Alineacion::Izquierda);
+}
+
+// Where there is no room for it at the right of the click it opens at the left: moved back by no more than it must be, it
+// would have the pointer on its words.
+int IzquierdaDelMenu(int click) {
+    return std::max(click + kAncho <= estado.AnchoMesa ? click : click - kAncho, 0);
 }
 
 void ResaltaOpcion(int n) {
@@ -85,7 +91,7 @@ void MuestraOpciones() {
         return;
     const int alto = estado.NumOpciones * kAltoEntrada + kMargen;
     estado.OpcionResaltada = 0;
-    vista.menu_x = std::clamp<int>(estado.RatonX, 0, estado.AnchoMesa - kAncho);
+    vista.menu_x = IzquierdaDelMenu(estado.RatonX);
     vista.menu_y = std::clamp<int>(estado.RatonY, 0, estado.AltoMesa - alto);
     plataforma().Coloca(Control::Pic_SelOpciones, 0, {vista.menu_x, vista.menu_y, kAncho, alto});
     plataforma().Nombra(Control::Pic_SelOpciones, 0, "Ordenar cartas");

@@ -7,7 +7,8 @@
 
 // Which entries are on show: Opciones(4), Opciones(5); all others off. Writes NumOpciones.
 void PonOpciones(bool ordenar);
-// Draws and shows the pop-up at the last press, moved back to stay on the table; nothing without entries.
+// Draws and shows the pop-up at the last press, to the right of it or else to the left, and moved up to stay on the table;
+// nothing without entries.
 void MuestraOpciones();
 // Line n (1..NumOpciones) of the open pop-up: its words, its box from the pop-up's corner, and whether it carries a mark.
 std::string TextoDeOpcion(int n);

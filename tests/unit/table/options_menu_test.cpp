@@ -204,6 +204,20 @@ TEST_F(Menu, ElPunteroNoTapaSusPalabras) {
     EXPECT_EQ(palabras, 3);
 }
 
+// At the right edge the box has no room beside the click: all of it stands at the other side.
+TEST_F(Menu, EnElAsientoDeLaDerechaElPunteroTampocoLasTapa) {
+    estado.CartasJugador(3) = kVisibles;
+    PonMano(3, {{kEspadas, 12}, {kOros, 1}, {kCopas, 4}});
+    ColocarCarta(3, 2, 3);
+    const Punto carta{estado.CartaX + 30, estado.CartaY + 10};
+    ClicDerecho(carta);
+    ASSERT_TRUE(ALaVista());
+    EXPECT_EQ(Caja().x + Caja().ancho, carta.x);
+    EXPECT_GE(Caja().x, 0);
+    Elige(kEntradaSola);
+    EXPECT_EQ(ManoDe(3).front(), (Carta{kOros, 1}));
+}
+
 // The pointer lies where the line was that has been chosen.
 TEST_F(Menu, AlElegirElPunteroEsElDeLoQueHayDebajo) {
     ClicDerecho({240, 480});
