@@ -1,7 +1,6 @@
 #include "table/score_plate.h"
 
 #include <algorithm>
-#include <array>
 
 #include "betting/chips.h"
 #include "core/game_state.h"
@@ -19,10 +18,11 @@ namespace {
 constexpr int kAncho = 144;
 constexpr int kAlBorde = 4;
 constexpr int kMargen = 6;
-constexpr int kAltoCabeza = 18, kAltoTriunfo = 25, kAltoRenglon = 15;
+constexpr int kAltoCabeza = 18, kAltoTriunfo = 25, kAltoLinea = 15, kAlPie = 3;
 constexpr Fuente kLetraCabeza{.alto = 12, .negrita = true, .tope = kAncho - 2 * kMargen};
 constexpr Fuente kLetraTriunfo{.alto = 13, .negrita = true, .tope = kAncho - 2 * kMargen - 28};
 constexpr Fuente kLetraQuien{.alto = 12, .tope = 80};
+constexpr Fuente kLetraPrimero{.alto = 12, .tope = kAncho - 2 * kMargen};
 constexpr Fuente kLetraCuanto{.alto = 12, .negrita = true, .tope = 48};
 
 bool HayDinero() {
@@ -40,12 +40,19 @@ std::string Ganadas(Integer equipo) {
            Numero(estado.LimitePartida);
 }
 
+// A seat may be called "Banca": that says it already.
+std::string NombreConBanca(Integer asiento) {
+    const std::string& nombre = estado.NombreJugador(asiento);
+    const bool falta = estado.JuegoConBanca && asiento == estado.JugadorBanca && nombre != "Banca";
+    return falta ? nombre + " (banca)" : nombre;
+}
+
 std::vector<Tanteo::Renglon> RenglonesDeParejas() {
     std::vector<Tanteo::Renglon> renglones;
     for (Integer pareja = 1; pareja <= 2; ++pareja) {
-        renglones.push_back(
-            {estado.NombreJugador(pareja) + " y " + estado.NombreJugador(pareja + 2),
-             Ganadas(pareja)});
+        renglones.push_back({.quien = estado.NombreJugador(pareja),
+                             .con_quien = estado.NombreJugador(pareja + 2),
+                             .cuanto = Ganadas(pareja)});
     }
     return renglones;
 }
@@ -55,9 +62,10 @@ std::vector<Tanteo::Renglon> RenglonesDeAsientos() {
     for (Integer asiento = 1; asiento <= 4; ++asiento) {
         if (estado.EstadoJugador(asiento) != kActivado)
             continue;
-        const bool banca = estado.JuegoConBanca && asiento == estado.JugadorBanca;
-        renglones.push_back({estado.NombreJugador(asiento) + (banca ? " (banca)" : ""),
-                             HayDinero() ? Formato(RestoDe(asiento), "#,##0") : Ganadas(asiento)});
+        renglones.push_back(
+            {.quien = NombreConBanca(asiento),
+             .con_quien = "",
+             .cuanto = HayDinero() ? Formato(RestoDe(asiento), "#,##0") : Ganadas(asiento)});
     }
     return renglones;
 }
@@ -82,8 +90,20 @@ std::vector<Rectangulo> LoOcupado() {
     return ocupado;
 }
 
-int AltoDelTanteo(int renglones, bool con_triunfo) {
-    return kAltoCabeza + (con_triunfo ? kAltoTriunfo : 0) + renglones * kAltoRenglon + 3;
+int AltoDelTanteo(int lineas, bool con_triunfo) {
+    return kAltoCabeza + (con_triunfo ? kAltoTriunfo : 0) + lineas * kAltoLinea + kAlPie;
+}
+
+// Each of a pair has a line of its own: both names on one would be squeezed beyond reading.
+int LineasDe(const Tanteo::Renglon& renglon) {
+    return renglon.con_quien.empty() ? 1 : 2;
+}
+
+int LineasDe(const Tanteo& tanteo) {
+    int lineas = 0;
+    for (const Tanteo::Renglon& renglon : tanteo.renglones)
+        lineas += LineasDe(renglon);
+    return lineas;
 }
 
 void PintaCabeza(Lienzo& placa, const Tanteo& tanteo) {
@@ -95,18 +115,31 @@ void PintaCabeza(Lienzo& placa, const Tanteo& tanteo) {
                 kLetraTriunfo, color::kBlanco, Alineacion::Izquierda);
 }
 
+// What it has stands on the last of its lines.
+void PintaRenglon(Lienzo& placa, int y, const Tanteo::Renglon& renglon) {
+    const auto escribe = [&](const std::string& quien, const Fuente& letra) {
+        placa.Texto(kMargen, y, quien, letra, color::kMarfil, Alineacion::Izquierda);
+    };
+    const bool pareja = !renglon.con_quien.empty();
+    if (pareja) {
+        escribe(renglon.quien + " y", kLetraPrimero);
+        y += kAltoLinea;
+    }
+    escribe(pareja ? renglon.con_quien : renglon.quien, kLetraQuien);
+    placa.Texto(kAncho - kMargen, y, renglon.cuanto, kLetraCuanto, color::kMarfil,
+                Alineacion::Derecha);
+}
+
 void PintaPlaca(const Tanteo& tanteo, const Rectangulo& donde) {
     Lienzo& placa = plataforma().LienzoDe(Control::Pic_Tanteo, 0);
     const Rectangulo todo{0, 0, donde.ancho, donde.alto};
     placa.Caja(todo, color::kPlaca);
     placa.Borde(todo, color::kBordePanelClaro, 1);
     PintaCabeza(placa, tanteo);
-    int y = donde.alto - 3 - static_cast<int>(tanteo.renglones.size()) * kAltoRenglon;
+    int y = donde.alto - kAlPie - LineasDe(tanteo) * kAltoLinea;
     for (const Tanteo::Renglon& renglon : tanteo.renglones) {
-        placa.Texto(kMargen, y, renglon.quien, kLetraQuien, color::kMarfil, Alineacion::Izquierda);
-        placa.Texto(kAncho - kMargen, y, renglon.cuanto, kLetraCuanto, color::kMarfil,
-                    Alineacion::Derecha);
-        y += kAltoRenglon;
+        PintaRenglon(placa, y, renglon);
+        y += LineasDe(renglon) * kAltoLinea;
     }
 }
 
@@ -125,26 +158,20 @@ std::string TextoDelTanteo() {
     if (tanteo.triunfo.palo != kSinCarta)
         texto += std::string(". Triunfo: ") + tanteo.triunfo.nombre;
     for (const Tanteo::Renglon& renglon : tanteo.renglones)
-        texto += ". " + renglon.quien + ": " + renglon.cuanto;
+        texto += ". " + renglon.quien +
+                 (renglon.con_quien.empty() ? "" : " y " + renglon.con_quien) + ": " +
+                 renglon.cuanto;
     return texto;
 }
 
-Rectangulo LugarDelTanteo(int renglones, bool con_triunfo) {
-    const int alto = AltoDelTanteo(renglones, con_triunfo);
-    const int derecha = estado.AnchoMesa - kAncho - kAlBorde;
-    const int sobre_los_consejos = LugarDeLaSugerencia().y - kAlBorde - alto;
-    const std::array sitios{
-        Rectangulo{kAlBorde, kAlBorde, kAncho, alto},
-        Rectangulo{kAlBorde, sobre_los_consejos, kAncho, alto},
-        Rectangulo{derecha, kAlBorde, kAncho, alto},
-        Rectangulo{derecha, estado.AltoMesa - kAlBorde - alto, kAncho, alto},
-    };
-    const std::vector<Rectangulo> ocupado = LoOcupado();
-    const auto libre = std::ranges::find_if(sitios, [&](const Rectangulo& sitio) {
-        return std::ranges::none_of(ocupado,
-                                    [&](const Rectangulo& r) { return SeCortan(sitio, r); });
-    });
-    return libre == sitios.end() ? sitios.front() : *libre;
+Rectangulo LugarDelTanteo(int lineas, bool con_triunfo) {
+    const int alto = AltoDelTanteo(lineas, con_triunfo);
+    const Rectangulo en_la_esquina{kAlBorde, kAlBorde, kAncho, alto};
+    const Rectangulo sobre_los_consejos{kAlBorde, LugarDeLaSugerencia().y - kAlBorde - alto, kAncho,
+                                        alto};
+    const bool libre = std::ranges::none_of(
+        LoOcupado(), [&](const Rectangulo& r) { return SeCortan(en_la_esquina, r); });
+    return libre ? en_la_esquina : sobre_los_consejos;
 }
 
 void PintaTanteo() {
@@ -155,8 +182,8 @@ void PintaTanteo() {
     }
     const Tanteo tanteo = ElTanteo();
     // Room is kept for the trump before it is turned, so that the plate does not grow in the middle of the deal.
-    const Rectangulo donde = LugarDelTanteo(static_cast<int>(tanteo.renglones.size()),
-                                            JuegoEnMesa().pintura.triunfo != nullptr);
+    const Rectangulo donde =
+        LugarDelTanteo(LineasDe(tanteo), JuegoEnMesa().pintura.triunfo != nullptr);
     vista.tanteo = TextoDelTanteo();
     p.Coloca(Control::Pic_Tanteo, 0, donde);
     p.Nombra(Control::Pic_Tanteo, 0, vista.tanteo);

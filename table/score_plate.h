@@ -11,8 +11,9 @@
 // What the plate says.
 struct Tanteo {
     struct Renglon {
-        std::string quien;  // "Ana", "Ana y Eva"
-        std::string cuanto; // "2 de 5"; in the games with money the points in chips
+        std::string quien;     // "Ana"; who holds the bank as "Ana (banca)"
+        std::string con_quien; // the other one of a pair, empty for a seat alone
+        std::string cuanto;    // "2 de 5"; in the games with money the points in chips
     };
     std::string mano; // "Mano 3"
     Triunfo triunfo;  // palo 0 for none
@@ -24,9 +25,9 @@ Tanteo ElTanteo();
 // The same as a sentence.
 std::string TextoDelTanteo();
 
-// Where the plate of so many lines below its head stands: in the first corner of the table, from the upper left one,
-// that neither a zone, nor chips, nor bet board, nor tips, nor the pile ever reach.
-Rectangulo LugarDelTanteo(int renglones, bool con_triunfo);
+// Where the plate of so many lines below its head stands: in the upper left corner of the table, unless a zone, chips, bet
+// board, tips or the pile ever reach there, and else above the tips.
+Rectangulo LugarDelTanteo(int lineas, bool con_triunfo);
 
 // Painted anew, and shown from the first hand of a match on; hidden before. Draws only.
 void PintaTanteo();

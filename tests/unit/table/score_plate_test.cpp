@@ -53,6 +53,14 @@ struct PlacaDeLaPartida : MesaViva {
         }
         return palabras;
     }
+    // The top of the line where these words were first drawn.
+    int AlturaDe(const std::string& palabras) {
+        for (const std::string& llamada : p.Dibujado(Control::Pic_Tanteo).Llamadas()) {
+            if (llamada.find('"' + palabras + '"') != std::string::npos)
+                return std::stoi(llamada.substr(llamada.find(',') + 1));
+        }
+        return -1;
+    }
     Rectangulo Lugar() { return p.Tablero().LugarDe({Control::Pic_Tanteo, 0}); }
     bool SeVe() { return p.EstaVisible(Control::Pic_Tanteo, 0); }
 };
@@ -101,12 +109,28 @@ TEST_F(PlacaDeLaPartida, AntesDeDescubrirElTriunfoNoDiceNinguno) {
     EXPECT_THAT(Palabras(), testing::Contains("Triunfo: Bastos"));
 }
 
-TEST_F(PlacaDeLaPartida, PorParejasVanDosRenglones) {
+TEST_F(PlacaDeLaPartida, PorParejasSeCuentaElDeLaPareja) {
     estado.ModalidadJuego = kDosParejas;
     Empieza(kTute);
     estado.JuegosGanados(1) = 4;
     PintaTanteo();
-    EXPECT_THAT(Palabras(), ElementsAre("Mano 3", "Ana y Eva", "4 de 5", "Luis y Juan", "0 de 5"));
+    EXPECT_THAT(Palabras(),
+                ElementsAre("Mano 3", "Ana y", "Eva", "4 de 5", "Luis y", "Juan", "0 de 5"));
+    EXPECT_EQ(TextoDelTanteo(), "Mano 3. Ana y Eva: 4 de 5. Luis y Juan: 0 de 5");
+}
+
+// A line for each name, as high as with four seats: what the pair has won stands in the line of the second.
+TEST_F(PlacaDeLaPartida, LosNombresDeUnaParejaVanUnoBajoOtro) {
+    Empieza(kBrisca);
+    PintaTanteo();
+    const Rectangulo sueltos = Lugar();
+    estado.ModalidadJuego = kDosParejas;
+    p.Dibujado(Control::Pic_Tanteo).Olvida();
+    PintaTanteo();
+    EXPECT_EQ(Lugar(), sueltos);
+    EXPECT_EQ(AlturaDe("Eva"), AlturaDe("Ana y") + 15);
+    EXPECT_EQ(AlturaDe("Luis y"), AlturaDe("Eva") + 15);
+    EXPECT_EQ(AlturaDe("0 de 5"), AlturaDe("Eva"));
 }
 
 TEST_F(PlacaDeLaPartida, QuienNoJuegaNoEsta) {
@@ -137,6 +161,15 @@ TEST_F(PlacaDeLaPartida, ConBancaDiceQuienLaTiene) {
     PintaTanteo();
     EXPECT_THAT(Palabras(), testing::Contains("Eva (banca)"));
     EXPECT_THAT(Palabras(), testing::Contains("Ana"));
+}
+
+TEST_F(PlacaDeLaPartida, LaBancaQueSeLlamaAsiNoLoDiceDosVeces) {
+    Empieza(kBlackJack);
+    estado.NombreJugador(2) = "Banca";
+    estado.JugadorBanca = 2;
+    PintaTanteo();
+    EXPECT_THAT(Palabras(), testing::Contains("Banca"));
+    EXPECT_THAT(Palabras(), testing::Not(testing::Contains(HasSubstr("(banca)"))));
 }
 
 TEST_F(PlacaDeLaPartida, SigueALasFichasQueSeMueven) {
@@ -189,80 +222,113 @@ TEST_F(PlacaDeLaPartida, QuienLlevaLaMarcaLaTieneYaGanadaAntesDeQueSeApunte) {
     EXPECT_THAT(dicho(), HasSubstr("Luis: 2 de 5"));
 }
 
-// In every game, with the buttons of every seat on view, at every size.
-TEST_F(PlacaDeLaPartida, NoTapaNadaANingunTamano) {
-    for (const Integer juego : {kPoker, kBlackJack, kTute, kBrisca, kSieteYMedia, kCinquillo}) {
-        Empieza(juego);
-        for (const Tamano& tamano : kTamanos) {
-            SCOPED_TRACE(testing::Message()
-                         << juego << " a " << tamano.ancho << 'x' << tamano.alto);
-            p.Mide(tamano.ancho, tamano.alto);
-            CalcularMesa();
-            vista.nombres = true;
-            PintaTanteo();
-            const Rectangulo placa = Lugar();
-            EXPECT_GE(placa.x, 0);
-            EXPECT_GE(placa.y, 0);
-            EXPECT_LE(placa.x + placa.ancho, estado.AnchoMesa);
-            EXPECT_LE(placa.y + placa.alto, estado.AltoMesa);
-            const auto no_corta = [&](const Rectangulo& otro, const char* que) {
-                EXPECT_FALSE(SeCortan(placa, otro)) << que << ' ' << otro.x << ',' << otro.y;
-            };
-            const auto no_tapa = [&](Control control, int indice) {
-                no_corta(p.Tablero().LugarDe({control, indice}), NombreDe(control));
-            };
-            for (int asiento = 1; asiento <= 4; ++asiento)
-                no_corta(ZonaConRealce(asiento), "zona");
-            estado.VentanaInfo = 1;
-            MostrarSugerencia(15);
-            no_tapa(Control::Pic_Sugerencia, 0);
-            const Punto mazo{estado.MazoX, estado.MazoY};
-            no_corta({mazo.x - 18, mazo.y, 133, 155}, "mazo");
-            for (int asiento = 1; asiento <= 4; ++asiento) {
-                const Punto centro = LugarCentro(asiento);
-                no_corta({centro.x, centro.y, kAltoCarta, kAltoCarta}, "baza");
-                for (int indice = 1; indice <= 2; ++indice) {
-                    BotonSuperior(asiento, 1, indice);
-                    no_tapa(Control::Pic_BotSuperior, indice);
-                    BotonLateral(asiento, 1, indice);
-                    no_tapa(Control::Pic_BotLateral, indice);
-                }
-                BotonDobSeg(asiento, 1, "D o b l a r");
-                no_tapa(Control::Pic_BotDobSeg, 0);
-            }
-            if (!JuegoEnMesa().dinero.hay)
-                continue;
-            estado.JugadorActual = 4;
-            MuestraApostadora();
-            no_tapa(Control::Pic_Apostadora, 0);
-            for (int asiento = 1; asiento <= 4; ++asiento) {
-                for (int ficha = 1; ficha <= 6; ++ficha) {
-                    for (const int area :
-                         {kAreaRestos + asiento - 1, kAreaApuestas + asiento - 1, kAreaBote}) {
-                        no_corta({estado.PosFichaX(area, ficha),
-                                  estado.PosFichaY(area, ficha) - kCreceFicha, kLadoFicha,
-                                  kLadoFicha + kCreceFicha},
-                                 "fichas");
-                    }
-                }
+namespace {
+
+struct PlacaATodosLosTamanos : PlacaDeLaPartida {
+    // In every game, by seats and by pairs, at every size.
+    template <class Mira>
+    void Siempre(Mira mira) {
+        for (const Integer juego : {kPoker, kBlackJack, kTute, kBrisca, kSieteYMedia, kCinquillo}) {
+            for (const Integer modalidad : {kIndividual, kDosParejas}) {
+                estado.ModalidadJuego = modalidad;
+                Empieza(juego);
+                ACadaTamano(mira);
             }
         }
     }
+    void NoCorta(const Rectangulo& otro, const char* que) {
+        EXPECT_FALSE(SeCortan(Lugar(), otro)) << que << ' ' << otro.x << ',' << otro.y;
+    }
+    void NoTapa(Control control, int indice) {
+        NoCorta(p.Tablero().LugarDe({control, indice}), NombreDe(control));
+    }
+    void NoTapaLasFichas(int area) {
+        for (int ficha = 1; ficha <= 6; ++ficha) {
+            NoCorta({estado.PosFichaX(area, ficha), estado.PosFichaY(area, ficha) - kCreceFicha,
+                     kLadoFicha, kLadoFicha + kCreceFicha},
+                    "fichas");
+        }
+    }
+
+private:
+    template <class Mira>
+    void ACadaTamano(Mira mira) {
+        for (const Tamano& tamano : kTamanos) {
+            SCOPED_TRACE(testing::Message()
+                         << estado.JuegoActivo << " a " << tamano.ancho << 'x' << tamano.alto);
+            p.Mide(tamano.ancho, tamano.alto);
+            CalcularMesa();
+            PintaTanteo();
+            mira();
+        }
+    }
+};
+
+} // namespace
+
+TEST_F(PlacaATodosLosTamanos, EstaEnteraEnLaMesa) {
+    Siempre([this] {
+        EXPECT_GE(Lugar().x, 0);
+        EXPECT_GE(Lugar().y, 0);
+        EXPECT_LE(Lugar().x + Lugar().ancho, estado.AnchoMesa);
+        EXPECT_LE(Lugar().y + Lugar().alto, estado.AltoMesa);
+    });
+}
+
+TEST_F(PlacaATodosLosTamanos, NoTapaCartasNiConsejos) {
+    Siempre([this] {
+        for (int asiento = 1; asiento <= 4; ++asiento) {
+            const Punto centro = LugarCentro(asiento);
+            NoCorta(ZonaConRealce(asiento), "zona");
+            NoCorta({centro.x, centro.y, kAltoCarta, kAltoCarta}, "baza");
+        }
+        NoCorta({estado.MazoX - 18, estado.MazoY, 133, 155}, "mazo");
+        estado.VentanaInfo = 1;
+        MostrarSugerencia(15);
+        NoTapa(Control::Pic_Sugerencia, 0);
+    });
+}
+
+TEST_F(PlacaATodosLosTamanos, NoTapaLosBotonesDeNingunAsiento) {
+    Siempre([this] {
+        for (int asiento = 1; asiento <= 4; ++asiento) {
+            for (int indice = 1; indice <= 2; ++indice) {
+                BotonSuperior(asiento, 1, indice);
+                NoTapa(Control::Pic_BotSuperior, indice);
+                BotonLateral(asiento, 1, indice);
+                NoTapa(Control::Pic_BotLateral, indice);
+            }
+            BotonDobSeg(asiento, 1, "D o b l a r");
+            NoTapa(Control::Pic_BotDobSeg, 0);
+        }
+    });
+}
+
+TEST_F(PlacaATodosLosTamanos, NoTapaElDinero) {
+    Siempre([this] {
+        if (!JuegoEnMesa().dinero.hay)
+            return;
+        estado.JugadorActual = 4;
+        MuestraApostadora();
+        NoTapa(Control::Pic_Apostadora, 0);
+        for (int asiento = 1; asiento <= 4; ++asiento) {
+            NoTapaLasFichas(kAreaRestos + asiento - 1);
+            NoTapaLasFichas(kAreaApuestas + asiento - 1);
+        }
+        NoTapaLasFichas(kAreaBote);
+    });
 }
 
 // The score plates of the series stand beside the zones.
-TEST_F(PlacaDeLaPartida, NoTapaLosTantosDeLasSeries) {
-    Empieza(kBlackJack);
-    for (const Tamano& tamano : kTamanos) {
-        p.Mide(tamano.ancho, tamano.alto);
-        CalcularMesa();
-        PintaTanteo();
-        for (int asiento = 1; asiento <= 4; ++asiento) {
-            estado.JugadorActual = static_cast<Integer>(asiento);
-            PonMano(static_cast<Integer>(asiento), {{kOros, 10}, {kCopas, 7}});
+TEST_F(PlacaATodosLosTamanos, NoTapaLosTantosDeLasSeries) {
+    Siempre([this] {
+        if (estado.JuegoActivo != kBlackJack)
+            return;
+        for (Integer asiento = 1; asiento <= 4; ++asiento) {
+            estado.JugadorActual = asiento;
+            PonMano(asiento, {{kOros, 10}, {kCopas, 7}});
             MostrarPuntos(asiento);
-            EXPECT_FALSE(SeCortan(Lugar(), p.Tablero().LugarDe({Control::Pic_Tantos, asiento})))
-                << asiento << " a " << tamano.ancho << 'x' << tamano.alto;
+            NoTapa(Control::Pic_Tantos, asiento);
         }
-    }
+    });
 }
