@@ -6,6 +6,7 @@
 #include "platform/platform.h"
 #include "table/card_names.h"
 #include "table/side_buttons.h"
+#include "table/table_view.h"
 
 namespace {
 
@@ -54,8 +55,10 @@ void DiAQuienSeEspera() {
     const Integer asiento = estado.JugadorActual;
     if (!estado.ManoEnCurso)
         return Di("Pulse Continuar");
-    if (asiento == 0 || estado.ControlJugador(asiento) != kManual)
+    if (asiento == 0)
         return;
+    if (estado.ControlJugador(asiento) != kManual)
+        return Di(vista.verde); // with a pause between moves it plays when the green button says so
     const std::string puntos = PuntosALaVista(asiento);
     Di("Le toca a " + estado.NombreJugador(asiento) + (puntos.empty() ? "" : ", con " + puntos));
 }

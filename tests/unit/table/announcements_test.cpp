@@ -5,6 +5,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
+#include "table/button_column.h"
 #include "tests/support/live_table.h"
 
 using namespace prueba;
@@ -68,10 +71,30 @@ TEST_F(Anuncios, LosPuntosDeLaPlacaVanConElTurno) {
     EXPECT_THAT(p.anuncios, ElementsAre("Le toca a Eva, con 17"));
 }
 
-TEST_F(Anuncios, DeUnAsientoQueJuegaSoloNoSeDiceElTurno) {
+// With a pause between moves it is waited for too.
+TEST_F(Anuncios, DeUnAsientoQueJuegaSoloSeDiceLoQueDiceElBotonVerde) {
     ManoEmpezada(2);
+    estado.NombreJugador(2) = "Luis";
+    PedirContinuar(1);
     DiAQuienSeEspera();
-    EXPECT_THAT(p.anuncios, IsEmpty());
+    EXPECT_THAT(p.anuncios, ElementsAre("Juega Luis"));
+}
+
+TEST_F(Anuncios, SinPausaEntreJugadasDeQuienJuegaSoloNoSeDiceElTurno) {
+    TodoSolo();
+    estado.LimitePartida = 1;
+    NuevaPartida();
+    EXPECT_THAT(p.anuncios, testing::Not(testing::Contains(testing::StartsWith("Juega "))));
+}
+
+TEST_F(Anuncios, ConPausaEntreJugadasSeDiceEnCadaUna) {
+    TodoSolo();
+    estado.PausaEntreJugadas = true;
+    estado.LimitePartida = 1;
+    p.siempre_continua = true;
+    NuevaPartida();
+    const auto juega = [](const std::string& que) { return que.starts_with("Juega "); };
+    EXPECT_GT(std::ranges::count_if(p.anuncios, juega), 20);
 }
 
 TEST_F(Anuncios, EntreDosManosSeDiceQueHayQueContinuar) {
