@@ -1,6 +1,7 @@
 #include "table/seat_drawing.h"
 
 #include <algorithm>
+#include <array>
 
 #include "core/game_state.h"
 #include "core/numeric.h"
@@ -22,7 +23,6 @@ namespace {
 constexpr int kLargoRotulo = 250;
 constexpr int kPasoLetraAlLado = 11, kPasoLetraAbajo = 15;
 constexpr int kAltoLetra = 14;
-constexpr int kAltoSenal = 11;
 constexpr int kAltoRenglon = 18;
 
 Lienzo& Mesa() {
@@ -89,16 +89,40 @@ void LetraALetra(int asiento, const Rectangulo& banda, const std::string& texto,
     }
 }
 
-// The signs that stand at both ends of a name that is lit.
-struct Senales {
-    const char* antes = "";
-    const char* despues = "";
-};
+// The signs at both ends of a name that is lit are lines and no letters: not every font has arrows and stars.
+constexpr int kGruesoSenal = 2;
 
-Senales SenalesDe(Luz luz, bool columna) {
-    if (luz == Luz::Baza)
-        return {"★", "★"};
-    return columna ? Senales{"▼", "▲"} : Senales{"▶", "◀"};
+// The head of an arrow around a point, towards (a_x, a_y): one of both is 1 or -1, the other one 0.
+void PintaPunta(const Punto& donde, int a_x, int a_y) {
+    constexpr int kMedioLargo = 4, kMedioAncho = 4;
+    const Punto punta{donde.x + kMedioLargo * a_x, donde.y + kMedioLargo * a_y};
+    for (int i = -kMedioAncho; i <= kMedioAncho; ++i) {
+        Mesa().Linea(donde.x - kMedioLargo * a_x + i * a_y, donde.y - kMedioLargo * a_y + i * a_x,
+                     punta.x, punta.y, color::kAmarillo, kGruesoSenal);
+    }
+}
+
+// A star in one stroke, and its middle filled.
+void PintaEstrella(const Punto& donde) {
+    constexpr std::array<Punto, 6> kPuntas{{{0, -6}, {4, 5}, {-6, -2}, {6, -2}, {-4, 5}, {0, -6}}};
+    for (std::size_t i = 1; i < kPuntas.size(); ++i) {
+        const Punto &de = kPuntas.at(i - 1), &a = kPuntas.at(i);
+        Mesa().Linea(donde.x + de.x, donde.y + de.y, donde.x + a.x, donde.y + a.y, color::kAmarillo,
+                     kGruesoSenal);
+    }
+    Mesa().Caja({donde.x - 1, donde.y - 1, 3, 3}, color::kAmarillo);
+}
+
+// So far before and behind the middle of a name: arrows look at it.
+void PintaSenales(const Punto& centro, int lejos, bool columna) {
+    for (const int lado : {-1, 1}) {
+        const Punto donde{centro.x + (columna ? 0 : lado * lejos),
+                          centro.y + (columna ? lado * lejos : 0)};
+        if (vista.luz == Luz::Baza)
+            PintaEstrella(donde);
+        else
+            PintaPunta(donde, columna ? 0 : -lado, columna ? -lado : 0);
+    }
 }
 
 // A plate under the name, yellow letters, and the signs: not the colour alone tells it.
@@ -113,15 +137,7 @@ void PintaEncendido(int asiento, const Rectangulo& banda, int paso) {
     Mesa().Caja(placa, color::kPlaca);
     Mesa().Borde(placa, color::kAmarillo, 1);
     LetraALetra(asiento, banda, nombre, paso, color::kAmarillo);
-    const Senales senales = SenalesDe(vista.luz, columna);
-    const int lejos = (Longitud(nombre) + 1) * paso / 2 + 4;
-    const auto senala = [&](int donde, const char* senal) {
-        Mesa().Texto(columna ? x : x + donde,
-                     columna ? y + donde - kAltoSenal / 2 - 2 : banda.y + 2, senal,
-                     {.alto = kAltoSenal}, color::kAmarillo, Alineacion::Centro);
-    };
-    senala(-lejos, senales.antes);
-    senala(lejos, senales.despues);
+    PintaSenales({x, y}, (Longitud(nombre) + 1) * paso / 2 + 4, columna);
 }
 
 void PintaNombre(int asiento) {

@@ -4,6 +4,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstdio>
+
 #include "table/seat_drawing.h"
 #include "table/table_view.h"
 #include "table/whole_table.h"
@@ -217,7 +220,48 @@ struct NombreEncendido : AsientoEnMesa {
         }
         return false;
     }
+    // Where so many yellow lines end, each place once: the points of arrows.
+    std::vector<Punto> Apices(int lineas) {
+        std::vector<Punto> fines, apices;
+        for (const Trazo& trazo : Trazos())
+            fines.push_back(trazo.hasta);
+        for (const Punto& fin : fines) {
+            if (std::ranges::count(fines, fin) == lineas && !std::ranges::count(apices, fin))
+                apices.push_back(fin);
+        }
+        return apices;
+    }
+    // How often five yellow lines, each from where the one before it ended, come back to where they began.
+    int Estrellas() {
+        int estrellas = 0, seguidas = 0;
+        Punto fin;
+        for (const Trazo& trazo : Trazos()) {
+            seguidas = seguidas > 0 && trazo.desde == fin ? seguidas + 1 : 1;
+            fin = trazo.hasta;
+            estrellas += seguidas % 5 == 0 ? 1 : 0;
+        }
+        return estrellas;
+    }
+
+private:
+    struct Trazo {
+        Punto desde, hasta;
+    };
+    std::vector<Trazo> Trazos() {
+        std::vector<Trazo> trazos;
+        for (const std::string& llamada : Dibujado("Linea")) {
+            Trazo t;
+            EXPECT_EQ(std::sscanf(llamada.c_str(), "Linea(%d, %d, %d, %d;", &t.desde.x, &t.desde.y,
+                                  &t.hasta.x, &t.hasta.y),
+                      4);
+            if (llamada.find("; 00FFFF, ") != std::string::npos)
+                trazos.push_back(t);
+        }
+        return trazos;
+    }
 };
+
+constexpr int kLineasDePunta = 9;
 
 } // namespace
 
@@ -225,15 +269,36 @@ TEST_F(NombreEncendido, ElDelTurnoLoEstaPorColorYPorSusSenales) {
     estado.JugadorActual = 4;
     EnciendeTurno();
     EXPECT_TRUE(Hay("\"E\"; 14 negrita hasta 11, 00FFFF"));
-    EXPECT_TRUE(Hay("\"▶\""));
-    EXPECT_TRUE(Hay("\"◀\""));
+    // One at each side of the name, which is three letters of 11 pixels around 355; both look at it.
+    const std::vector<Punto> apices = Apices(kLineasDePunta);
+    ASSERT_EQ(apices.size(), 2U);
+    EXPECT_EQ(apices[0].y, apices[1].y);
+    EXPECT_GT(apices[0].x, 355 - 17 - 20);
+    EXPECT_LT(apices[0].x, 355 - 17);
+    EXPECT_GT(apices[1].x, 355 + 17);
+    EXPECT_LT(apices[1].x, 355 + 17 + 20);
+}
+
+// Which fonts a desktop has does not matter to them.
+TEST_F(NombreEncendido, LasSenalesNoSonLetras) {
+    estado.JugadorActual = 4;
+    EnciendeTurno();
+    EnciendeBaza(4);
+    ASSERT_FALSE(Dibujado("Texto").empty());
+    for (const std::string& letra : Dibujado("Texto"))
+        EXPECT_THAT(letra,
+                    testing::AnyOf(HasSubstr("\"E\""), HasSubstr("\"v\""), HasSubstr("\"a\"")));
 }
 
 TEST_F(NombreEncendido, AlosLadosLasSenalesMiranAlNombreDesdeArribaYDesdeAbajo) {
     estado.JugadorActual = 1;
     EnciendeTurno();
-    EXPECT_TRUE(Hay("\"▼\""));
-    EXPECT_TRUE(Hay("\"▲\""));
+    const std::vector<Punto> apices = Apices(kLineasDePunta);
+    ASSERT_EQ(apices.size(), 2U);
+    EXPECT_EQ(apices[0].x, 9);
+    EXPECT_EQ(apices[1].x, 9);
+    EXPECT_LT(apices[0].y, ZonaDe(1).y + ZonaDe(1).alto / 2 - 22);
+    EXPECT_GT(apices[1].y, ZonaDe(1).y + ZonaDe(1).alto / 2 + 22);
 }
 
 TEST_F(NombreEncendido, SigueEncendidoCuandoElAsientoSeRepinta) {
@@ -241,7 +306,7 @@ TEST_F(NombreEncendido, SigueEncendidoCuandoElAsientoSeRepinta) {
     ResaltarAsiento();
     p.Dibujado(Control::Mesa).Olvida();
     RedibujarAsiento(4);
-    EXPECT_TRUE(Hay("\"▶\""));
+    EXPECT_EQ(Apices(kLineasDePunta).size(), 2U);
 }
 
 TEST_F(NombreEncendido, SoloHayUno) {
@@ -256,11 +321,11 @@ TEST_F(NombreEncendido, SoloHayUno) {
 
 TEST_F(NombreEncendido, ElQueGanaLaBazaLlevaOtraSenal) {
     EnciendeBaza(4);
-    EXPECT_TRUE(Hay("\"★\""));
-    EXPECT_FALSE(Hay("\"▶\""));
+    EXPECT_EQ(Estrellas(), 2);
+    EXPECT_TRUE(Apices(kLineasDePunta).empty());
     p.Dibujado(Control::Mesa).Olvida();
     ApagaNombre();
-    EXPECT_FALSE(Hay("\"★\""));
+    EXPECT_EQ(Estrellas(), 0);
     EXPECT_TRUE(Hay("FFFFFF"));
 }
 
