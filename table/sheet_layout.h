@@ -58,8 +58,6 @@ constexpr Recorte BotonLateral(int numero, bool vertical, bool pulsado = false) 
 inline constexpr Recorte kDigitoVacio{110, 52, 10, 17}; // a display place with no figure lit
 inline constexpr Recorte kMarcaPasado{188, 52, 32, 32}; // the burst over a bust stake
 inline constexpr Recorte kMarcaTurno{221, 52, 32, 32};
-inline constexpr Recorte kMarcaMano{254, 52, 32, 32};
-inline constexpr Recorte kMarcaBanca{287, 52, 32, 32};
 
 inline constexpr Recorte kCerrarArriba{320, 52, 16, 16};
 inline constexpr Recorte kCerrarPulsado{337, 52, 16, 16};
@@ -168,8 +166,6 @@ inline constexpr std::array kPiezas{
     Pieza{"marca_ganador", kMarcaGanador},
     Pieza{"marca_pasado", kMarcaPasado},
     Pieza{"marca_turno", kMarcaTurno},
-    Pieza{"marca_mano", kMarcaMano},
-    Pieza{"marca_banca", kMarcaBanca},
     Pieza{"cerrar_arriba", kCerrarArriba},
     Pieza{"cerrar_pulsado", kCerrarPulsado},
     Pieza{"mas_ayuda_arriba", kMasAyudaArriba},

@@ -167,22 +167,6 @@ def mark_turn():
     return round_mark(GREEN, draw)
 
 
-def mark_lead():
-    """Two cards: this seat leads the hand."""
-    def draw(g):
-        buttons.small_card(g, 41, 50, -14, "copas", 0.7)
-        buttons.small_card(g, 56, 48, 12, "oros", 0.7)
-    return round_mark(BLUE_DARK, draw)
-
-
-def mark_bank():
-    """A crown: this seat holds the bank."""
-    def draw(g):
-        with g.at(48, 78, 0.78):
-            crown(g, 3, "lily", BLUE)
-    return round_mark(RED_DARK, draw)
-
-
 # -- small buttons
 
 def square_button(width, height, colour, down, draw, r=4.0):
@@ -395,8 +379,7 @@ def pieces():
     yield "digito_vacio", digit(" ")
     for value in CHIPS:
         yield f"ficha{value}", chip(value)
-    yield from (("marca_ganador", mark_winner()), ("marca_pasado", mark_bust()),
-                ("marca_turno", mark_turn()), ("marca_mano", mark_lead()), ("marca_banca", mark_bank()))
+    yield from (("marca_ganador", mark_winner()), ("marca_pasado", mark_bust()), ("marca_turno", mark_turn()))
     for state, down in (("arriba", False), ("pulsado", True)):
         yield f"cerrar_{state}", close_button(down)
         yield f"mas_ayuda_{state}", plain_button(76, 20, "azul", down, 4)
