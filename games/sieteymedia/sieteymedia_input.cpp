@@ -51,6 +51,7 @@ bool ClicDeSiete(Puntero puntero, int /*lugar*/) {
         break;
     case Puntero::Voltear:
         VuelveLaTapada();
+        RetiraSugerencia({kTipTapada, kTipCantar});
         break;
     default:
         return false;

@@ -3,8 +3,8 @@
 
 #include "platform/platform.h"
 
-// The tips that offer the change of the four, and to open two halves.
-inline constexpr int kTipCuatro = 32, kTipMedias = 33;
+// The tips that offer the change of the four, to open two halves, to turn the covered card, and to sing by turning it.
+inline constexpr int kTipCuatro = 32, kTipMedias = 33, kTipTapada = 34, kTipCantar = 36;
 
 // The pointer over place lugar of SerieActual of the seat on turn: a Four to change, also in the bets; in play two medias
 // to open, a covered card to turn. Nothing on a serie that is only looked at.

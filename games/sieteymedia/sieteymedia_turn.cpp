@@ -25,7 +25,7 @@
 namespace {
 
 constexpr int kTipReglasApuesta = 30, kTipApuesta = 31;
-constexpr int kTipTapada = 34, kTipPlantarse = 35, kTipCantar = 36, kTipTutor = 50;
+constexpr int kTipPlantarse = 35, kTipTutor = 50;
 constexpr Integer kPrimeraMedia = 10; // Sota, Caballo and Rey count a half
 constexpr TurnoDeApuesta kApuesta{.decide = DecideSiete,
                                   .tip_automatico = kTipReglasApuesta,

@@ -399,10 +399,23 @@ TEST_F(TurnoDePersona, ElConsejoDePlantarse) {
 }
 
 TEST_F(TurnoDePersona, ElConsejoDeLaTapada) {
+    estado.VentanaInfo = 1;
     Saldra({{kOros, 5}}, {0.5, 0.75});
     Verde();
     Juega();
     EXPECT_THAT(TrazaDe("MostrarSugerencia"), Contains("MostrarSugerencia(34)"));
+    EXPECT_TRUE(p.EstaVisible(Control::Pic_Sugerencia, 0));
+}
+
+TEST_F(TurnoDePersona, ElConsejoDeLaTapadaSeVaAlVolverla) {
+    estado.VentanaInfo = 1;
+    Saldra({{kOros, 5}}, {0.5, 0.75});
+    Verde();
+    ClicEnLaCarta();
+    Juega();
+    EXPECT_EQ(TrazaDe("MostrarSugerencia").back(), "MostrarSugerencia(34)");
+    EXPECT_EQ(estado.Mano(4, 1, 1, kTapada), 0);
+    EXPECT_FALSE(p.EstaVisible(Control::Pic_Sugerencia, 0));
 }
 
 TEST_F(TurnoDePersona, ElConsejoDeLasMedias) {
@@ -419,6 +432,24 @@ TEST_F(TurnoDePersona, ElConsejoDeCantar) {
     Pide();
     Juega();
     EXPECT_THAT(TrazaDe("MostrarSugerencia"), Contains("MostrarSugerencia(36)"));
+}
+
+TEST_F(TurnoDePersona, ElConsejoDeCantarSeVaAlCantar) {
+    estado.VentanaInfo = 1;
+    Saldra({{kOros, 7}, {kOros, 6}, {kOros, 5}, {kCopas, 6}, {kCopas, kRey}}, Azares(10, 0.75));
+    bool cantada = false;
+    p.al_anunciar = [&](const std::string& que) {
+        if (que != "Iñigo: Siete y media")
+            return;
+        cantada = true;
+        EXPECT_EQ(estado.TipActual, 36);
+        EXPECT_FALSE(p.EstaVisible(Control::Pic_Sugerencia, 0));
+    };
+    Verde();
+    Pide();
+    ClicEnLaPrimeraDeDos();
+    Juega();
+    EXPECT_TRUE(cantada);
 }
 
 TEST_F(TurnoDePersona, ElConsejoDelCuatroEsParaLaBanca) {
