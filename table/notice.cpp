@@ -7,12 +7,13 @@
 #include "platform/platform.h"
 #include "table/controls.h"
 #include "table/spread_layout.h"
+#include "table/table_view.h"
 
 namespace {
 
 constexpr int kAltoRenglon = 14, kMargen = 2;
 constexpr int kAlBorde = 4;
-constexpr int kAnchoOrdenar = 218, kAnchoReparto = 348;
+constexpr int kAnchoEsquina = 218, kAnchoReparto = 348;
 constexpr int kLados = 12;
 
 struct Aviso {
@@ -25,11 +26,9 @@ int AltoDe(std::size_t renglones) {
 }
 
 // In the upper right corner, where nothing of any game stands.
-Aviso AvisoDeOrdenar() {
-    const std::vector<std::string> renglones{"Ordenando a mano: arrastre las cartas.",
-                                             "Clic en el tapete para terminar."};
+Aviso AvisoEnLaEsquina(const std::vector<std::string>& renglones) {
     return {renglones,
-            {estado.AnchoMesa - kAnchoOrdenar - kAlBorde, kAlBorde, kAnchoOrdenar,
+            {estado.AnchoMesa - kAnchoEsquina - kAlBorde, kAlBorde, kAnchoEsquina,
              AltoDe(renglones.size())}};
 }
 
@@ -44,7 +43,14 @@ Aviso AvisoDeReparto() {
 Aviso ElAviso() {
     if (estado.RepartoEnCurso)
         return AvisoDeReparto();
-    return estado.ModoOrdenar ? AvisoDeOrdenar() : Aviso{};
+    if (estado.ModoOrdenar)
+        return AvisoEnLaEsquina(
+            {"Ordenando a mano: arrastre las cartas.", "Clic en el tapete para terminar."});
+    const bool acabada = !estado.PartidaEnCurso && estado.GanadorPartida != 0 && vista.nombres;
+    if (acabada)
+        return AvisoEnLaEsquina(
+            {"Para empezar otra partida, pulse el", "primer botón o la barra espaciadora."});
+    return {};
 }
 
 void Pinta(const Aviso& aviso) {

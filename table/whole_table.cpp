@@ -159,7 +159,7 @@ void PintaMesaVacia() {
     mesa.Texto(estado.CentroX, debajo, juego->nombre, kLetraJuego, color::kBlanco,
                Alineacion::Centro);
     mesa.Texto(estado.CentroX, debajo + kDelNombre,
-               "Para empezar, pulse el primer botón de la derecha o cualquier tecla.",
+               "Para empezar, pulse el primer botón de la derecha o la barra espaciadora.",
                kLetraComienzo, color::kBlanco, Alineacion::Centro);
     plataforma().Repinta();
 }

@@ -19,6 +19,7 @@
 #include "table/layout.h"
 #include "table/manual_deal.h"
 #include "table/messages.h"
+#include "table/notice.h"
 #include "table/pending_rules.h"
 #include "table/score_plate.h"
 #include "table/seat_drawing.h"
@@ -261,6 +262,7 @@ void FinalPartida() {
     GuardarPartida();
     for (int boton : {kBotonSalir, kBotonNueva, kBotonNormas})
         HabilitaBoton(boton, true);
+    RefrescaAviso();
 }
 
 void JuegaPartida(bool (*mano)()) {

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "core/session_state.h"
 #include "table/whole_table.h"
 #include "tests/support/live_table.h"
 
@@ -43,7 +44,14 @@ TEST_F(MesaViva, LaMesaVaciaDiceAQueSeJuegaYPorDondeSeEmpieza) {
         todo += llamada + "\n";
     EXPECT_NE(todo.find("Velo("), std::string::npos);
     EXPECT_NE(todo.find("\"Cinquillo\""), std::string::npos);
-    EXPECT_NE(todo.find("Para empezar"), std::string::npos);
+    EXPECT_NE(
+        todo.find("Para empezar, pulse el primer botón de la derecha o la barra espaciadora."),
+        std::string::npos);
+}
+
+TEST_F(MesaViva, ConLaBarraEspaciadoraSeEmpieza) {
+    DespachaEvento({.tipo = TipoEvento::Tecla, .tecla = ' '});
+    EXPECT_EQ(sesion.peticion, Peticion::NuevaPartida);
 }
 
 // Its place lies in the middle, where the emblem and the name stand.
