@@ -317,7 +317,7 @@ private Q_SLOTS:
     void ElNombreSeVeYSeOye() {
         PonContinuar();
         QWidget* boton = Boton("Pic_BotContinuar");
-        QCOMPARE(boton->toolTip(), "Continuar");
+        QCOMPARE(boton->toolTip(), "Continuar (Espacio, Intro, letras o números)");
         QAccessibleInterface* acceso = QAccessible::queryAccessibleInterface(boton);
         QVERIFY(acceso != nullptr);
         QCOMPARE(acceso->text(QAccessible::Name), "Continuar");
