@@ -10,7 +10,7 @@
 namespace {
 
 constexpr double kRedondeo = 6;
-constexpr int kAlrededor = 12; // what a frame and its sign paint beyond its place, table pixels
+constexpr int kAlrededor = 14; // what a frame and its sign paint beyond its place, table pixels
 
 struct Trazo {
     QColor color;
@@ -29,11 +29,11 @@ const Trazos& TrazosDe(Marco cual) {
     return kTodos.at(static_cast<std::size_t>(cual));
 }
 
-// A disc with a bar, in the middle of the upper edge: it covers no rank, and is seen on the narrowest strip of a card.
+// A disc with a bar, on the middle of the upper edge: it covers no rank, and is seen on the narrowest strip of a card.
 void TrazaProhibido(QPainter& pintor, const QRectF& caja) {
-    constexpr double kRadio = 9, kBorde = 2, kMediaBarra = 5, kGrueso = 4;
+    constexpr double kRadio = 8, kSobreElBorde = 4, kBorde = 2, kMediaBarra = 5, kGrueso = 4;
     const double factor = FactorDeMesa();
-    const QPointF centro(caja.center().x(), caja.top());
+    const QPointF centro(caja.center().x(), caja.top() - kSobreElBorde * factor);
     const QPointF media_barra(kMediaBarra * factor, 0);
     pintor.setPen(QPen(Qt::white, kBorde * factor));
     pintor.setBrush(QColor(190, 0, 0));

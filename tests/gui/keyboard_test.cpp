@@ -159,8 +159,9 @@ private Q_SLOTS:
         Teclea(Qt::Key_Right);
         QCOMPARE(Enmarcado(), std::string("Rey de Bastos"));
         const Rectangulo caja = ObjetivoEnmarcado()->donde;
-        QCOMPARE(EnElBorde(caja), QColor(Qt::white));
+        QCOMPARE(EnElBorde(caja), QColor(190, 0, 0));
         const QImage mesa = Tapete()->grab().toImage();
+        QCOMPARE(mesa.pixelColor(caja.x + caja.ancho / 2, caja.y - 4), QColor(Qt::white));
         int cambios = 0;
         for (int y = caja.y + 10; y < caja.y + caja.alto - 10; ++y)
             cambios += (mesa.pixelColor(caja.x, y).green() > 128) !=
