@@ -105,9 +105,9 @@ struct Evento {
     Mando mando = Mando::Izquierda;
 };
 
-// The frames that lie over the whole table, controls included: the one that the keys move, and the outline of the card
-// that a click would do something with.
-enum class Marco { DeTeclas, DePuntero };
+// The frames that lie over the whole table, controls included: the one that the keys move, its other look where they
+// would do nothing, and the outline of the card that a click would do something with.
+enum class Marco { DeTeclas, DeTeclasVedado, DePuntero };
 
 // A pass in a wait takes input for sure; a pass that a deal, a draw or a turn makes on its way takes what
 // is there on a desktop, and none of the scripted input without a screen unless told so.

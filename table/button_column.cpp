@@ -174,6 +174,10 @@ int TeclaDelBoton(int indice) {
     return n + 1;
 }
 
+int CorridoDelBoton(int indice) {
+    return kColumnaDeBotones - kBotones.at(static_cast<std::size_t>(indice)).x;
+}
+
 bool BotonHabilitado(int indice) {
     return plataforma().PunteroDe(Control::Pic_Boton, indice) != Puntero::Prohibido;
 }

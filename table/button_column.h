@@ -21,6 +21,9 @@ bool BotonHabilitado(int indice);
 int BotonDesdeArriba(int n);
 int TeclaDelBoton(int indice);
 
+// How far to the right of its place the picture of a main button is drawn, table pixels; to the left below 0.
+int CorridoDelBoton(int indice);
+
 // Pic_BotContinuar with its caption, kind 1 up or 2 pressed, and hidden. They write EsperandoJugada.
 void PedirContinuar(int kind);
 void OcultarContinuar();

@@ -9,7 +9,7 @@ struct Puesto {
     void (*revisa)() = nullptr;
 };
 
-constinit std::array<Puesto, 2> marcos{};
+constinit std::array<Puesto, 3> marcos{};
 
 Puesto& El(Marco cual) {
     return marcos[static_cast<std::size_t>(cual)];
@@ -28,6 +28,10 @@ void PonMarco(Marco cual, const std::optional<Rectangulo>& donde, void (*revisa)
 
 bool HayMarco(Marco cual) {
     return El(cual).donde.has_value();
+}
+
+bool HayMarcoDeTeclas() {
+    return HayMarco(Marco::DeTeclas) || HayMarco(Marco::DeTeclasVedado);
 }
 
 void RevisaMarcos() {

@@ -9,5 +9,7 @@
 // around what has moved, or nowhere.
 void PonMarco(Marco cual, const std::optional<Rectangulo>& donde, void (*revisa)());
 bool HayMarco(Marco cual);
+// The one that the keys move, in either look.
+bool HayMarcoDeTeclas();
 // Something has been drawn, or a wait begins.
 void RevisaMarcos();

@@ -161,13 +161,21 @@ bool AhoraJugariaPorMi(const Objetivo& antes, const Objetivo& ahora) {
            estado.ManoEnCurso && estado.ControlJugador(estado.JugadorActual) == kManual;
 }
 
-void Dibuja(const std::optional<Rectangulo>& donde) {
-    PonMarco(Marco::DeTeclas, donde, RefrescaMarco);
+// One of the two looks; the refreshing of both hangs on the first.
+void Dibuja(Marco cual, const Rectangulo& donde) {
+    const bool vedado = cual == Marco::DeTeclasVedado;
+    PonMarco(Marco::DeTeclas, vedado ? std::nullopt : std::optional(donde), RefrescaMarco);
+    PonMarco(Marco::DeTeclasVedado, vedado ? std::optional(donde) : std::nullopt, nullptr);
+}
+
+void Borra() {
+    PonMarco(Marco::DeTeclas, {}, RefrescaMarco);
+    PonMarco(Marco::DeTeclasVedado, {}, nullptr);
 }
 
 void PonEn(const Objetivo& uno) {
     paseo.donde = uno;
-    Dibuja(uno.donde);
+    Dibuja(uno.se_pulsa ? Marco::DeTeclas : Marco::DeTeclasVedado, uno.donde);
 }
 
 void Lleva(const Objetivo& uno) {
@@ -280,11 +288,11 @@ void RefrescaMarco() {
     if (ahora == camino.end())
         ahora = EnSuLugar(camino, *paseo.donde);
     if (ahora == camino.end())
-        return Dibuja({});
+        return Borra();
     if (!AhoraJugariaPorMi(*paseo.donde, *ahora))
         return PonEn(*ahora);
     paseo.donde.reset();
-    Dibuja({});
+    Borra();
 }
 
 } // namespace
@@ -292,7 +300,7 @@ void RefrescaMarco() {
 std::vector<Evento> EventosDeMando(Mando mando, std::optional<Milisegundos> desde) {
     RefrescaMarco();
     const Camino camino = ElCamino();
-    if (!HayMarco(Marco::DeTeclas)) {
+    if (!HayMarcoDeTeclas()) {
         paseo.vale_desde = EsPulsacion(mando) ? plataforma().Reloj() : 0;
         Aparece(camino);
         return {};
@@ -327,7 +335,7 @@ std::vector<Evento> EventosDeClic(const Objetivo& donde, int boton) {
 
 void QuitaMarco() {
     paseo.a_la_vista = false;
-    Dibuja({});
+    Borra();
 }
 
 void OlvidaMarco() {
@@ -337,5 +345,5 @@ void OlvidaMarco() {
 }
 
 std::optional<Objetivo> ObjetivoEnmarcado() {
-    return HayMarco(Marco::DeTeclas) ? paseo.donde : std::nullopt;
+    return HayMarcoDeTeclas() ? paseo.donde : std::nullopt;
 }

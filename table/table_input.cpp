@@ -116,7 +116,7 @@ bool SeMueveCarta(Integer asiento) {
 // A press on the card does something, and the pointer is still over what is to be seen of it.
 bool SeContornea(Integer asiento, Integer lugar) {
     const Integer cartas = estado.NumCartas(asiento, estado.SerieActual);
-    if (lugar == 0 || lugar > cartas || HayMarco(Marco::DeTeclas))
+    if (lugar == 0 || lugar > cartas || HayMarcoDeTeclas())
         return false;
     // The pop-up lies over the card, and the pointer is on that.
     if (plataforma().EstaVisible(Control::Pic_SelOpciones, 0))

@@ -245,7 +245,9 @@ void AgregaBoton(Objetivos& todos, Control control, int indice) {
     const Plataforma& p = plataforma();
     if (!p.EstaVisible(control, indice))
         return;
-    const Rectangulo donde = p.LugarDe(control, indice);
+    Rectangulo donde = p.LugarDe(control, indice);
+    if (control == Control::Pic_Boton)
+        donde.x += CorridoDelBoton(indice);
     const bool se_pulsa = SePulsaBoton(control, indice);
     todos.push_back({.clase = ClaseObjetivo::Boton,
                      .control = control,

@@ -162,11 +162,26 @@ void VistaControl::PonPuntero(Puntero puntero) {
     QAccessible::updateAccessibility(&aviso);
 }
 
+QString VistaControl::Teclas() const {
+    switch (control_) {
+    case Control::Pic_Boton:
+        return QStringLiteral(" (F%1)").arg(TeclaDelBoton(indice_));
+    case Control::Pic_BotContinuar:
+        return QStringLiteral(" (Espacio, Intro, letras o números)");
+    default:
+        return {};
+    }
+}
+
 void VistaControl::Nombra(const QString& nombre) {
     setAccessibleName(nombre);
-    setToolTip(control_ == Control::Pic_Boton
-                   ? nombre + QStringLiteral(" (F%1)").arg(TeclaDelBoton(indice_))
-                   : nombre);
+    setToolTip(nombre + Teclas());
+}
+
+QRectF VistaControl::Dibujo() const {
+    const int corrido = control_ == Control::Pic_Boton ? CorridoDelBoton(indice_) : 0;
+    return {corrido * FactorDeMesa(), 0, donde_.ancho * FactorDeMesa(),
+            donde_.alto * FactorDeMesa()};
 }
 
 void VistaControl::Pulsa(std::optional<Milisegundos> desde) {
@@ -181,13 +196,6 @@ void VistaControl::Pulsa(std::optional<Milisegundos> desde) {
 void VistaControl::paintEvent(QPaintEvent* evento) {
     QPainter p(this);
     PintaCuadro(p, lienzo_.Cuadro(), imagenes_, evento->rect());
-    if (!hasFocus())
-        return;
-    p.resetTransform();
-    p.scale(FactorDeMesa(), FactorDeMesa());
-    p.setRenderHint(QPainter::Antialiasing);
-    p.setPen(QPen(QColor(255, 244, 170), 2, Qt::DotLine));
-    p.drawRoundedRect(QRectF(0, 0, donde_.ancho, donde_.alto).adjusted(2, 2, -2, -2), 6, 6);
 }
 
 void VistaControl::Avisa(TipoEvento tipo, const QMouseEvent& evento) {

@@ -34,6 +34,8 @@ public:
     void PonPuntero(Puntero puntero);
     Puntero ElPuntero() const { return puntero_; }
     void Nombra(const QString& nombre);
+    // Where its picture is seen, in pixels of the widget: one of the main buttons stands a little beside its own.
+    QRectF Dibujo() const;
     // A click that did not come from the mouse.
     void Pulsa() { Pulsa(cola_.Ahora()); }
 
@@ -47,6 +49,8 @@ protected:
 private:
     void Avisa(TipoEvento tipo, const QMouseEvent& evento);
     void Pulsa(std::optional<Milisegundos> desde);
+    // The keys that stand for a click, as its tool tip names them; empty for none.
+    QString Teclas() const;
 
     const Control control_;
     const int indice_;

@@ -1,5 +1,6 @@
 #pragma once
-// The layer of the frames, above the felt and every control on it. The mouse passes through.
+// The layer of the frames, above the felt and every control on it, and of the ring around the button with the focus. The
+// mouse passes through.
 
 #include <QWidget>
 #include <map>

@@ -14,6 +14,7 @@
 namespace {
 
 constexpr QColor kAmarillo(255, 200, 40);
+constexpr QColor kAnillo(255, 244, 170);
 
 Qt::Key TeclaDe(const Evento& mando) {
     switch (mando.mando) {
@@ -139,6 +140,8 @@ private Q_SLOTS:
 
     void UnaFlechaDevuelveElFocoALaMesaYTabLoLlevaALosBotones() {
         Elige();
+        bazas.NumJugables = 2;
+        bazas.CartasJugables(2, 2) = 2;
         Teclea(Qt::Key_Right);
         Teclea(Qt::Key_Tab);
         QVERIFY(QApplication::focusWidget() != Tapete());
@@ -147,6 +150,42 @@ private Q_SLOTS:
         Teclea(Qt::Key_Right);
         QCOMPARE(QApplication::focusWidget(), Tapete());
         QCOMPARE(EnElBorde(ObjetivoEnmarcado()->donde), kAmarillo);
+    }
+
+    // Dashes with a bar on the edge: without colours it is another one too.
+    void LoQueNoSePuedeJugarLlevaUnaBarraYTrazos() {
+        Elige();
+        Teclea(Qt::Key_Right);
+        Teclea(Qt::Key_Right);
+        QCOMPARE(Enmarcado(), std::string("Rey de Bastos"));
+        const Rectangulo caja = ObjetivoEnmarcado()->donde;
+        QCOMPARE(EnElBorde(caja), QColor(190, 0, 0));
+        const QImage mesa = Tapete()->grab().toImage();
+        QCOMPARE(mesa.pixelColor(caja.x + caja.ancho / 2, caja.y - 4), QColor(Qt::white));
+        int cambios = 0;
+        for (int y = caja.y + 10; y < caja.y + caja.alto - 10; ++y)
+            cambios += (mesa.pixelColor(caja.x, y).green() > 128) !=
+                               (mesa.pixelColor(caja.x, y - 1).green() > 128)
+                           ? 1
+                           : 0;
+        QVERIFY(cambios >= 6);
+    }
+
+    // The dots of the ring lie around the picture of the second button, 4 pixels to the left of its own place.
+    void ElAnilloDelFocoRodeaElBotonDondeSeDibuja() {
+        VistaControl* boton = Boton(kBotonPersonal);
+        boton->setFocus();
+        Pasa();
+        const QImage mesa = Tapete()->grab().toImage();
+        const QPoint esquina = boton->mapTo(Tapete(), QPoint(0, 0));
+        const auto puntos = [&](int x) {
+            int cuantos = 0;
+            for (int y = esquina.y() + 10; y < esquina.y() + boton->height() - 10; ++y)
+                cuantos += mesa.pixelColor(x, y) == kAnillo ? 1 : 0;
+            return cuantos;
+        };
+        QVERIFY(puntos(esquina.x() - 2) >= 5);
+        QCOMPARE(puntos(esquina.x() + 2), 0);
     }
 
     void LosBotonesDicenSuTecla() {

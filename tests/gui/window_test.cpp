@@ -143,6 +143,27 @@ private Q_SLOTS:
         QVERIFY(*eventos[0].desde >= apretado - 50);
     }
 
+    // So does the click of a key: one that waits is not taken for what the button says by then.
+    void LaTeclaDelBotonDiceCuandoSePulso_data() {
+        QTest::addColumn<int>("tecla");
+        QTest::newRow("Espacio") << int(Qt::Key_Space);
+        QTest::newRow("Intro") << int(Qt::Key_Return);
+        QTest::newRow("Intro numérico") << int(Qt::Key_Enter);
+    }
+    void LaTeclaDelBotonDiceCuandoSePulso() {
+        QFETCH(int, tecla);
+        PonContinuar();
+        const Milisegundos antes = mesa_->Reloj();
+        QTest::keyClick(Boton("Pic_BotContinuar"), Qt::Key(tecla));
+        const Milisegundos despues = mesa_->Reloj();
+        QTest::qWait(60);
+        const auto eventos = Toma();
+        QCOMPARE(eventos.size(), 1u);
+        QVERIFY(eventos[0].tipo == TipoEvento::Clic);
+        QVERIFY(eventos[0].desde.has_value());
+        QVERIFY(*eventos[0].desde >= antes && *eventos[0].desde <= despues);
+    }
+
     void LaPlacaDeLaPartidaDejaPasarElRaton() {
         for (const Control placa : {Control::Pic_Tanteo, Control::Pic_Aviso}) {
             mesa_->Coloca(placa, 0, {300, 300, 66, 27});
@@ -296,7 +317,7 @@ private Q_SLOTS:
     void ElNombreSeVeYSeOye() {
         PonContinuar();
         QWidget* boton = Boton("Pic_BotContinuar");
-        QCOMPARE(boton->toolTip(), "Continuar");
+        QCOMPARE(boton->toolTip(), "Continuar (Espacio, Intro, letras o números)");
         QAccessibleInterface* acceso = QAccessible::queryAccessibleInterface(boton);
         QVERIFY(acceso != nullptr);
         QCOMPARE(acceso->text(QAccessible::Name), "Continuar");

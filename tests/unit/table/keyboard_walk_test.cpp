@@ -110,6 +110,41 @@ TEST_F(Teclado, ArribaNoJuegaLoQueNoSePuede) {
     EXPECT_TRUE(estado.EsperandoJugada);
 }
 
+TEST_F(Teclado, LoQueNoSePuedePulsarLlevaOtroMarco) {
+    Elige();
+    Pulsa(Mando::Izquierda);
+    ASSERT_EQ(Enmarcado(), "Seis de Oros");
+    EXPECT_TRUE(p.marcos.contains(Marco::DeTeclas));
+    EXPECT_FALSE(p.marcos.contains(Marco::DeTeclasVedado));
+    Pulsa(Mando::Izquierda);
+    ASSERT_EQ(Enmarcado(), "Rey de Bastos");
+    EXPECT_FALSE(p.marcos.contains(Marco::DeTeclas));
+    EXPECT_EQ(p.marcos[Marco::DeTeclasVedado], ObjetivoEnmarcado()->donde);
+    Pulsa(Mando::Derecha);
+    EXPECT_TRUE(p.marcos.contains(Marco::DeTeclas));
+    EXPECT_FALSE(p.marcos.contains(Marco::DeTeclasVedado));
+}
+
+TEST_F(Teclado, ElMarcoCambiaCuandoLaCartaYaNoSePuedeJugar) {
+    Elige();
+    Pulsa(Mando::Derecha);
+    ASSERT_TRUE(p.marcos.contains(Marco::DeTeclas));
+    estado.EligeCarta = false;
+    RedibujarAsiento(4);
+    EXPECT_EQ(Enmarcado(), "Seis de Oros");
+    EXPECT_FALSE(p.marcos.contains(Marco::DeTeclas));
+    EXPECT_TRUE(p.marcos.contains(Marco::DeTeclasVedado));
+}
+
+TEST_F(Teclado, ElMarcoDeLoVedadoSeVaConElRaton) {
+    Elige();
+    Pulsa(Mando::Izquierda, 2);
+    ASSERT_TRUE(p.marcos.contains(Marco::DeTeclasVedado));
+    Mueve(300, 300);
+    EXPECT_FALSE(p.marcos.contains(Marco::DeTeclasVedado));
+    EXPECT_EQ(Enmarcado(), "");
+}
+
 TEST_F(Teclado, AlMoverElRatonElMarcoSeVaYVuelveDondeEstaba) {
     Elige();
     Pulsa(Mando::Derecha, 2);
@@ -340,6 +375,12 @@ TEST_F(Teclado, EnLaMesaVaciaSeRecorrenLosBotones) {
     EXPECT_EQ(Enmarcado(), "Nueva partida");
     Pulsa(Mando::Arriba);
     EXPECT_EQ(sesion.peticion, Peticion::NuevaPartida);
+}
+
+TEST_F(Teclado, ElMarcoRodeaElBotonDondeSeDibuja) {
+    Pulsa(Mando::Derecha, 2);
+    ASSERT_EQ(Enmarcado(), "Personalizar");
+    EXPECT_EQ(p.marcos[Marco::DeTeclas], (Rectangulo{730, 125, 50, 50}));
 }
 
 TEST_F(Teclado, LasFuncionesSonLosBotonesDesdeArriba) {
