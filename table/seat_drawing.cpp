@@ -100,6 +100,10 @@ void PintaPunta(const Punto& donde, int a_x, int a_y) {
         Mesa().Linea(donde.x - kMedioLargo * a_x + i * a_y, donde.y - kMedioLargo * a_y + i * a_x,
                      punta.x, punta.y, color::kAmarillo, kGruesoSenal);
     }
+    // The ends of lines that come from all sides leave notches in the base.
+    const Punto base{donde.x - kMedioLargo * a_x, donde.y - kMedioLargo * a_y};
+    Mesa().Linea(base.x - kMedioAncho * a_y, base.y - kMedioAncho * a_x, base.x + kMedioAncho * a_y,
+                 base.y + kMedioAncho * a_x, color::kAmarillo, kGruesoSenal);
 }
 
 // A star in one stroke, and its middle filled.
