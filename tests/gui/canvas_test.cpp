@@ -203,7 +203,7 @@ private Q_SLOTS:
     void LaLuzVieneDeArriba() {
         Imagenes imagenes(1);
         LienzoRetenido mesa(imagenes, Fondo::Fieltro);
-        mesa.PonTamano(kMesa, false);
+        mesa.PonTamano({40, 960}, false);
         const QImage& cuadro = mesa.Cuadro();
         const auto verde = [&](int y) {
             double suma = 0;
@@ -214,6 +214,16 @@ private Q_SLOTS:
         QVERIFY(std::abs(verde(0) - 0x80) < 2);
         QVERIFY(verde(cuadro.height() / 2) < verde(0) - 8);
         QVERIFY(verde(cuadro.height() - 1) < verde(cuadro.height() / 2) - 8);
+    }
+
+    // A taller table keeps what it shows: the old part of the picture and the new one have one light.
+    void LaLuzNoDependeDeLaAltura() {
+        Imagenes imagenes(1);
+        LienzoRetenido baja(imagenes, Fondo::Fieltro), alta(imagenes, Fondo::Fieltro);
+        baja.PonTamano({40, 600}, false);
+        alta.PonTamano({40, 900}, false);
+        baja.PonTamano({40, 900}, true);
+        QCOMPARE(baja.Cuadro(), alta.Cuadro());
     }
 
     void UnVeloDejaVerAlgoDeLoQueCubre() {
