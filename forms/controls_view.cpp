@@ -46,7 +46,8 @@ bool EsIntro(const QKeyEvent& evento) {
 void PintaMarca(QPainter& p, const QAbstractButton& boton, const lamina::Recorte& pieza) {
     const QRect todo = estilo::CajaDe(boton);
     p.setOpacity(boton.isEnabled() ? 1 : 0.45);
-    estilo::PintaPieza(p, QPointF(0, (todo.height() - kLadoMarca) / 2), pieza);
+    const int arriba = (todo.height() - kLadoMarca) / 2;
+    estilo::PintaPieza(p, QPoint(0, arriba), pieza);
     p.setFont(boton.font());
     p.setPen(boton.palette().color(QPalette::WindowText));
     const QRect letras = todo.adjusted(kLadoMarca + 6, 0, 0, 0);
