@@ -14,8 +14,8 @@ constexpr int kAlrededor = 14; // what a frame and its sign paint beyond its pla
 
 struct Trazo {
     QColor color;
-    double grueso;
-    Qt::PenStyle estilo;
+    double grueso = 0;
+    Qt::PenStyle estilo = Qt::SolidLine;
 };
 
 // A light line on a dark one is seen on the felt and on white cards alike.
