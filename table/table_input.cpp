@@ -175,7 +175,7 @@ void SueltaElPuntero() {
     PonCursorNuevo();
 }
 
-void CalculaPuntero(int x, int y) {
+void BuscaPuntero(int x, int y) {
     vista.puntero_x = x;
     vista.puntero_y = y;
     estado.CursorNuevo = 0;
@@ -188,6 +188,10 @@ void CalculaPuntero(int x, int y) {
         estado.CursorNuevo = PunteroDeOrdenar(x, y);
     if (estado.RepartoEnCurso)
         estado.CursorNuevo = PunteroDeReparto(x, y);
+}
+
+void CalculaPuntero(int x, int y) {
+    BuscaPuntero(x, y);
     PonCursorNuevo();
 }
 
@@ -297,8 +301,11 @@ Punto ToqueDelCambio() {
 }
 
 void RefrescaPuntero() {
-    const SinTraza callado;
-    CalculaPuntero(vista.puntero_x, vista.puntero_y);
+    {
+        const SinTraza callado;
+        BuscaPuntero(vista.puntero_x, vista.puntero_y);
+    }
+    PonCursorNuevo();
 }
 
 void Form_MouseMove(int x, int y) {

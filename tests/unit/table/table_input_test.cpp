@@ -252,6 +252,17 @@ TEST_F(Entrada, AlEmpezarElTurnoElPunteroQueEstaEncimaCambia) {
     EXPECT_EQ(PunteroEnMesa(), Puntero::ManoVerde);
 }
 
+TEST_F(Entrada, MirarOtraVezBajoElPunteroNoQuedaAnotado) {
+    TurnoDeLaPersona();
+    const Punto carta = SobreCarta(4, 1);
+    Mueve(carta.x, carta.y);
+    EmpiezaTraza();
+    RefrescaPuntero();
+    EXPECT_TRUE(traza.empty());
+    Mueve(carta.x, carta.y);
+    EXPECT_FALSE(TrazaDe("ColocarCarta").empty());
+}
+
 TEST_F(Entrada, UnClicDuranteUnaPausaValeEnElSiguientePaseDondeSeDio) {
     TurnoDeLaPersona();
     const Punto carta = SobreCarta(4, 3);
