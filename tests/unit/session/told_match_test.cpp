@@ -94,7 +94,7 @@ const std::vector<Dicho> kDichos = {
     {"Cinquillo", kCinquillo, 4, 100, {" juega el Cinco de Oros", " pasa"}},
     {"Poker", kPoker, 4, 20, {" pone 5 de salida", " cobra "}},
     {"SieteYMedia", kSieteYMedia, 4, 5, {" apuesta ", " descubre "}},
-    {"BlackJack", kBlackJack, 4, 0, {" apuesta ", " toma ", " pierde "}},
+    {"BlackJack", kBlackJack, 4, 0, {" apuesta ", " toma ", " gana "}},
 };
 
 struct LoDichoEn : PartidaDicha, testing::WithParamInterface<Dicho> {};
