@@ -55,6 +55,14 @@ QStringList Visibles(VistaAyuda& ayuda) {
     return titulos;
 }
 
+// The page, in a window of the size in which it first comes.
+const QTextBrowser* HojaALoAncho(VistaAyuda& ayuda) {
+    ayuda.MuestraTema(0);
+    ayuda.resize(980, 680);
+    QCoreApplication::processEvents();
+    return ayuda.findChild<QTextBrowser*>();
+}
+
 } // namespace
 
 class PruebaAyuda : public QObject {
@@ -297,10 +305,7 @@ private Q_SLOTS:
 
     void LasHojasDeMesaCabenEnUnaPantalla() {
         VistaAyuda ayuda(PaginasDelProyecto(), BarajasDelProyecto());
-        ayuda.MuestraTema(0);
-        ayuda.resize(980, 680);
-        QCoreApplication::processEvents();
-        auto* hoja = ayuda.findChild<QTextBrowser*>();
+        const QTextBrowser* hoja = HojaALoAncho(ayuda);
         for (const int tema : {3119, 3129, 3139, 3149, 3159, 3169}) {
             ayuda.MuestraTema(tema);
             QVERIFY(hoja->toPlainText().size() > 500);
@@ -387,10 +392,7 @@ private Q_SLOTS:
 
     void NingunaPaginaSeSaleDeLaVentana() {
         VistaAyuda ayuda(PaginasDelProyecto(), BarajasDelProyecto());
-        ayuda.MuestraTema(0);
-        ayuda.resize(980, 680);
-        QCoreApplication::processEvents();
-        auto* hoja = ayuda.findChild<QTextBrowser*>();
+        const QTextBrowser* hoja = HojaALoAncho(ayuda);
         for (const PaginaAyuda& pagina : LeeContenido(PaginasDelProyecto())) {
             ayuda.MuestraTema(pagina.tema);
             QVERIFY2(hoja->horizontalScrollBar()->maximum() == 0, qPrintable(pagina.titulo));
