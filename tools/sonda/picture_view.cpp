@@ -71,8 +71,6 @@ std::string RutaDeBaraja() {
     return CarpetaDeDatos() + "/" + nombre;
 }
 
-} // namespace
-
 void PintaPantalla(const PlataformaSinPantalla& mesa, std::optional<Forma> abierta,
                    const std::string& fichero) {
     ArrancaLetras();
@@ -92,4 +90,12 @@ void PintaPantalla(const PlataformaSinPantalla& mesa, std::optional<Forma> abier
     PonEncima(pantalla, forma);
     if (!pantalla.save(QString::fromStdString(fichero)))
         throw ErrorConsola("no se puede escribir " + fichero);
+}
+
+} // namespace
+
+Consola::Pintor PintorDe(const PlataformaSinPantalla& mesa) {
+    return [&mesa](const std::string& fichero, std::optional<Forma> abierta) {
+        PintaPantalla(mesa, abierta, fichero);
+    };
 }
