@@ -5,15 +5,14 @@
 #include <QGuiApplication>
 #include <QTemporaryDir>
 #include <QWheelEvent>
+#include <QWindow>
 
-#include "core/random.h"
 #include "platform/qt/platform_qt.h"
 #include "reports/historic.h"
 #include "reports/historic_view.h"
 #include "reports/marcador.h"
 #include "reports/marcador_view.h"
 #include "reports/sheet_view.h"
-#include "session/match_driver.h"
 #include "storage/history.h"
 #include "tests/gui/open_form.h"
 
@@ -50,6 +49,16 @@ void Rueda(QWidget& sobre, int grados) {
     QApplication::sendEvent(&sobre, &evento);
 }
 
+// What the window shows while the mouse is over a control.
+Qt::CursorShape PunteroSobre(Abierta& forma, const QString& nombre) {
+    QWidget& control = forma.En(nombre);
+    QWindow* ventana = forma.dialogo.windowHandle();
+    QTest::mouseMove(ventana, {1, 1});
+    QTest::mouseMove(ventana, control.mapTo(&forma.dialogo, control.rect().center()));
+    QCoreApplication::processEvents();
+    return ventana->cursor().shape();
+}
+
 // Some of the letters on the paper are red: the picture holds the page.
 bool TieneTinta(const QImage& foto, Tinta tinta) {
     const Color color = ColorDe(tinta);
@@ -70,20 +79,6 @@ bool TieneTinta(const QImage& foto, Tinta tinta) {
 
 class PruebaInformes : public QObject, protected MesaDeFormas {
     Q_OBJECT
-
-    // Four seats of the computer; every question at the end is answered with a yes.
-    void JuegaUnaPartida() {
-        estado.CarpetaTrabajo = estado.CarpetaPrograma = ".";
-        estado.VelocidadJuego = 100;
-        estado.PausaEntreJugadas = false;
-        estado.LimitePartida = 2;
-        estado.RestoInicial = 50;
-        for (int asiento = 1; asiento <= 4; ++asiento)
-            estado.ControlJugador(asiento) = kAutomatico;
-        mesa_.siempre_continua = true;
-        FijaSemilla(7);
-        NuevaPartida();
-    }
 
 private Q_SLOTS:
     void init() {
@@ -287,7 +282,12 @@ private Q_SLOTS:
     void AnEmptyHistoryHasNoTotals() {
         QVERIFY(Con(AbreVistaHistoric, [](Abierta& forma) {
             QVERIFY(!forma.En("Pic_BotHisTt").isEnabled());
-            QCOMPARE(forma.En("Pic_BotHisTt").cursor().shape(), Qt::ForbiddenCursor);
+            QCOMPARE(PunteroSobre(forma, "Pic_BotHisTt"), Qt::ForbiddenCursor);
+            QVERIFY(PunteroSobre(forma, "Pic_BotSalir") != Qt::ForbiddenCursor);
+        }));
+        PonHistorico(1);
+        QVERIFY(Con(AbreVistaHistoric, [](Abierta& forma) {
+            QVERIFY(PunteroSobre(forma, "Pic_BotHisTt") != Qt::ForbiddenCursor);
         }));
     }
 

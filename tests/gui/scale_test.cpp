@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QEnterEvent>
 #include <QScreen>
 #include <QSettings>
 #include <QStandardPaths>
@@ -18,6 +19,8 @@
 #include "platform/qt/open_screen.h"
 #include "platform/qt/picture_platform.h"
 #include "platform/qt/scale.h"
+#include "reports/marcador.h"
+#include "reports/marcador_view.h"
 #include "table/button_column.h"
 #include "table/deck.h"
 #include "table/layout.h"
@@ -406,6 +409,20 @@ private Q_SLOTS:
         QVERIFY(Con(AbreVistaPersonal, [](Abierta& forma) {
             const double aumento = dynamic_cast<DialogoSuite&>(forma.dialogo).Aumento();
             QCOMPARE(forma.En<TextoVista>("Txt_Nombre_4").font().pixelSize(), qRound(12 * aumento));
+        }));
+    }
+
+    void LosBotonesDePaginaSonSuyosHastaElUltimoPixel() {
+        QVERIFY(Con(AbreVistaMarcador, [](Abierta& forma) {
+            QVERIFY(dynamic_cast<DialogoSuite&>(forma.dialogo).Aumento() > 1);
+            for (int cual = kAlPrincipio; cual <= kAlFinal; ++cual) {
+                QWidget& boton = forma.En(QStringLiteral("Pic_BotAdeAtr_%1").arg(cual));
+                for (const QPointF donde : {boton.rect().topLeft(), boton.rect().bottomRight()}) {
+                    QEnterEvent entra(donde, donde, boton.mapToGlobal(donde));
+                    QApplication::sendEvent(&boton, &entra);
+                    QCOMPARE(int{informe.BotonActivo}, cual);
+                }
+            }
         }));
     }
 
