@@ -49,6 +49,12 @@ int HojaAyuda::Margen() const {
     return qRound(kMargenPagina * aumento_);
 }
 
+// Beside the scroll bar, which comes only when the page is laid out.
+int HojaAyuda::AnchoDeTexto() const {
+    const int barra = verticalScrollBar()->sizeHint().width();
+    return width() - 2 * frameWidth() - barra - 2 * Margen();
+}
+
 void HojaAyuda::PonAumento(double aumento) {
     TomaLectura();
     aumento_ = aumento;
@@ -63,8 +69,12 @@ void HojaAyuda::PonAumento(double aumento) {
 QVariant HojaAyuda::loadResource(int tipo, const QUrl& nombre) {
     if (tipo == QTextDocument::ImageResource && DibujosAyuda::EsSuyo(nombre)) {
         ratio_ = devicePixelRatioF();
-        return dibujos_.Dibujo(nombre, ratio_, aumento_, viewport()->width() - 2 * Margen());
+        if (DibujosAyuda::EsFoto(nombre))
+            ancho_dibujado_ = AnchoDeTexto();
+        return dibujos_.Dibujo(nombre, ratio_, aumento_, AnchoDeTexto());
     }
+    if (tipo == QTextDocument::HtmlResource) // a page begins
+        ancho_dibujado_ = 0;
     const QVariant leido = QTextBrowser::loadResource(tipo, nombre);
     if (tipo != QTextDocument::StyleSheetResource)
         return leido;
@@ -88,7 +98,10 @@ void HojaAyuda::resizeEvent(QResizeEvent* evento) {
         return QTextBrowser::resizeEvent(evento);
     TomaLectura();
     QTextBrowser::resizeEvent(evento);
-    VuelveALaLectura();
+    if (ancho_dibujado_ != 0 && ancho_dibujado_ != AnchoDeTexto())
+        Rehaz();
+    else
+        VuelveALaLectura();
 }
 
 // The page read and drawn anew, with the same line at the head and the same letters chosen.

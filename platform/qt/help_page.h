@@ -37,6 +37,7 @@ private:
     };
 
     int Margen() const;
+    int AnchoDeTexto() const;
     void Rehaz();
     void TomaLectura();
     void VuelveALaLectura();
@@ -46,6 +47,8 @@ private:
     QList<ayuda::Clave> claves_;
     Lectura lectura_;
     QSize tamano_;
+    int ancho_dibujado_ =
+        0; // that of the text for which a picture as wide as the page was drawn, 0 there is none
     double aumento_ = 1;
     double ratio_ = 0; // of the screen for which the page's pictures were drawn, 0 none yet
 };

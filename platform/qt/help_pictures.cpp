@@ -113,6 +113,10 @@ bool DibujosAyuda::EsSuyo(const QUrl& cual) {
         kClases, [&](const char* clase) { return cual.scheme() == QLatin1String(clase); });
 }
 
+bool DibujosAyuda::EsFoto(const QUrl& cual) {
+    return cual.scheme() == QLatin1String("foto");
+}
+
 // A whole deck at once: a page with one of its cards has most often a dozen.
 Imagenes* DibujosAyuda::Baraja(int cual, double densidad) {
     auto& lista = listas_[{cual, densidad}];

@@ -30,6 +30,8 @@ public:
 
     // Whether the address is one of these pictures.
     static bool EsSuyo(const QUrl& cual);
+    // Whether it is a picture among the pages, which is never wider than the page.
+    static bool EsFoto(const QUrl& cual);
     // The picture for a screen with so many device pixels a pixel, marked with them, and aumento times as large as its
     // address says; null when there is none of that name. tope: the width of the page.
     QImage Dibujo(const QUrl& cual, double ratio, double aumento = 1, int tope = kSinTope);

@@ -33,8 +33,8 @@ constexpr QSize kTamano(980, 680);
 constexpr QSize
     kMenor(720, 520); // with a frame and a panel, still on a screen that holds the smallest table
 constexpr int kAnchoMinimo = 640; // narrower beside the table, the page is no pleasure to read
-constexpr int kAnchoArbol = 300;
-constexpr int kLetra = 14, kSangria = 14, kAire = 9, kEntre = 6, kAireDeNada = 4;
+constexpr int kAnchoArbol = 306;
+constexpr int kLetra = 14, kSangria = 12, kAire = 9, kEntre = 6, kAireDeNada = 4;
 
 // What a desktop's frame takes, as long as it is not known.
 constexpr QSize kMarcoSupuesto(16, 40);
