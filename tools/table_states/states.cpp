@@ -250,7 +250,8 @@ void Apuestan(Integer asiento, std::initializer_list<Integer> fichas) {
     for (const Integer d : fichas) {
         ++apuestas.NumFichasPuestas(asiento, 1);
         apuestas.FichasPuestas(asiento, 1, apuestas.NumFichasPuestas(asiento, 1)) = d;
-        apuestas.Apuesta(asiento, 1, kFaseApuestas) += ValorDe(d);
+        Integer& puesto = apuestas.Apuesta(asiento, 1, kFaseApuestas);
+        puesto = EnteroDe(puesto + ValorDe(d));
     }
 }
 
