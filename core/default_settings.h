@@ -12,6 +12,11 @@ struct LimitesRegla {
 inline constexpr LimitesRegla kLimitesRestoInicial{5, 995, 200}, kLimitesApuestaSalida{0, 999, 5},
     kLimitesApuestaMaxima{5, 995, 25}, kLimitesLimitePartida{1, 999, 3};
 
+// What a file may hold of the two that a form brings up to 5: less can be played with.
+inline constexpr LimitesRegla kRestoInicialLeido{1, kLimitesRestoInicial.maximo,
+                                                 kLimitesRestoInicial.defecto},
+    kApuestaMaximaLeida{1, 999, kLimitesApuestaMaxima.defecto};
+
 struct ReglaConLimites {
     Integer EstadoJuego::*campo;
     LimitesRegla limites;
@@ -26,9 +31,9 @@ inline constexpr std::array kReglas{
     ReglaConLimites{&EstadoJuego::LeyApertura, {1, 14, 1}},
     ReglaConLimites{&EstadoJuego::CartasBaraja, {1, 6, 1}},
     ReglaConLimites{&EstadoJuego::ComodinesJuego, {1, 3, 1}},
-    ReglaConLimites{&EstadoJuego::RestoInicial, kLimitesRestoInicial},
+    ReglaConLimites{&EstadoJuego::RestoInicial, kRestoInicialLeido},
     ReglaConLimites{&EstadoJuego::ApuestaSalida, kLimitesApuestaSalida},
-    ReglaConLimites{&EstadoJuego::ApuestaMaxima, kLimitesApuestaMaxima},
+    ReglaConLimites{&EstadoJuego::ApuestaMaxima, kApuestaMaximaLeida},
     ReglaConLimites{&EstadoJuego::LimitePartida, kLimitesLimitePartida},
 };
 

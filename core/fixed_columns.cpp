@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr char kBlancoDuro = '\xA0'; // no-break space
+constexpr char kBlancoDuro = '\xA0'; // no-break space: what older files have for an empty name
 
 bool EsControl(char byte) {
     const auto numero = static_cast<unsigned char>(byte);
@@ -78,17 +78,42 @@ struct Escritor {
     std::string operator()(const bool* bandera) const { return *bandera ? "-1" : "0"; }
 };
 
+// Takes the bytes of a field to where it stands. The answer is false for a number that does not fit.
 struct Lector {
     std::string_view bytes;
-    void operator()(std::string_view) const {}
-    void operator()(std::string* texto) const { *texto = LeeTexto(bytes); }
-    void operator()(Integer* numero) const { TomaNumero(bytes, *numero); }
-    void operator()(bool* bandera) const {
+    bool operator()(std::string_view) const { return true; }
+    bool operator()(std::string* texto) const {
+        *texto = LeeTexto(bytes);
+        return true;
+    }
+    bool operator()(Integer* numero) const { return TomaNumero(bytes, *numero); }
+    bool operator()(bool* bandera) const {
         Integer numero = 0;
-        if (TomaNumero(bytes, numero))
+        const bool cabe = TomaNumero(bytes, numero);
+        if (cabe)
             *bandera = numero != 0;
+        return cabe;
     }
 };
+
+std::size_t UltimaColumna(const Campos& campos) {
+    int ultima = 0;
+    for (const Campo& campo : campos)
+        ultima = std::max(ultima, campo.columna + campo.ancho - 1);
+    return static_cast<std::size_t>(ultima);
+}
+
+// A line that ends where its last field ends was written from its first column: the blanks are those of an empty name.
+bool EmpiezaEnSuColumna(std::string_view linea, const Campos& campos) {
+    return std::holds_alternative<std::string*>(campos.front().donde) &&
+           linea.find_last_not_of(' ') + 1 == UltimaColumna(campos);
+}
+
+std::string_view SinBlancosDelante(std::string_view linea, const Campos& campos) {
+    if (!EmpiezaEnSuColumna(linea, campos))
+        linea.remove_prefix(std::min(linea.find_first_not_of(' '), linea.size()));
+    return linea;
+}
 
 } // namespace
 
@@ -99,24 +124,24 @@ std::string EscribeCampos(const Campos& campos, int ancho) {
         const auto largo = std::min(texto.size(), static_cast<std::size_t>(campo.ancho));
         linea.replace(static_cast<std::size_t>(campo.columna - 1), largo, texto, 0, largo);
     }
-    if (linea.front() == ' ')
-        linea.front() = kBlancoDuro;
     return linea;
 }
 
-void LeeCampos(std::string_view linea, const Campos& campos) {
-    linea.remove_prefix(std::min(linea.find_first_not_of(' '), linea.size()));
+bool LeeCampos(std::string_view linea, const Campos& campos) {
+    linea = SinBlancosDelante(linea, campos);
     linea = linea.substr(0, linea.find(','));
+    bool caben = true;
     std::optional<NoEsNumero> fallo;
     for (const Campo& campo : campos) {
         const auto desde = std::min(static_cast<std::size_t>(campo.columna - 1), linea.size());
         const Lector lector{linea.substr(desde, static_cast<std::size_t>(campo.ancho))};
         try {
-            std::visit(lector, campo.donde);
+            caben = std::visit(lector, campo.donde) && caben;
         } catch (const NoEsNumero& este) {
             fallo = este;
         }
     }
     if (fallo)
         throw NoEsNumero(*fallo);
+    return caben;
 }

@@ -27,11 +27,11 @@ struct Campo {
 using Campos = std::vector<Campo>;
 
 // The line in Windows-1252, without its end: blanks, and over them each field, cut to its width. A field never
-// gets a control character, and a number that its width cuts down to a bare sign is written 0. A line that
-// would begin with a blank begins with a no-break space: blanks there are lost on reading.
+// gets a control character, and a number that its width cuts down to a bare sign is written 0.
 std::string EscribeCampos(const Campos& campos, int ancho);
 
-// Reads the fields from a line of any bytes as one free-format text: leading blanks are skipped, a comma ends
-// it, and what is not there reads as blanks. Texts come in UTF-8 without the blanks at their end. A field that is
-// no number stays as it was; the others are read all the same, and NoEsNumero tells of it afterwards.
-void LeeCampos(std::string_view linea, const Campos& campos);
+// Reads the fields from a line of any bytes as one free-format text: leading blanks are skipped, unless they are
+// an empty first text of a line that ends where its last field does, a comma ends it, and what is not there reads as blanks. Texts come in UTF-8 without the
+// blanks at their end. A field that is no number stays as it was; the others are read all the same, and NoEsNumero
+// tells of it afterwards. The answer is false when a number did not fit: its field, too, stays as it was.
+bool LeeCampos(std::string_view linea, const Campos& campos);

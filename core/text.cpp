@@ -250,8 +250,11 @@ double Val(std::string_view texto) {
     std::string sin;
     std::copy_if(texto.begin(), texto.end(), std::back_inserter(sin),
                  [](char c) { return c != ' '; });
+    // from_chars knows only the minus.
+    const bool con_mas = sin.starts_with('+') && !sin.starts_with("+-");
     double valor = 0;
-    const auto fin = std::from_chars(sin.data(), sin.data() + sin.size(), valor);
+    const auto fin =
+        std::from_chars(sin.data() + (con_mas ? 1 : 0), sin.data() + sin.size(), valor);
     return fin.ec == std::errc() && std::isfinite(valor) ? valor : 0;
 }
 

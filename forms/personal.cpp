@@ -188,13 +188,9 @@ std::string SoloLoQueCabe(std::string_view texto) {
     return limpio;
 }
 
-void CompletaNombres() {
-    for (Integer asiento = 1; asiento <= 4; ++asiento) {
-        std::string& nombre = estado.NombreJugador(asiento);
-        nombre = Recorta(nombre);
-        if (nombre.empty())
-            nombre = "Jugador" + Numero(asiento);
-    }
+void RecortaNombres() {
+    for (Integer asiento = 1; asiento <= 4; ++asiento)
+        estado.NombreJugador(asiento) = Recorta(estado.NombreJugador(asiento));
 }
 
 // ---- closing
@@ -252,7 +248,7 @@ bool Cierra() {
     const bool se_esperaba = estado.EsperandoJugada;
     TomaAsientos();
     CuentaJugadores();
-    CompletaNombres();
+    RecortaNombres();
     if (estado.PartidaEnCurso && !estado.JugadoresCambiados)
         DevuelveMesa(se_esperaba);
     if (estado.VentanaInfo == kVentanaCerrada)
@@ -263,7 +259,7 @@ bool Cierra() {
 
 void Deja() {
     estado.EstadoJugador = estado_al_abrir;
-    CompletaNombres();
+    RecortaNombres();
     abierta = false;
 }
 

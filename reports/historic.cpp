@@ -68,12 +68,19 @@ void Muestra(int pestana, int pagina) {
     RefrescaForma();
 }
 
+// To another page, that is heard; the wheel does not wait for it.
+void Vuelve(int pestana, int pagina) {
+    if (pestana != carpeta.pestana || pagina != carpeta.pagina)
+        Sonido(1, kSonidoPagina);
+    Muestra(pestana, pagina);
+}
+
 // One page over the edge of a tab lies the next one, or the last page of the one before.
 bool PasaPestana(int paso) {
     const int otra = carpeta.pestana + paso;
     if (carpeta.pestana == 0 || otra < 1 || otra > kPestanas)
         return false;
-    Muestra(otra, paso > 0 ? 1 : PaginasEn(carpeta, otra));
+    Vuelve(otra, paso > 0 ? 1 : PaginasEn(carpeta, otra));
     return true;
 }
 
@@ -118,7 +125,7 @@ int Pestana() {
 
 void PulsaPestana(int pestana) {
     if (carpeta.pestana != 0 && pestana >= 1 && pestana <= kPestanas)
-        Muestra(pestana, 1);
+        Vuelve(pestana, 1);
 }
 
 std::string NombreDePestana(int pestana) {
@@ -141,10 +148,10 @@ void PasaPagina(int paso) {
     const int pagina = carpeta.pagina + paso;
     const int paginas = PaginasEn(carpeta, carpeta.pestana);
     if (pagina >= 1 && pagina <= paginas)
-        return Muestra(carpeta.pestana, pagina);
+        return Vuelve(carpeta.pestana, pagina);
     if (paso == 0 || PasaPestana(paso > 0 ? 1 : -1))
         return;
-    Muestra(carpeta.pestana, std::clamp(pagina, 1, paginas));
+    Vuelve(carpeta.pestana, std::clamp(pagina, 1, paginas));
 }
 
 int PaginaEnVista() {

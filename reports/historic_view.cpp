@@ -196,8 +196,12 @@ private:
         totales_->setObjectName(QStringLiteral("Pic_BotHisTt"));
         connect(totales_, &QPushButton::clicked, this,
                 [this] { Atiende([] { historic::PulsaTotales(); }); });
+        bajo_totales_ = new QWidget(this);
+        auto* funda = new QHBoxLayout(bajo_totales_);
+        funda->setContentsMargins(0, 0, 0, 0);
+        funda->addWidget(totales_);
         auto* fila = new QHBoxLayout;
-        fila->addWidget(totales_);
+        fila->addWidget(bajo_totales_);
         fila->addStretch();
         fila->addWidget(HazBotonAyuda());
         fila->addSpacing(kMargen);
@@ -211,8 +215,7 @@ private:
         hoja_->Muestra(historic::Pagina());
         carpeta_->PonMarca(Qt8(historic::MarcaDePagina()));
         const bool hay = historic::HayTotales();
-        totales_->setEnabled(hay);
-        totales_->setCursor(CursorDe(hay ? Puntero::ManoIndice : Puntero::Prohibido));
+        PonTotales(hay);
         totales_->setText(historic::Pestana() == 0 ? QStringLiteral("Totales")
                                                    : QStringLiteral("Partidas"));
         lista_->setVisible(historic::Pestana() == 0);
@@ -220,6 +223,17 @@ private:
             PestanaVista& pestana = *pestanas_[static_cast<std::size_t>(cual - 1)];
             pestana.setVisible(historic::Pestana() != 0);
             pestana.setChecked(historic::Pestana() == cual);
+        }
+    }
+
+    // A disabled widget shows no pointer of its own, but what lies below it does.
+    void PonTotales(bool hay) {
+        totales_->setEnabled(hay);
+        if (hay) {
+            totales_->setCursor(CursorDe(Puntero::ManoIndice));
+        } else {
+            totales_->unsetCursor();
+            bajo_totales_->setCursor(CursorDe(Puntero::Prohibido));
         }
     }
 
@@ -243,6 +257,7 @@ private:
 
     CarpetaVista* carpeta_ = nullptr;
     HojaVista* hoja_ = nullptr;
+    QWidget* bajo_totales_ = nullptr;
     BotonSuite* totales_ = nullptr;
     PestanaVista* lista_ = nullptr;
     std::array<PestanaVista*, kPestanas> pestanas_{};

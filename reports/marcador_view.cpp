@@ -11,6 +11,7 @@
 #include <QStandardPaths>
 #include <QVBoxLayout>
 #include <QVariantAnimation>
+#include <QtMath>
 #include <array>
 
 #include "core/game_state.h"
@@ -45,11 +46,14 @@ public:
     }
 
     static constexpr int kLado = 24;
+    // Its place among the four.
+    static constexpr QPoint Esquina(int cual) { return {1 + (cual - 1) * 29, 1}; }
 
 protected:
     void enterEvent(QEnterEvent* evento) override {
-        const QPoint donde = mapToParent(evento->position().toPoint()) / estilo::AumentoDe(*this);
-        CualBoton(donde.x(), donde.y());
+        // A pixel of a grown button lies within one of its layout: rounded, the last one would be the next button's.
+        const QPointF dentro = estilo::PuntoEn(*this, evento->position());
+        CualBoton(Esquina(cual_).x() + qFloor(dentro.x()), Esquina(cual_).y() + qFloor(dentro.y()));
         update();
     }
     void leaveEvent(QEvent*) override { update(); }
@@ -140,7 +144,7 @@ private:
         for (int cual = kAlPrincipio; cual <= kAlFinal; ++cual) {
             auto* boton = new BotonPagina(cual, grupo);
             boton->setObjectName(QStringLiteral("Pic_BotAdeAtr_%1").arg(cual));
-            boton->move(1 + (cual - 1) * 29, 1);
+            boton->move(BotonPagina::Esquina(cual));
             connect(boton, &QAbstractButton::clicked, this, [this, cual] { PulsaPagina(cual); });
         }
         grupo->setFixedSize(112, 26);

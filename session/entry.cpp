@@ -21,13 +21,15 @@ namespace {
 constexpr int kAnchoNecesario = 800;
 constexpr const char* kPrueba = "CSCD.WRK";
 
-// What a player's own folder begins with: the settings, each game's file and its history, and what is shipped as data.
+// What a player's own folder begins with, in this order: the settings, those of each game, the histories, and what is
+// shipped as data.
 std::vector<std::string> LosFicheros() {
-    std::vector<std::string> ficheros{kIniGeneral, "Baraja01.bmp", "Baraja02.bmp", "PkFDes.ZOV"};
-    for (const FilaJuego* fila : FilasDeJuegos()) {
+    std::vector<std::string> ficheros{kIniGeneral};
+    for (const FilaJuego* fila : FilasDeJuegos())
         ficheros.push_back(NombreIniJuego(fila->id));
+    for (const FilaJuego* fila : FilasDeJuegos())
         ficheros.push_back(NombreHistorico(fila->id));
-    }
+    ficheros.insert(ficheros.end(), {"Baraja01.bmp", "Baraja02.bmp", "PkFDes.ZOV"});
     return ficheros;
 }
 

@@ -14,6 +14,7 @@
 #include "table/manual_spread.h"
 #include "table/messages.h"
 #include "table/options_menu.h"
+#include "table/score_plate.h"
 #include "table/sounds.h"
 #include "table/table_input.h"
 #include "table/table_view.h"
@@ -273,6 +274,7 @@ void TrasLaForma() {
         ConstruirBaraja();
         sesion.peticion = Peticion::NuevaPartida;
     } else {
+        RefrescaTanteo();
         GuardarPartida();
     }
 }

@@ -7,6 +7,7 @@
 #include "betting/chips.h"
 #include "core/game_state.h"
 #include "core/random.h"
+#include "games/common/series_state.h"
 #include "platform/platform.h"
 #include "session/initial_draw.h"
 #include "session/main_buttons.h"
@@ -124,6 +125,7 @@ void IniciarTablas() {
     estado.JuegoConBanca = false;
     estado.EsperandoJugada = false;
     estado.TutorPulsado = false;
+    series.PuedeAsegurar = series.PuedeAbrir = series.PuedeDoblar = false;
     estado.VentanaModal = false;
     Oculta(Control::Pic_BotDobSeg);
     CargaSugerencias();

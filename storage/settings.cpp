@@ -19,7 +19,7 @@ constexpr const char* kFinDeLinea = "\r\n";
 constexpr Integer kMaximoJuegos = 999; // what the three columns of the number hold
 
 // Numbers of the errors that a file has inside.
-constexpr int kSinError = 0, kNoEsUnNumero = 13, kFaltanLineas = 62;
+constexpr int kSinError = 0, kDesborda = 6, kNoEsUnNumero = 13, kFaltanLineas = 62;
 
 struct FaltanLineas {};
 
@@ -55,20 +55,25 @@ ErrorArchivo Graba(const std::string& nombre, std::string_view contenido) {
     return plataforma().LosArchivos().Escribe(EnCarpeta(estado.CarpetaPrograma, nombre), contenido);
 }
 
-// Gives the lines of a file to whoever takes them; the answer is the number of the error.
-int Lee(const std::string& nombre, const std::function<void(Lineas&)>& toma) {
+// Gives the lines of a file to whoever takes them, and tells whether all numbers fitted; the answer is the number of the
+// error.
+int Lee(const std::string& nombre, const std::function<bool(Lineas&)>& toma) {
     const Lectura lectura = plataforma().LosArchivos().Lee(RutaDeLectura(nombre));
     if (lectura.error != ErrorArchivo::Ninguno)
         return static_cast<int>(lectura.error);
     Lineas lineas(lectura.contenido);
     try {
-        toma(lineas);
-        return kSinError;
+        return toma(lineas) ? kSinError : kDesborda;
     } catch (const NoEsNumero&) {
         return kNoEsUnNumero;
     } catch (const FaltanLineas&) {
         return kFaltanLineas;
     }
+}
+
+// A number that does not fit costs its own field and nothing else.
+bool SeHaLeido(int error) {
+    return error == kSinError || error == kDesborda;
 }
 
 bool Falta(int error) {
@@ -95,7 +100,8 @@ void ApartaDanado(const std::string& nombre, int error) {
 void Rehaz(const std::string& nombre, const std::string& rotulo, int error,
            ErrorArchivo (*graba)()) {
     estado.FicheroNuevo = true;
-    Avisa(nombre, rotulo, error);
+    if (!SeHaLeido(error))
+        Avisa(nombre, rotulo, error);
     if (!plataforma().GuardaPartidas())
         return;
     ApartaDanado(nombre, error);
@@ -103,24 +109,27 @@ void Rehaz(const std::string& nombre, const std::string& rotulo, int error,
     static_cast<void>(graba());
 }
 
-void LeeRegistros(Lineas& lineas, int cuantos) {
+bool LeeRegistros(Lineas& lineas, int cuantos) {
     estado.Juegos.Borra();
+    bool caben = true;
     for (int juego = 1; juego <= cuantos; ++juego) {
         RegistroJuego& registro = estado.Juegos(juego);
-        LeeCampos(lineas.Siguiente(), ini::Registro(registro));
+        caben = LeeCampos(lineas.Siguiente(), ini::Registro(registro)) && caben;
         registro.Inicio = Recorta(registro.Inicio);
     }
+    return caben;
 }
 
-void LeeJuego(Lineas& lineas) {
+bool LeeJuego(Lineas& lineas) {
     EntreManos entre_manos = ComoEsta();
-    LeeCampos(lineas.Siguiente(), ini::Ajustes(entre_manos));
+    bool caben = LeeCampos(lineas.Siguiente(), ini::Ajustes(entre_manos));
     const bool con_juegos = estado.PartidaEnCurso && entre_manos.juegos > 0;
     entre_manos.juegos = con_juegos ? std::min(entre_manos.juegos, kMaximoJuegos) : Integer{0};
-    LeeCampos(lineas.Siguiente(), ini::Dinero(entre_manos));
-    LeeCampos(lineas.Siguiente(), ini::Apuestas(entre_manos));
-    LeeRegistros(lineas, entre_manos.juegos);
+    caben = LeeCampos(lineas.Siguiente(), ini::Dinero(entre_manos)) && caben;
+    caben = LeeCampos(lineas.Siguiente(), ini::Apuestas(entre_manos)) && caben;
+    caben = LeeRegistros(lineas, entre_manos.juegos) && caben;
     Repon(entre_manos);
+    return caben;
 }
 
 void PonJuegoNuevo() {
@@ -138,8 +147,8 @@ std::string NombreIniJuego(int juego) {
 
 void LeerIniGeneral() {
     estado.FicheroNuevo = false;
-    const int error =
-        Lee(kIniGeneral, [](Lineas& lineas) { LeeCampos(lineas.Siguiente(), ini::General()); });
+    const int error = Lee(
+        kIniGeneral, [](Lineas& lineas) { return LeeCampos(lineas.Siguiente(), ini::General()); });
     ReparaGeneral();
     if (error != kSinError)
         Rehaz(kIniGeneral, "IDC ERROR ", error, GrabarIniGeneral);
@@ -149,7 +158,7 @@ void LeerIniJuego() {
     estado.FicheroNuevo = false;
     const std::string nombre = NombreIniJuego(estado.JuegoActivo);
     const int error = Lee(nombre, LeeJuego);
-    if (error != kSinError)
+    if (!SeHaLeido(error))
         PonJuegoNuevo();
     estado.ManoEnCurso = false;
     ReparaJuego();

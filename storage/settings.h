@@ -13,13 +13,14 @@ inline constexpr const char* kIniGeneral = "ZOV31.INI";
 
 // Reads ZOV31.INI into JuegoActivo, SonidoActivo and VelocidadJuego and repairs them. A missing or unreadable
 // file gives one message and is written anew with GrabarIniGeneral; what of it is no number stays as it stood, the
-// other values are taken. An unreadable one is kept beside it with the ending .MAL. Writes FicheroNuevo: the file was made anew. When
-// that cannot be written nothing is said here: the next save tells it.
+// other values are taken. A number that does not fit stays as it stood without a word, and the file is written anew as
+// well. The file as it was is kept beside the new one with the ending .MAL. Writes FicheroNuevo: the file was made anew.
+// When that cannot be written nothing is said here: the next save tells it.
 void LeerIniGeneral();
 
 // Reads the file of JuegoActivo: seats, rules, money and the match between hands (Juegos included), and
 // repairs what is outside its limits. A missing or unreadable file gives one message, all defaults and no
-// match, and is written anew as above. The bank's values of Black Jack are imposed in every case.
+// match, and is written anew as above; a number that does not fit costs its field alone. The bank's values of Black Jack are imposed in every case.
 // JuegosJugados comes as the number of games finished, ManoEnCurso false, and RestoPrevio and ApuestaPrevia
 // (the money when the hand began) as the money read.
 void LeerIniJuego();

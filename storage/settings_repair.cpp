@@ -1,6 +1,5 @@
 #include "storage/settings_repair.h"
 
-#include <algorithm>
 #include <array>
 
 #include "betting/money_repair.h"
@@ -103,7 +102,6 @@ void ReparaJuego() {
         Encaja(estado.*regla.campo, regla.limites);
     for (const ReglaConLimites& turno : kTurnos)
         Encaja(estado.*turno.campo, turno.limites);
-    estado.LeyApertura = std::max(estado.LeyApertura, estado.CartasBaraja);
     estado.PasoSentido = estado.SentidoJuego == kInverso ? -1 : 1;
     const FilaJuego& juego = JuegoEnMesa();
     if (juego.asientos.banca != 0)

@@ -14,6 +14,13 @@ QString DatosInstalados() {
     return QCoreApplication::applicationDirPath() + u'/' + QString::fromLatin1(kDatosInstalados);
 }
 
+// Whether some of what the program comes with lies there.
+bool HayJuegoEn(const QString& carpeta) {
+    const QDir dir(carpeta);
+    return dir.exists(QStringLiteral("Baraja01.bmp")) ||
+           dir.exists(QStringLiteral("Baraja02.bmp")) || dir.exists(QStringLiteral("PkFDes.ZOV"));
+}
+
 QString PrimeroQueHay(const QStringList& sitios) {
     for (const QString& sitio : sitios) {
         if (QFileInfo::exists(sitio))
@@ -33,7 +40,8 @@ QString CarpetaDeArranque(const QString& orden) {
     const QString programa = orden.contains(u'/') ? orden : QStandardPaths::findExecutable(orden);
     if (programa.isEmpty() || !QFileInfo::exists(programa))
         return QCoreApplication::applicationDirPath();
-    return QFileInfo(programa).absolutePath();
+    const QString carpeta = QFileInfo(programa).absolutePath();
+    return HayJuegoEn(carpeta) ? carpeta : QCoreApplication::applicationDirPath();
 }
 
 QString CarpetaAyuda(const QString& programa) {

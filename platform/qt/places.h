@@ -5,7 +5,8 @@
 
 // What an installed program comes with, for all its players; empty for a program that lies in one folder with its files.
 QString CarpetaDeInstalacion();
-// The folder through which the program was started, its last link not followed.
+// The folder through which the program was started, its last link not followed; the program's own when nothing but the
+// link lies there, as in ~/bin.
 QString CarpetaDeArranque(const QString& orden);
 // The help pages, and the sound plugin; the first candidate when there is none at all.
 QString CarpetaAyuda(const QString& programa);

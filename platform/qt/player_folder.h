@@ -9,7 +9,8 @@
 QString CarpetaDeLoQueTrae(const QString& orden);
 
 // Makes the folder, and copies into it what it lacks of datos: the settings only at its first start, for later a file
-// that is lost is to be told; a deck that was taken away comes back. False when it cannot be played in afterwards.
+// that is lost is to be told; a deck that was taken away comes back. False when it cannot be played in afterwards, or
+// nothing can be written there.
 [[nodiscard]] bool LlenaCarpeta(const QString& datos, const QString& propia);
 
 // A program that lies in one folder with its files is played there. One that is installed for all gives each player

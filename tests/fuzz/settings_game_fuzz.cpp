@@ -45,7 +45,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t n) 
     mesa.Archivo(nombre) = contenido;
 
     LeerIniJuego();
-    const std::size_t avisos = estado.FicheroNuevo ? 1 : 0;
+    // A number that does not fit makes the file anew without a word.
+    const std::size_t avisos = mesa.Mensajes().size();
+    Exige(avisos <= (estado.FicheroNuevo ? 1U : 0U), "un aviso por archivo, a lo sumo");
     ExigeEstadoValido(avisos, mesa);
     const std::string danado = nombre.substr(0, nombre.size() - 4) + ".MAL";
     Exige(mesa.Hay(danado) == estado.FicheroNuevo, "el dañado se guarda");

@@ -6,6 +6,7 @@
 #include <QTest>
 #include <optional>
 
+#include "platform/qt/places.h"
 #include "platform/qt/player_folder.h"
 
 class PruebaCarpetaDelJugador : public QObject {
@@ -61,13 +62,59 @@ private Q_SLOTS:
         QVERIFY2(!QFile::exists(Propia("ZOV5831.INI")), "the table tells of it and makes it anew");
     }
 
-    void UnaCopiaCortadaEmpiezaDeNuevo() {
+    void ElAjusteGeneralPerdidoNoTraeConsigoLosDemas() {
+        QVERIFY(Llena());
+        Escribe(Datos("ZOV0131.INI"), "ZOV0131.INI");
+        QFile::remove(Propia("ZOV31.INI"));
+        QVERIFY(Llena());
+        QVERIFY2(!QFile::exists(Propia("ZOV31.INI")), "the table tells of it and makes it anew");
+        QVERIFY(!QFile::exists(Propia("ZOV0131.INI")));
+        QCOMPARE(Lee(Propia("ZOV5831.INI")), QByteArray("ZOV5831.INI"));
+    }
+
+    void SinNingunAjusteEsLaPrimeraVez() {
         QVERIFY(Llena());
         QFile::remove(Propia("ZOV31.INI"));
         QFile::remove(Propia("ZOV5831.INI"));
         QVERIFY(Llena());
         QCOMPARE(Lee(Propia("ZOV5831.INI")), QByteArray("ZOV5831.INI"));
         QCOMPARE(Lee(Propia("ZOV31.INI")), QByteArray("ZOV31.INI"));
+    }
+
+    // The power failed between two files: what is there stays, the rest comes.
+    void UnaCopiaCortadaSeAcabaLaVezSiguiente() {
+        QDir(casa_->path()).mkpath("ana/zovin");
+        Escribe(Propia("A-MEDIAS.WRK"), "");
+        Escribe(Propia("ZOV31.INI"), "ya estaba");
+        QVERIFY(Llena());
+        QCOMPARE(Lee(Propia("ZOV31.INI")), QByteArray("ya estaba"));
+        QCOMPARE(Lee(Propia("ZOV5831.INI")), QByteArray("ZOV5831.INI"));
+        QVERIFY(!QFile::exists(Propia("A-MEDIAS.WRK")));
+    }
+
+    void LaMarcaDeLaCopiaNoQueda() {
+        QVERIFY(Llena());
+        QCOMPARE(QDir(casa_->filePath("ana/zovin")).entryList(QDir::Files).size(), 4);
+    }
+
+    // Nobody may make a file there, not even root: the folder lacks nothing, and nothing can be written.
+    void UnaCarpetaLlenaQueYaNoSePuedeEscribirSeDice() {
+        QDir(casa_->path()).mkpath("nada");
+        QVERIFY(!LlenaCarpeta(casa_->filePath("nada"), "/proc/self"));
+        QVERIFY(LlenaCarpeta(casa_->filePath("nada"), casa_->filePath("ana/zovin")));
+    }
+
+    void UnEnlaceSoloLlevaALaCarpetaDelPrograma() {
+        QDir(casa_->path()).mkpath("bin");
+        const QString enlace = casa_->filePath("bin/zovin");
+        QVERIFY(QFile::link(QCoreApplication::applicationFilePath(), enlace));
+        QCOMPARE(CarpetaDeArranque(enlace), QCoreApplication::applicationDirPath());
+        for (const char* nombre : {"Baraja01.bmp", "Baraja02.bmp", "PkFDes.ZOV"}) {
+            const QString pieza = casa_->filePath(QStringLiteral("bin/") + nombre);
+            Escribe(pieza, nombre);
+            QCOMPARE(CarpetaDeArranque(enlace), casa_->filePath("bin"));
+            QFile::remove(pieza);
+        }
     }
 
     void LoCopiadoDeUnaInstalacionCerradaSePuedeEscribir() {

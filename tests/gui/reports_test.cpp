@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 #include <QTemporaryDir>
 #include <QWheelEvent>
+#include <QWindow>
 
 #include "platform/qt/platform_qt.h"
 #include "reports/historic.h"
@@ -46,6 +47,16 @@ void Rueda(QWidget& sobre, int grados) {
     QWheelEvent evento(medio, sobre.mapToGlobal(medio), {}, {0, grados}, Qt::NoButton,
                        Qt::NoModifier, Qt::NoScrollPhase, false);
     QApplication::sendEvent(&sobre, &evento);
+}
+
+// What the window shows while the mouse is over a control.
+Qt::CursorShape PunteroSobre(Abierta& forma, const QString& nombre) {
+    QWidget& control = forma.En(nombre);
+    QWindow* ventana = forma.dialogo.windowHandle();
+    QTest::mouseMove(ventana, {1, 1});
+    QTest::mouseMove(ventana, control.mapTo(&forma.dialogo, control.rect().center()));
+    QCoreApplication::processEvents();
+    return ventana->cursor().shape();
 }
 
 // Some of the letters on the paper are red: the picture holds the page.
@@ -271,7 +282,12 @@ private Q_SLOTS:
     void AnEmptyHistoryHasNoTotals() {
         QVERIFY(Con(AbreVistaHistoric, [](Abierta& forma) {
             QVERIFY(!forma.En("Pic_BotHisTt").isEnabled());
-            QCOMPARE(forma.En("Pic_BotHisTt").cursor().shape(), Qt::ForbiddenCursor);
+            QCOMPARE(PunteroSobre(forma, "Pic_BotHisTt"), Qt::ForbiddenCursor);
+            QVERIFY(PunteroSobre(forma, "Pic_BotSalir") != Qt::ForbiddenCursor);
+        }));
+        PonHistorico(1);
+        QVERIFY(Con(AbreVistaHistoric, [](Abierta& forma) {
+            QVERIFY(PunteroSobre(forma, "Pic_BotHisTt") != Qt::ForbiddenCursor);
         }));
     }
 

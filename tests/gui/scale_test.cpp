@@ -3,21 +3,26 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QEnterEvent>
 #include <QScreen>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QTest>
 #include <QToolTip>
+#include <algorithm>
 #include <array>
 
 #include "core/numeric.h"
 #include "forms/controls_view.h"
 #include "forms/normas_view.h"
 #include "forms/personal_view.h"
+#include "platform/qt/help_viewer.h"
 #include "platform/qt/message_box.h"
 #include "platform/qt/open_screen.h"
 #include "platform/qt/picture_platform.h"
 #include "platform/qt/scale.h"
+#include "reports/marcador.h"
+#include "reports/marcador_view.h"
 #include "table/button_column.h"
 #include "table/deck.h"
 #include "table/layout.h"
@@ -237,11 +242,31 @@ private Q_SLOTS:
         QCOMPARE(viva_.Vista(Control::Pic_Botonera)->height(),
                  900); // the game has not laid it out yet
         QCOMPARE(QToolTip::font().pixelSize(), 18);
+        QCOMPARE(QApplication::font("QMenu").pixelSize(), 18);
         viva_.Mesa().PonPuntero(Control::Mesa, 0, Puntero::Cambiar);
         QCOMPARE(viva_.Tapete()->cursor().pixmap().width(), 48);
         QCOMPARE(viva_.Tapete()->cursor().hotSpot(), QPoint(23, 24));
         Mide(800, 600);
         QCOMPARE(viva_.Tapete()->cursor().pixmap().width(), 32);
+        QCOMPARE(QToolTip::font().pixelSize(), 12);
+    }
+
+    void LaAyudaAbiertaCreceConLaMesa() {
+        Mide(1280, 800);
+        viva_.Mesa().Ayuda(0);
+        const auto ventanas = QApplication::topLevelWidgets();
+        const auto ayuda = std::ranges::find(ventanas, "ayuda", &QWidget::objectName);
+        QVERIFY(ayuda != ventanas.end());
+        const auto* vista = qobject_cast<const VistaAyuda*>(*ayuda);
+        QCOMPARE(vista->Aumento(), 1.0);
+        Mide(1920, 1080);
+        QVERIFY(vista->Aumento() > 1); // as far as this screen has room
+        for (int veces = 0; veces < 2; ++veces) {
+            Pulsa(Qt::Key_Minus);
+            Toma();
+        }
+        QCOMPARE(FactorDeMesa(), 1.0);
+        QCOMPARE(vista->Aumento(), 1.0);
     }
 
     // ---- what the player makes of it
@@ -406,6 +431,20 @@ private Q_SLOTS:
         QVERIFY(Con(AbreVistaPersonal, [](Abierta& forma) {
             const double aumento = dynamic_cast<DialogoSuite&>(forma.dialogo).Aumento();
             QCOMPARE(forma.En<TextoVista>("Txt_Nombre_4").font().pixelSize(), qRound(12 * aumento));
+        }));
+    }
+
+    void LosBotonesDePaginaSonSuyosHastaElUltimoPixel() {
+        QVERIFY(Con(AbreVistaMarcador, [](Abierta& forma) {
+            QVERIFY(dynamic_cast<DialogoSuite&>(forma.dialogo).Aumento() > 1);
+            for (int cual = kAlPrincipio; cual <= kAlFinal; ++cual) {
+                QWidget& boton = forma.En(QStringLiteral("Pic_BotAdeAtr_%1").arg(cual));
+                for (const QPointF donde : {boton.rect().topLeft(), boton.rect().bottomRight()}) {
+                    QEnterEvent entra(donde, donde, boton.mapToGlobal(donde));
+                    QApplication::sendEvent(&boton, &entra);
+                    QCOMPARE(int{informe.BotonActivo}, cual);
+                }
+            }
         }));
     }
 

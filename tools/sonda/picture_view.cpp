@@ -60,8 +60,9 @@ QImage FotoDe(Forma forma) {
     return {};
 }
 
-// In the middle of the table, as the window shows it.
-void PonEncima(QImage& cuadro, const QImage& forma) {
+// In the middle of the table, as the window shows it; both in device pixels.
+void PonEncima(QImage& cuadro, QImage forma) {
+    forma.setDevicePixelRatio(1);
     QPainter(&cuadro).drawImage((cuadro.width() - forma.width()) / 2,
                                 (cuadro.height() - forma.height()) / 2, forma);
 }
@@ -75,7 +76,7 @@ void PintaPantalla(const PlataformaSinPantalla& mesa, std::optional<Forma> abier
                    const std::string& fichero) {
     ArrancaLetras();
     const QImage forma = abierta ? FotoDe(*abierta) : QImage();
-    PlataformaCuadro cuadro;
+    PlataformaCuadro cuadro(qApp->devicePixelRatio());
     cuadro.Mide(estado.AnchoPantalla, estado.AltoPantalla);
     cuadro.CargaBaraja(RutaDeBaraja(), estado.ColumnasBaraja);
     mesa.Tablero().CopiaEn(cuadro);

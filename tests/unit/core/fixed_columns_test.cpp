@@ -48,7 +48,7 @@ TEST(EscribeCampos, UnSignoSoloNoSeEscribe) {
 
 TEST(EscribeCampos, UnaConstanteSeEscribeYNoSeLee) {
     const Campos campos{{2, 3, " 0 "}};
-    EXPECT_EQ(EscribeCampos(campos, 5), "\xA0 0  ");
+    EXPECT_EQ(EscribeCampos(campos, 5), "  0  ");
     EXPECT_NO_THROW(LeeCampos("xxxxx", campos));
 }
 
@@ -56,15 +56,17 @@ TEST(EscribeCampos, LosCaracteresDeControlNoRompenLaLinea) {
     EXPECT_EQ((Fila{"A\r\nB", 1, false, 2}.Escrita()), "A  B0010   2");
 }
 
-// Blanks at the head of a line are lost on reading, and would pull all columns to the left.
-TEST(EscribeCampos, UnaLineaNuncaEmpiezaEnBlanco) {
-    Fila fila{"", 7, true, 45};
-    const std::string linea = fila.Escrita();
-    EXPECT_EQ(linea, "\xA0   007-1 45");
-    fila = {"antes", 0, false, 0};
-    fila.Lee(linea);
-    EXPECT_EQ(fila.nombre, "");
-    EXPECT_EQ(fila.numero, 7);
+// The blanks of an empty first field do not pull the other columns to the left.
+TEST(LeeCampos, UnPrimerCampoVacioNoDescolocaLaLinea) {
+    const std::string linea = Fila{"", 7, true, 45}.Escrita();
+    EXPECT_EQ(linea, "    007-1 45");
+    // As written, with blanks behind it, and as older files have it.
+    for (const std::string& leida : {linea, linea + "   ", "\xA0" + linea.substr(1)}) {
+        const Fila fila = Fila{"antes"}.Lee(leida);
+        EXPECT_EQ(fila.nombre, "");
+        EXPECT_EQ(fila.numero, 7);
+        EXPECT_EQ(fila.total, 45);
+    }
 }
 
 TEST(LeeCampos, LeeLoQueSeEscribio) {
@@ -135,16 +137,17 @@ TEST(LeeCampos, LoQueNoEsUnNumeroEsUnError) {
 
 TEST(LeeCampos, UnNumeroDeMasDe16BitsDejaElCampoComoEstaba) {
     Fila fila{"", 50, true, 7};
-    fila.Lee("Ana 9E9-1 45");
+    EXPECT_FALSE(LeeCampos("Ana 9E9-1 45", fila.LosCampos()));
     EXPECT_EQ(fila.numero, 50);
     EXPECT_EQ(fila.total, 45);
+    EXPECT_TRUE(LeeCampos("Ana 009-1 45", fila.LosCampos()));
 
     Integer ancho = 3;
-    LeeCampos("99999", {{1, 5, &ancho, "@@@@@"}});
+    EXPECT_FALSE(LeeCampos("99999", {{1, 5, &ancho, "@@@@@"}}));
     EXPECT_EQ(ancho, 3);
-    LeeCampos("1E999", {{1, 5, &ancho, "@@@@@"}});
+    EXPECT_FALSE(LeeCampos("1E999", {{1, 5, &ancho, "@@@@@"}}));
     EXPECT_EQ(ancho, 3);
-    LeeCampos("32767", {{1, 5, &ancho, "@@@@@"}});
+    EXPECT_TRUE(LeeCampos("32767", {{1, 5, &ancho, "@@@@@"}}));
     EXPECT_EQ(ancho, 32767);
 }
 

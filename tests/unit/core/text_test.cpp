@@ -127,6 +127,10 @@ TEST(Val, LeeElNumeroDelPrincipio) {
     EXPECT_EQ(Val("12"), 12);
     EXPECT_EQ(Val("  1 2 ptos"), 12);
     EXPECT_EQ(Val("-7.5"), -7.5);
+    EXPECT_EQ(Val("+5"), 5);
+    EXPECT_EQ(Val(" + 12"), 12);
+    EXPECT_EQ(Val("+-5"), 0);
+    EXPECT_EQ(Val("+"), 0);
     EXPECT_EQ(Val("Media"), 0);
     EXPECT_EQ(Val(""), 0);
     EXPECT_EQ(Val("inf"), 0);

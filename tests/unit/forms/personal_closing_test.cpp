@@ -256,7 +256,7 @@ TEST_F(PersonalTest, ClosedFromOutsideTheSeatsStayAsTheyWere) {
         personal::PulsaSelector(kSelEstado + asiento);
     personal::EscribeNombre(kDerecha, "   ");
     personal::Deja();
-    EXPECT_EQ(estado.NombreJugador(kDerecha), "Jugador3");
+    EXPECT_EQ(estado.NombreJugador(kDerecha), "");
     EXPECT_FALSE(personal::Abierta());
     for (Integer asiento = 1; asiento <= 4; ++asiento)
         EXPECT_EQ(estado.EstadoJugador(asiento), kActivado);

@@ -85,14 +85,14 @@ TEST_F(PersonalTest, ANameHoldsNothingThatTheFileCannot) {
     EXPECT_EQ(personal::FormaNombre(""), "");
 }
 
-TEST_F(PersonalTest, ClosingTrimsTheNamesAndFillsTheEmptyOnes) {
+TEST_F(PersonalTest, ClosingTrimsTheNamesAndAnEmptyOneStaysEmpty) {
     AbreEn(kTute);
     personal::EscribeNombre(1, "ana ");
     personal::EscribeNombre(2, "   ");
     EXPECT_EQ(estado.NombreJugador(1), "Ana ");
     ASSERT_TRUE(personal::Cierra());
     EXPECT_EQ(estado.NombreJugador(1), "Ana");
-    EXPECT_EQ(estado.NombreJugador(2), "Jugador2");
+    EXPECT_EQ(estado.NombreJugador(2), "");
 }
 
 // ---- sliders, check boxes, selectors without an interlock

@@ -299,7 +299,26 @@ TEST_F(HistoricTest, TheHandlesOfTheForm) {
     EXPECT_THAT(mesa.LaPlataforma().temas_ayuda, ElementsAre(kAyudaHistorico));
     EXPECT_TRUE(mandos.cierra());
     EXPECT_FALSE(mandos.abierta());
-    EXPECT_THAT(mesa.Sonidos(), ElementsAre(kSonidoSalir));
+    EXPECT_THAT(mesa.Sonidos(),
+                ElementsAre(kSonidoPagina, kSonidoPagina, kSonidoPagina, kSonidoSalir));
+}
+
+TEST_F(HistoricTest, APageThatTurnsIsHeardAndOneThatStaysIsNot) {
+    Pon(kTute);
+    for (int n = 1; n <= 25; ++n)
+        Juega({2026, 1, n, 20, 0, 0}, {{"J" + std::to_string(n), n}}, {{"Luis", 2}});
+    historic::Abre();
+    mesa.Olvida();
+    historic::PasaPagina(-1);
+    EXPECT_THAT(mesa.Sonidos(), IsEmpty());
+    historic::PasaPagina(1);
+    EXPECT_THAT(mesa.Sonidos(), ElementsAre(kSonidoPagina));
+    historic::PulsaTotales();
+    mesa.Olvida();
+    historic::PulsaPestana(1);
+    EXPECT_THAT(mesa.Sonidos(), IsEmpty());
+    historic::PulsaPestana(2);
+    EXPECT_THAT(mesa.Sonidos(), ElementsAre(kSonidoPagina));
 }
 
 TEST_F(HistoricTest, WhatIsNoDateIsShownAsItReads) {

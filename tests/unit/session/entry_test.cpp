@@ -19,6 +19,12 @@ namespace {
 constexpr const char* kPrograma = "/programa";
 constexpr const char* kUsuario = "/casa/ana/zovin";
 
+// In the order in which they are copied.
+constexpr const char* kFicheros[]{"ZOV31.INI",   "ZOV0131.INI",  "ZOV3131.INI",  "ZOV5131.INI",
+                                  "ZOV5831.INI", "ZOV6531.INI",  "ZOV7031.INI",  "ZOV0131.HIS",
+                                  "ZOV3131.HIS", "ZOV5131.HIS",  "ZOV5831.HIS",  "ZOV6531.HIS",
+                                  "ZOV7031.HIS", "Baraja01.bmp", "Baraja02.bmp", "PkFDes.ZOV"};
+
 // A desktop with folders of its own, a screen that can be too small, and a splash.
 struct Escritorio : PlataformaSinPantalla {
     std::string CarpetaDelPrograma() const override { return kPrograma; }
@@ -34,6 +40,26 @@ struct Escritorio : PlataformaSinPantalla {
     int ancho = 800, alto = 600;
     bool de_primera_vez = false;
     std::vector<std::string> sucesos;
+};
+
+// Files that note which ones were asked for, and which were written.
+struct ArchivosAnotados : ArchivosMemoria {
+    Lectura Lee(const std::string& ruta) override {
+        leidos.push_back(ruta);
+        return ArchivosMemoria::Lee(ruta);
+    }
+    ErrorArchivo Escribe(const std::string& ruta, std::string_view contenido) override {
+        const ErrorArchivo error = ArchivosMemoria::Escribe(ruta, contenido);
+        if (error == ErrorArchivo::Ninguno)
+            escritos.push_back(ruta);
+        return error;
+    }
+    std::vector<std::string> leidos, escritos;
+};
+
+struct EscritorioAnotado : Escritorio {
+    Archivos& LosArchivos() override { return anotados; }
+    ArchivosAnotados anotados;
 };
 
 struct Arranque : MesaViva {
@@ -91,14 +117,26 @@ TEST_F(Arranque, DondeNoSePuedeSeTrabajaEnLaDelUsuarioConUnaCopia) {
 
 TEST_F(Arranque, LosDieciseisFicherosSeCopian) {
     ProgramaDeSoloLectura();
-    for (const char* nombre :
-         {"ZOV31.INI", "ZOV0131.INI", "ZOV3131.INI", "ZOV5131.INI", "ZOV5831.INI", "ZOV6531.INI",
-          "ZOV7031.INI", "ZOV0131.HIS", "ZOV3131.HIS", "ZOV5131.HIS", "ZOV5831.HIS", "ZOV6531.HIS",
-          "ZOV7031.HIS", "Baraja01.bmp", "Baraja02.bmp", "PkFDes.ZOV"})
+    for (const char* nombre : kFicheros)
         Archivos().contenidos[EnPrograma(nombre)] = nombre;
     PruebaCarpeta();
     EXPECT_EQ(Archivos().contenidos.size(), 32U);
     EXPECT_EQ(Archivos().contenidos[EnUsuario("ZOV7031.HIS")], "ZOV7031.HIS");
+}
+
+TEST_F(Arranque, LosFicherosSeBuscanYSeCopianEnSuOrden) {
+    EscritorioAnotado anotado;
+    UsaPlataforma(anotado);
+    std::vector<std::string> de_programa, de_usuario;
+    for (const char* nombre : kFicheros) {
+        de_programa.push_back(EnPrograma(nombre));
+        de_usuario.push_back(EnUsuario(nombre));
+        anotado.anotados.contenidos[EnPrograma(nombre)] = nombre;
+    }
+    anotado.anotados.de_solo_lectura.insert(kPrograma);
+    PruebaCarpeta();
+    EXPECT_EQ(anotado.anotados.leidos, de_programa);
+    EXPECT_EQ(anotado.anotados.escritos, de_usuario);
 }
 
 TEST_F(Arranque, LaSegundaVezNoSeCopiaNada) {

@@ -12,12 +12,15 @@
 #include "games/cinquillo/cinquillo_choice.h"
 #include "storage/between_hands.h"
 #include "storage/settings.h"
+#include "table/score_plate.h"
+#include "table/table_view.h"
 #include "table/waiting.h"
 #include "tests/support/live_table.h"
 
 using namespace prueba;
 using testing::Contains;
 using testing::ElementsAre;
+using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 
@@ -166,6 +169,23 @@ TEST_F(Botones, LasNormasDelMismoJuegoSoloGuardan) {
     EXPECT_THAT(p.formas_abiertas, ElementsAre(Forma::Normas));
     EXPECT_TRUE(EstaGuardado());
     EXPECT_EQ(sesion.peticion, Peticion::Ninguna);
+}
+
+// Limit and names are on the plate, and need not wait for the next hand.
+TEST_F(Botones, TrasUnaFormaLaPlacaDeLaPartidaDiceLoQueHaCambiado) {
+    p.UsaLienzosRegistrados();
+    Juega(kBrisca);
+    estado.PartidaEnCurso = true;
+    estado.JuegosJugados = 1;
+    estado.LimitePartida = 3;
+    vista.nombres = true;
+    PintaTanteo();
+    p.al_abrir = [](Forma) { estado.LimitePartida = 8; };
+    PulsaBoton(kBotonNormas);
+    EXPECT_THAT(p.Tablero().NombreDe({Control::Pic_Tanteo, 0}), HasSubstr("0 de 8"));
+    p.al_abrir = [](Forma) { estado.NombreJugador(4) = "Rosa"; };
+    PulsaBoton(kBotonPersonal);
+    EXPECT_THAT(p.Tablero().NombreDe({Control::Pic_Tanteo, 0}), HasSubstr("Rosa: 0 de 8"));
 }
 
 TEST_F(Botones, OtroJuegoEnLasNormasPideSuSesion) {

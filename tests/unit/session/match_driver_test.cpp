@@ -9,6 +9,7 @@
 #include "betting/chips.h"
 #include "core/session_state.h"
 #include "games/cinquillo/cinquillo.h"
+#include "games/common/series_state.h"
 #include "games/common/trick_state.h"
 #include "storage/settings.h"
 #include "table/deck.h"
@@ -94,6 +95,7 @@ TEST_F(Partida, CadaJuegoYCadaNumeroTienenSuNombre) {
 TEST_F(Partida, LasTablasDeCadaSesion) {
     estado.SentidoJuego = kInverso;
     estado.TutorPulsado = estado.EsperandoJugada = estado.VentanaModal = true;
+    series.PuedeAsegurar = series.PuedeAbrir = series.PuedeDoblar = true;
     p.Muestra(Control::Pic_BotDobSeg, 0, true);
     IniciarTablas();
     EXPECT_FALSE(p.EstaVisible(Control::Pic_BotDobSeg, 0));
@@ -113,6 +115,9 @@ TEST_F(Partida, LasTablasDeCadaSesion) {
     EXPECT_FALSE(estado.TutorPulsado);
     EXPECT_FALSE(estado.EsperandoJugada);
     EXPECT_FALSE(estado.VentanaModal);
+    EXPECT_FALSE(series.PuedeAsegurar);
+    EXPECT_FALSE(series.PuedeAbrir);
+    EXPECT_FALSE(series.PuedeDoblar);
     EXPECT_EQ(estado.TotalBaraja, 40);
 }
 

@@ -89,16 +89,17 @@ TEST_F(AjustesTest, LasReglasFueraDeLimitesSeArreglan) {
     EXPECT_THAT(mesa.Mensajes(), IsEmpty());
 }
 
-TEST_F(AjustesTest, LaLeyDeAperturaNoBajaDeLasCartasDeLaBaraja) {
+// Only the form keeps the law from falling below the deck: in a file each stands for itself.
+TEST_F(AjustesTest, LaLeyDeAperturaSeLeeComoEstaTambienPorDebajoDeLaBaraja) {
     LeeTuteCon(69, "02"
                    "1114"
                    "6");
     EXPECT_EQ(estado.CartasBaraja, 6);
-    EXPECT_EQ(estado.LeyApertura, 6);
-    LeeTuteCon(69, "14"
+    EXPECT_EQ(estado.LeyApertura, 2);
+    LeeTuteCon(69, "15"
                    "1114"
                    "6");
-    EXPECT_EQ(estado.LeyApertura, 14);
+    EXPECT_EQ(estado.LeyApertura, 1);
 }
 
 TEST_F(AjustesTest, ElPasoSaleDelSentidoYNoDeSuColumna) {
@@ -116,12 +117,12 @@ TEST_F(AjustesTest, UnaReglaDeDineroFueraDeLimitesVuelveASuValorPorDefecto) {
     };
     EXPECT_THAT(leidas("0996"
                        "999"
-                       "996"
+                       "000"
                        "000"),
                 ElementsAre(200, 999, 25, 3));
-    EXPECT_THAT(leidas("0004"
+    EXPECT_THAT(leidas("0000"
                        "-01"
-                       "004"
+                       "-05"
                        "-05"),
                 ElementsAre(200, 5, 25, 3));
     EXPECT_THAT(leidas("0995"
@@ -131,11 +132,25 @@ TEST_F(AjustesTest, UnaReglaDeDineroFueraDeLimitesVuelveASuValorPorDefecto) {
                 ElementsAre(995, 0, 5, 999));
 }
 
+// The forms would not let them be so small, or so large; a file may.
+TEST_F(AjustesTest, UnRestoYUnaApuestaMaximaConLosQueSePuedeJugarSeQuedan) {
+    LeeTuteCon(109, "0004"
+                    "000"
+                    "004");
+    EXPECT_EQ(estado.RestoInicial, 4);
+    EXPECT_EQ(estado.ApuestaMaxima, 4);
+    LeeTuteCon(116, "999");
+    EXPECT_EQ(estado.ApuestaMaxima, 999);
+}
+
 TEST_F(AjustesTest, UnaReglaQueNoCabeEn16BitsDejaLaQueHabia) {
     LeeTuteCon(109, "9E99");
     EXPECT_EQ(estado.RestoInicial, 200);
     EXPECT_TRUE(estado.PartidaEnCurso);
+    EXPECT_EQ(estado.JuegosJugados, 2);
     EXPECT_THAT(mesa.Mensajes(), IsEmpty());
+    EXPECT_TRUE(estado.FicheroNuevo);
+    EXPECT_EQ(mesa.Archivo("ZOV5131.INI"), ArchivoDeTute());
 }
 
 TEST_F(AjustesTest, QuienSaleYQuienEsBancaEstanEnLaMesa) {

@@ -121,12 +121,18 @@ TEST_F(AjustesGeneralesTest, UnArchivoVacioNoTieneLinea) {
     EsperaDanado("ZOV31", "IDC ERROR 62", "");
 }
 
-TEST_F(AjustesGeneralesTest, UnNumeroQueNoCabeNoDiceNada) {
+TEST_F(AjustesGeneralesTest, UnNumeroQueNoCabeNoDiceNadaYElArchivoSeHaceDeNuevo) {
     estado.VelocidadJuego = 80;
     LeeGeneral("70-19E9");
     EXPECT_EQ(estado.JuegoActivo, kCinquillo);
     EXPECT_EQ(estado.VelocidadJuego, 80);
     EXPECT_THAT(mesa.Mensajes(), IsEmpty());
+    EXPECT_TRUE(estado.FicheroNuevo);
+    EXPECT_EQ(mesa.Archivo("ZOV31.INI"), "70-1080" + Blancos(118) + "\r\n");
+    EXPECT_EQ(mesa.Archivo("ZOV31.MAL"), "70-19E9");
+
+    LeerIniGeneral();
+    EXPECT_FALSE(estado.FicheroNuevo);
 }
 
 TEST_F(AjustesGeneralesTest, SeLeeDeLaCarpetaDeTrabajoYSeEscribeEnLaDelPrograma) {
@@ -264,7 +270,9 @@ TEST_F(AjustesTest, UnAsientoSinNombreNoDescolocaLaLinea) {
     LeeTute(ArchivoDeTute());
     estado.NombreJugador(1) = "";
     estado.Juegos(1).Inicio = "";
-    ASSERT_EQ(GrabarIniJuego(), ErrorArchivo::Ninguno);
+    const auto grabado = JuegoGrabado();
+    EXPECT_EQ(Columnas(grabado[0], 1, 16), Blancos(9) + "0501112");
+    EXPECT_EQ(Columnas(grabado[3], 1, 14), Blancos(9) + "    0");
     LeerIniJuego();
     EXPECT_THAT(mesa.Mensajes(), IsEmpty());
     EXPECT_EQ(estado.NombreJugador(1), "");
@@ -341,6 +349,9 @@ TEST_F(AjustesTest, UnTotalQueNoCabeQuedaEnCero) {
     EXPECT_THAT(mesa.Mensajes(), IsEmpty());
     EXPECT_EQ(estado.Juegos(1).Total, 0);
     EXPECT_EQ(estado.Juegos(1).Inicio, "Ana");
+    EXPECT_EQ(estado.JuegosJugados, 2);
+    EXPECT_TRUE(estado.FicheroNuevo);
+    EXPECT_EQ(mesa.Archivo("ZOV5131.INI"), ArchivoDeTute());
 }
 
 TEST_F(AjustesTest, UnaSolaLineaDeMuchosMegasNoSeTraga) {

@@ -206,6 +206,7 @@ TEST_F(Menu, ElPunteroNoTapaSusPalabras) {
 
 // At the right edge the box has no room beside the click: all of it stands at the other side.
 TEST_F(Menu, EnElAsientoDeLaDerechaSeCorreHaciaAtras) {
+    estado.CartasJugador(3) = kVisibles;
     PonMano(3, {{kEspadas, 12}, {kOros, 1}, {kCopas, 4}});
     ClicDerecho({estado.AnchoMesa - 2, 300});
     ASSERT_TRUE(ALaVista());
