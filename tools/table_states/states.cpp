@@ -8,6 +8,7 @@
 #include "betting/chips.h"
 #include "betting/phases.h"
 #include "core/game_state.h"
+#include "core/numeric.h"
 #include "games/common/trick_state.h"
 #include "platform/platform.h"
 #include "session/state_blocks.h"
