@@ -203,7 +203,7 @@ void HazMuestras(const Carpetas& carpetas) {
 
 // A number of the help's picture of the table, in its pixels: what the page beside it explains.
 struct Llamada {
-    int numero;
+    int numero = 0;
     QPoint donde;
 };
 

@@ -8,6 +8,7 @@
 #include "betting/chips.h"
 #include "betting/phases.h"
 #include "core/game_state.h"
+#include "core/numeric.h"
 #include "games/common/trick_state.h"
 #include "platform/platform.h"
 #include "session/state_blocks.h"
@@ -250,7 +251,8 @@ void Apuestan(Integer asiento, std::initializer_list<Integer> fichas) {
     for (const Integer d : fichas) {
         ++apuestas.NumFichasPuestas(asiento, 1);
         apuestas.FichasPuestas(asiento, 1, apuestas.NumFichasPuestas(asiento, 1)) = d;
-        apuestas.Apuesta(asiento, 1, kFaseApuestas) += ValorDe(d);
+        Integer& puesto = apuestas.Apuesta(asiento, 1, kFaseApuestas);
+        puesto = EnteroDe(puesto + ValorDe(d));
     }
 }
 
