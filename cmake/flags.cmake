@@ -37,8 +37,13 @@ endif()
 
 # precompiled(TARGET HEADER...): the headers of libraries that nearly every file of the target reads. The sources
 # include what they use all the same, so that a single file compiles alone and tidy reads it as it stands.
+# precompiled(TARGET REUSE_FROM OTHER): those of another target that is compiled alike.
 function(precompiled target)
-  target_precompile_headers(${target} PRIVATE ${ARGN})
+  if("${ARGV1}" STREQUAL "REUSE_FROM")
+    target_precompile_headers(${target} ${ARGN})
+  else()
+    target_precompile_headers(${target} PRIVATE ${ARGN})
+  endif()
   if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     target_compile_options(${target} PRIVATE -fpch-preprocess)
   endif()

@@ -11,11 +11,18 @@ if(TARGET zovin_qt AND EXISTS "${CMAKE_SOURCE_DIR}/platform/qt/app_main.cpp")
 endif()
 
 # A tool is main.cpp, with its *_view.cpp when it shows something through Qt, over a library of the
-# rest of its folder, so that tests and fuzzers reach that rest without the program.
+# rest of its folder, so that tests and fuzzers reach that rest without the program. Where nothing
+# stands on Qt, a tool with a *_blind.cpp has that instead of its views.
 function(zovin_tool name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "PROGRAM_LIBRARIES;LIBRARIES")
-  zovin_sources(parts PATTERNS tools/${name}/*.cpp EXCLUDE "/main\\.cpp$|_view\\.cpp$")
+  zovin_sources(parts PATTERNS tools/${name}/*.cpp EXCLUDE "/main\\.cpp$|_(view|blind)\\.cpp$")
   zovin_sources(views PATTERNS tools/${name}/*_view.cpp)
+  if(NOT ZOVIN_DESKTOP)
+    zovin_sources(views PATTERNS tools/${name}/*_blind.cpp)
+    if(views)
+      set(arg_PROGRAM_LIBRARIES)
+    endif()
+  endif()
   set(own_library)
   if(parts)
     set(own_library zovin_${name})

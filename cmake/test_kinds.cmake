@@ -42,10 +42,11 @@ function(zovin_gtest name label)
 endfunction()
 
 # Text in, text out, through the line console.
-function(zovin_console_tests label timeout)
-  file(GLOB_RECURSE scripts CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/${ARGV2}/*.esc")
+function(zovin_console_tests label timeout folder)
+  cmake_parse_arguments(PARSE_ARGV 3 arg "" "EXCLUDE" "")
+  zovin_sources(scripts PATTERNS ${folder}/**/*.esc EXCLUDE "${arg_EXCLUDE}")
   foreach(script IN LISTS scripts)
-    cmake_path(RELATIVE_PATH script BASE_DIRECTORY "${CMAKE_SOURCE_DIR}/${ARGV2}"
+    cmake_path(RELATIVE_PATH script BASE_DIRECTORY "${CMAKE_SOURCE_DIR}/${folder}"
       OUTPUT_VARIABLE name)
     string(REGEX REPLACE "\\.esc$" "" name "${name}")
     add_test(NAME ${label}.${name}

@@ -59,6 +59,7 @@ void DiAQuienSeEspera() {
         return;
     if (estado.ControlJugador(asiento) != kManual)
         return Di(vista.verde); // with a pause between moves it plays when the green button says so
-    const std::string puntos = PuntosALaVista(asiento);
+    const std::string puntos =
+        plataforma().EstaVisible(Control::Pic_Tantos, asiento) ? vista.tantos(asiento) : "";
     Di("Le toca a " + estado.NombreJugador(asiento) + (puntos.empty() ? "" : ", con " + puntos));
 }

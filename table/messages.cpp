@@ -59,25 +59,16 @@ void ColocaSugerencia() {
     p.Nombra(Control::Bot_CerrarSuge, 0, "Cerrar la ventana de información");
 }
 
-std::string SinHuecos(const std::string& renglon) {
-    std::string texto;
-    for (const char letra : renglon) {
-        if (letra != ' ' || (!texto.empty() && texto.back() != ' '))
-            texto += letra;
-    }
-    return Recorta(texto);
-}
-
 void PintaPanel() {
     Lienzo& panel = plataforma().LienzoDe(Control::Pic_Sugerencia, 0);
     const Rectangulo todo{0, 0, kAnchoSugerencia, kAltoSugerencia};
     panel.Caja(todo, color::kMarfil);
     panel.Borde(todo, color::kBordePanel, 1);
     for (int k = 1; k <= kRenglonesTip; ++k) {
-        panel.Texto(7, 10 * k + 10,
-                    SinHuecos(Medio(estado.Sugerencias(estado.TipActual).Texto,
-                                    kLetrasTip * (k - 1) + 1, kLetrasTip)),
-                    kLetraTip, color::kAzul, Alineacion::Izquierda);
+        panel.Texto(
+            7, 10 * k + 10,
+            Medio(estado.Sugerencias(estado.TipActual).Texto, kLetrasTip * (k - 1) + 1, kLetrasTip),
+            kLetraTip, color::kAzul, Alineacion::Izquierda);
     }
 }
 
@@ -150,11 +141,6 @@ void PintaSugerencia() {
         return;
     PintaPanel();
     PintaBotonesPanel();
-}
-
-void RetiraSugerencia(std::initializer_list<int> tips) {
-    if (std::ranges::find(tips, estado.TipActual) != tips.end())
-        OcultaSugerencia();
 }
 
 Rectangulo LugarDeLaSugerencia() {

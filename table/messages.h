@@ -2,7 +2,6 @@
 // What paces the game and talks to the player without being a card: the modal box, the tips, the help calls,
 // the sounds and the pause.
 
-#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -31,8 +30,6 @@ void PintaSugerencia();
 
 // Hides the panel.
 void OcultaSugerencia();
-// The same if one of these tips is on show: what it offered has been done.
-void RetiraSugerencia(std::initializer_list<int> tips);
 
 // Where the panel stands when it shows.
 Rectangulo LugarDeLaSugerencia();

@@ -15,7 +15,7 @@ namespace {
 constexpr int kAltoEntrada = 18, kMargen = 4;
 constexpr int kAncho = 256; // the longer entry, in whatever letters the desktop has
 // The box opens with a corner under the pointer: its words stand clear of that.
-constexpr int kMarcaX = 20, kTextoX = 36;
+constexpr int kMarcaX = 20, kTextoX = 36, kFinalLibre = 20;
 constexpr int kEntradaManual = 4, kEntradaSola = 5;
 
 // The number of the n-th entry on show, 0 for none.
@@ -40,10 +40,11 @@ void PintaEntrada(Lienzo& lienzo, int n) {
     lienzo.Texto(kTextoX, y + 2, TextoDeOpcion(n), {.alto = 12}, tinta, Alineacion::Izquierda);
 }
 
-// Where there is no room for it at the right of the click it opens at the left: moved back by no more than it must be, it
-// would have the pointer on its words.
+// Where there is no room for it at the right of the click it is moved back until the pointer stands on its right end,
+// clear of the words.
 int IzquierdaDelMenu(int click) {
-    return std::max(click + kAncho <= estado.AnchoMesa ? click : click - kAncho, 0);
+    const int tope = estado.AnchoMesa - kAncho;
+    return click <= tope ? click : std::clamp(click - kAncho + kFinalLibre, 0, std::max(tope, 0));
 }
 
 void ResaltaOpcion(int n) {

@@ -26,7 +26,7 @@ constexpr std::array<FichaTinta, 10> kTintas{{
     {"rojo oscuro", 0x000080},
     {"azul", 0xD02010},
     {"azul oscuro", 0x800000},
-    {"verde", 0x108010},
+    {"verde", 0x107010},
     {"amarillo", 0xA0F0FF},
 }};
 

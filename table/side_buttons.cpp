@@ -5,6 +5,7 @@
 #include "table/game_row.h"
 #include "table/layout.h"
 #include "table/sheet_layout.h"
+#include "table/table_view.h"
 #include "table/trace.h"
 
 namespace {
@@ -84,6 +85,17 @@ int PrincipioSuperior(int asiento, int index) {
     return kLargoZona / 2 + (index == 1 ? -del_medio - largo : del_medio);
 }
 
+std::string PuntosALaVista(int asiento) {
+    const FilaJuego& juego = JuegoEnMesa();
+    if (juego.pintura.puntos == nullptr)
+        return "";
+    const double puntos = juego.pintura.puntos(asiento, SerieALaVista(asiento));
+    if (puntos == 0 || (EsBanca(asiento) && asiento != estado.JugadorActual))
+        return "";
+    const bool medios = puntos != static_cast<int>(puntos);
+    return Formato(puntos, medios ? "#0.0" : "#0");
+}
+
 } // namespace
 
 void BotonLateral(int asiento, int state, int index) {
@@ -131,17 +143,6 @@ Integer SerieALaVista(int asiento) {
     return es_de_otro && ultima > 0 ? ultima : estado.SerieActual;
 }
 
-std::string PuntosALaVista(int asiento) {
-    const FilaJuego& juego = JuegoEnMesa();
-    if (juego.pintura.puntos == nullptr)
-        return "";
-    const double puntos = juego.pintura.puntos(asiento, SerieALaVista(asiento));
-    if (puntos == 0 || (EsBanca(asiento) && asiento != estado.JugadorActual))
-        return "";
-    const bool medios = puntos != static_cast<int>(puntos);
-    return Formato(puntos, medios ? "#0.0" : "#0");
-}
-
 void MostrarPuntos(int asiento) {
     Traza("MostrarPuntos", asiento);
     constexpr int kPlaca = 4, kDeLaEsquina = 8;
@@ -149,6 +150,7 @@ void MostrarPuntos(int asiento) {
     if (JuegoEnMesa().pintura.puntos == nullptr)
         return;
     const std::string cifra = PuntosALaVista(asiento);
+    vista.tantos(asiento) = cifra;
     if (cifra.empty()) {
         plataforma().Muestra(Control::Pic_Tantos, asiento, false);
         return;

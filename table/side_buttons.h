@@ -18,8 +18,6 @@ void BotonDobSeg(int asiento, int state, const std::string& texto);
 // The serie that the seat shows: SerieActual on its turn; in the games with a bank everybody else shows the last.
 Integer SerieALaVista(int asiento);
 
-// The count of the serie on show as the score plate shows it; "" where there is none.
-std::string PuntosALaVista(int asiento);
 // The score plate Pic_Tantos(asiento) with the count of the serie on show. There is none for a count of 0, nor for the
-// bank out of its turn.
+// bank out of its turn. Writes what it says into vista.tantos, "" for no plate.
 void MostrarPuntos(int asiento);

@@ -18,6 +18,7 @@
 #include "table/seat_drawing.h"
 #include "table/sounds.h"
 #include "table/table_view.h"
+#include "table/trace.h"
 
 namespace {
 
@@ -160,7 +161,21 @@ void ContorneaBajoElPuntero() {
     }
 }
 
-void CalculaPuntero(int x, int y) {
+void PonCursorNuevo() {
+    if (estado.CursorNuevo != estado.CursorTabla) {
+        CambiarCursor(Control::Mesa, 0, static_cast<Puntero>(estado.CursorNuevo));
+        estado.CursorTabla = estado.CursorNuevo;
+    }
+    ContorneaBajoElPuntero();
+}
+
+// The card has gone out of the hand that held it: until the pointer moves again it offers nothing.
+void SueltaElPuntero() {
+    estado.CursorNuevo = 0;
+    PonCursorNuevo();
+}
+
+void BuscaPuntero(int x, int y) {
     vista.puntero_x = x;
     vista.puntero_y = y;
     estado.CursorNuevo = 0;
@@ -173,11 +188,11 @@ void CalculaPuntero(int x, int y) {
         estado.CursorNuevo = PunteroDeOrdenar(x, y);
     if (estado.RepartoEnCurso)
         estado.CursorNuevo = PunteroDeReparto(x, y);
-    if (estado.CursorNuevo != estado.CursorTabla) {
-        CambiarCursor(Control::Mesa, 0, static_cast<Puntero>(estado.CursorNuevo));
-        estado.CursorTabla = estado.CursorNuevo;
-    }
-    ContorneaBajoElPuntero();
+}
+
+void CalculaPuntero(int x, int y) {
+    BuscaPuntero(x, y);
+    PonCursorNuevo();
 }
 
 void MueveColgada(int x, int y) {
@@ -185,7 +200,7 @@ void MueveColgada(int x, int y) {
     PonMover(carta.palo, carta.valor, x - 12, y - 12);
     DetectaZonaCartas(x, y);
     if (estado.ZonaBajoCursor != 0 && DaCartaA(estado.ZonaBajoCursor))
-        CalculaPuntero(x, y);
+        SueltaElPuntero();
 }
 
 bool LaTomaElJuego(Puntero puntero) {
@@ -227,7 +242,6 @@ void PulsaSegunPuntero() {
         PulsaFicha();
         break;
     case Puntero::ManoVerde:
-    case Puntero::ManoRoja: // sounds like a card, and plays none
         if (estado.EligeCarta && !apuestas.ModoApuesta)
             EligeLaCarta(puntero);
         break;
@@ -287,7 +301,11 @@ Punto ToqueDelCambio() {
 }
 
 void RefrescaPuntero() {
-    CalculaPuntero(vista.puntero_x, vista.puntero_y);
+    {
+        const SinTraza callado;
+        BuscaPuntero(vista.puntero_x, vista.puntero_y);
+    }
+    PonCursorNuevo();
 }
 
 void Form_MouseMove(int x, int y) {

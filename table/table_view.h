@@ -20,6 +20,7 @@ struct VistaMesa {
     Luz luz = Luz::Ninguna;             // and why
     Tabla<bool, 4> ganador;             // the winner's mark lies on the seat's cards
     std::string tanteo;                 // what the plate of the match says
+    Tabla<std::string, 4> tantos;       // what the plate of a seat's count says
     std::string verde;                  // the words of the green button
     Milisegundos verde_desde = 0;       // when they came to stand there
     Tabla<int, 4> abanico;              // places for which a hand that is being dealt is laid out

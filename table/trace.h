@@ -49,6 +49,18 @@ inline bool HayTraza() {
     return traza_detalle::activa;
 }
 
+// While it lives nothing is recorded: what the program looks up again of itself is no call of the game's.
+class SinTraza {
+public:
+    SinTraza() : antes_(traza_detalle::activa) { traza_detalle::activa = false; }
+    ~SinTraza() { traza_detalle::activa = antes_; }
+    SinTraza(const SinTraza&) = delete;
+    SinTraza& operator=(const SinTraza&) = delete;
+
+private:
+    bool antes_;
+};
+
 // Traza("Pausa", 400) says `Pausa(400)`; texts come in double quotes with CR LF written \r\n.
 template <class... A>
 inline void Traza(std::string_view nombre, const A&... argumentos) {

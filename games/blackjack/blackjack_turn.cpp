@@ -135,7 +135,6 @@ bool CumpleLaOrden() {
     const Integer apuesta =
         apuestas.Apuesta(estado.JugadorActual, estado.SerieActual, kFaseApuestas);
     const Integer asiento = estado.JugadorActual;
-    RetiraSugerencia({kTipSeguro, kTipAbrir, kTipDoblar}); // taken or let go
     if (series.OrdenSeguro) {
         DiDe(asiento, "se asegura");
         ColocaEn(kFaseSeguro, static_cast<Integer>(apuesta / 2));

@@ -43,15 +43,12 @@ bool ClicDeSiete(Puntero puntero, int /*lugar*/) {
     switch (puntero) {
     case Puntero::Cambiar:
         CambiaCuatro();
-        RetiraSugerencia({kTipCuatro});
         break;
     case Puntero::Abrirse:
         AbreSerie();
-        RetiraSugerencia({kTipMedias});
         break;
     case Puntero::Voltear:
         VuelveLaTapada();
-        RetiraSugerencia({kTipTapada, kTipCantar});
         break;
     default:
         return false;

@@ -68,7 +68,6 @@ bool ClicEnMazo(Puntero puntero, int /*lugar*/) {
     if (puntero != Puntero::Cambiar)
         return false;
     CambiaTriunfo();
-    RetiraSugerencia({kTipCambiaSiete, kTipCambiaBaja});
     RefrescaPuntero();
     return true;
 }

@@ -1,15 +1,14 @@
 #include "platform/qt/help_pictures.h"
 
-#include <QPixmap>
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <optional>
-#include <utility>
 
 #include "core/game_state.h"
 #include "platform/platform.h"
 #include "platform/qt/card_images.h"
-#include "platform/qt/pointers.h"
+#include "platform/qt/drawings.h"
 #include "platform/qt/sheet_images.h"
 #include "table/sheet_layout.h"
 
@@ -40,12 +39,6 @@ struct NombreDeValor {
 constexpr std::array kNombres{NombreDeValor{"as", {1, 1}},       NombreDeValor{"sota", {0, 10}},
                               NombreDeValor{"caballo", {0, 11}}, NombreDeValor{"jota", {11, 0}},
                               NombreDeValor{"dama", {12, 0}},    NombreDeValor{"rey", {13, 12}}};
-
-constexpr std::array kFormas{
-    std::pair{"mano_indice", Puntero::ManoIndice}, std::pair{"mano_verde", Puntero::ManoVerde},
-    std::pair{"mano_roja", Puntero::ManoRoja},     std::pair{"ordenar", Puntero::Ordenar},
-    std::pair{"cambiar", Puntero::Cambiar},        std::pair{"mano_cerrada", Puntero::ManoCerrada},
-    std::pair{"voltear", Puntero::Voltear},        std::pair{"abrirse", Puntero::Abrirse}};
 
 struct Naipe {
     int baraja;
@@ -80,14 +73,7 @@ int AnchoPedido(const QStringList& partes, qsizetype lugar, int si_no) {
     return ancho > 0 ? std::min(ancho, kAnchoMaximo) : si_no;
 }
 
-QImage Escalada(QImage dibujo, int ancho, double ratio) {
-    dibujo.setDevicePixelRatio(1);
-    const int pixeles = qRound(ancho * ratio);
-    return dibujo.width() == pixeles ? dibujo
-                                     : dibujo.scaledToWidth(pixeles, Qt::SmoothTransformation);
-}
-
-QImage DibujaPieza(const QStringList& partes, double ratio) {
+QImage DibujaPieza(const QStringList& partes, double densidad) {
     const auto pieza = std::ranges::find_if(lamina::kPiezas, [&](const lamina::Pieza& una) {
         return partes.front() ==
                QLatin1String(una.archivo.data(), static_cast<qsizetype>(una.archivo.size()));
@@ -95,15 +81,25 @@ QImage DibujaPieza(const QStringList& partes, double ratio) {
     if (pieza == lamina::kPiezas.end())
         return {};
     const int ancho = AnchoPedido(partes, 1, pieza->sitio.ancho);
-    return PiezaDe(pieza->sitio, ratio * ancho / pieza->sitio.ancho);
+    return PiezaDe(pieza->sitio, densidad * ancho / pieza->sitio.ancho);
 }
 
-QImage DibujaPuntero(const QString& nombre, double ratio) {
-    const auto forma = std::ranges::find_if(
-        kFormas, [&](const auto& una) { return nombre == QLatin1String(una.first); });
-    return forma == kFormas.end()
-               ? QImage()
-               : Escalada(CursorDe(forma->second).pixmap().toImage(), lamina::kLadoPuntero, ratio);
+QImage DibujaPuntero(const QString& nombre, double densidad) {
+    const int lado = qRound(lamina::kLadoPuntero * densidad);
+    return Dibujo(QStringLiteral("cursors/") + nombre, {lado, lado});
+}
+
+// A text gives its pictures whole pixels of the window: one that ends between two would be stretched, so it is brought up
+// to the next with clear ones.
+QImage HastaPixelEntero(const QImage& dibujo, double ratio) {
+    constexpr double kPolvo = 1e-6; // that only the arithmetic has left
+    const auto entero = [ratio](int pixeles) {
+        return qRound(std::ceil(pixeles / ratio - kPolvo) * ratio);
+    };
+    const QSize tamano(entero(dibujo.width()), entero(dibujo.height()));
+    return tamano == dibujo.size() ? dibujo
+                                   : dibujo.convertToFormat(QImage::Format_ARGB32_Premultiplied)
+                                         .copy(QRect(QPoint(0, 0), tamano));
 }
 
 } // namespace
@@ -118,13 +114,13 @@ bool DibujosAyuda::EsSuyo(const QUrl& cual) {
 }
 
 // A whole deck at once: a page with one of its cards has most often a dozen.
-Imagenes* DibujosAyuda::Baraja(int cual, double ratio) {
-    auto& lista = listas_[{cual, ratio}];
+Imagenes* DibujosAyuda::Baraja(int cual, double densidad) {
+    auto& lista = listas_[{cual, densidad}];
     if (lista)
         return lista.get();
     const BarajaDibujada& baraja = kBarajas.at(static_cast<std::size_t>(cual));
     for (const QString& carpeta : barajas_) {
-        auto nueva = std::make_unique<Imagenes>(ratio);
+        auto nueva = std::make_unique<Imagenes>(densidad);
         try {
             nueva->CargaBaraja(carpeta + '/' + QLatin1String(baraja.fichero), baraja.columnas);
             lista = std::move(nueva);
@@ -136,44 +132,52 @@ Imagenes* DibujosAyuda::Baraja(int cual, double ratio) {
     return nullptr;
 }
 
-QImage DibujosAyuda::Carta(const QStringList& partes, double ratio) {
+QImage DibujosAyuda::Carta(const QStringList& partes, double densidad) {
     if (partes.front() == QLatin1String("dorso") || partes.front() == QLatin1String("comodin")) {
         const bool dorso = partes.front() == QLatin1String("dorso");
-        const Imagenes sueltas(ratio * AnchoPedido(partes, 1, kAnchoEnPagina) / kAnchoCarta);
+        const Imagenes sueltas(densidad * AnchoPedido(partes, 1, kAnchoEnPagina) / kAnchoCarta);
         return sueltas.Carta({.palo = kComodin,
                               .valor = kUnComodin,
                               .cara = dorso ? kDorso : kDescubierta,
                               .orientacion = 1});
     }
     const auto naipe = NaipeDe(partes.front(), partes.value(1));
-    const double suyo = ratio * AnchoPedido(partes, 2, kAnchoEnPagina) / kAnchoCarta;
+    const double suyo = densidad * AnchoPedido(partes, 2, kAnchoEnPagina) / kAnchoCarta;
     const Imagenes* baraja = naipe ? Baraja(naipe->baraja, suyo) : nullptr;
     return baraja == nullptr ? QImage() : baraja->Carta(naipe->carta);
 }
 
-QImage DibujosAyuda::Esquina(const QStringList& partes, double ratio) {
+QImage DibujosAyuda::Esquina(const QStringList& partes, double densidad) {
     const auto naipe = NaipeDe(partes.front(), partes.value(1));
-    const double suyo = ratio * AnchoPedido(partes, 2, kAnchoEsquina) / kEsquina.width();
+    const double suyo = densidad * AnchoPedido(partes, 2, kAnchoEsquina) / kEsquina.width();
     const Imagenes* baraja = naipe ? Baraja(naipe->baraja, suyo) : nullptr;
     return baraja == nullptr ? QImage()
                              : baraja->MiniCarta(naipe->carta, {baraja->Px(kEsquina.width()),
                                                                 baraja->Px(kEsquina.height())});
 }
 
-QImage DibujosAyuda::Foto(const QStringList& partes, double ratio, int tope) const {
+QImage DibujosAyuda::Foto(const QStringList& partes, double densidad, double tope) const {
     const QImage foto(paginas_ + '/' + partes.front());
-    const int ancho = std::min(AnchoPedido(partes, 1, foto.width()), tope);
-    return foto.isNull() ? foto : Escalada(foto, ancho, ratio);
+    const double ancho = std::min(1.0 * AnchoPedido(partes, 1, foto.width()), tope);
+    const int pixeles = std::min(qRound(ancho * densidad), foto.width());
+    return pixeles == foto.width() ? foto : foto.scaledToWidth(pixeles, Qt::SmoothTransformation);
 }
 
-QImage DibujosAyuda::Dibujo(const QUrl& cual, double ratio, int tope) {
+QImage DibujosAyuda::Dibujo(const QUrl& cual, double ratio, double aumento, int tope) {
     const QStringList partes = cual.path().split(u'/');
     const QString clase = cual.scheme();
-    QImage dibujo = clase == QLatin1String("carta")     ? Carta(partes, ratio)
-                    : clase == QLatin1String("esquina") ? Esquina(partes, ratio)
-                    : clase == QLatin1String("pieza")   ? DibujaPieza(partes, ratio)
-                    : clase == QLatin1String("puntero") ? DibujaPuntero(partes.front(), ratio)
-                                                        : Foto(partes, ratio, tope);
+    const double densidad = ratio * aumento;
+    QImage dibujo = clase == QLatin1String("carta")     ? Carta(partes, densidad)
+                    : clase == QLatin1String("esquina") ? Esquina(partes, densidad)
+                    : clase == QLatin1String("pieza")   ? DibujaPieza(partes, densidad)
+                    : clase == QLatin1String("puntero") ? DibujaPuntero(partes.front(), densidad)
+                                                        : Foto(partes, densidad, tope / aumento);
+    dibujo.setDevicePixelRatio(1);
+    dibujo = HastaPixelEntero(dibujo, ratio);
     dibujo.setDevicePixelRatio(ratio);
     return dibujo;
+}
+
+void DibujosAyuda::Olvida() {
+    listas_.clear();
 }

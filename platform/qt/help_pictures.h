@@ -8,7 +8,8 @@
 //   esquina:oros/sota    its upper left corner with number and palo, as in the deal by hand, 22 pixels wide or /so many.
 //   pieza:boton5_arriba  a piece of the sheet as lamina::kPiezas names it, at its own size or /so many wide.
 //   puntero:mano_verde   a pointer of the table.
-//   foto:mesa.png/600    a picture among the pages, so many pixels wide, or as wide as the page when that is less.
+//   foto:mesa.png/600    a picture among the pages, so many pixels wide, or as wide as the page when that is less. It is
+//                        never drawn out: where it has fewer pixels than the screen would show, it is smaller.
 
 #include <QImage>
 #include <QString>
@@ -29,17 +30,20 @@ public:
 
     // Whether the address is one of these pictures.
     static bool EsSuyo(const QUrl& cual);
-    // The picture for a screen with so many device pixels a pixel, marked with them; null when there is none
-    // of that name. tope: the width of the page.
-    QImage Dibujo(const QUrl& cual, double ratio, int tope = kSinTope);
+    // The picture for a screen with so many device pixels a pixel, marked with them, and aumento times as large as its
+    // address says; null when there is none of that name. tope: the width of the page.
+    QImage Dibujo(const QUrl& cual, double ratio, double aumento = 1, int tope = kSinTope);
+    // Lets go of what was made ready for the sizes asked for so far.
+    void Olvida();
 
 private:
-    QImage Carta(const QStringList& partes, double ratio);
-    QImage Esquina(const QStringList& partes, double ratio);
-    QImage Foto(const QStringList& partes, double ratio, int tope) const;
-    Imagenes* Baraja(int cual, double ratio);
+    // All in device pixels for each pixel of the address.
+    QImage Carta(const QStringList& partes, double densidad);
+    QImage Esquina(const QStringList& partes, double densidad);
+    QImage Foto(const QStringList& partes, double densidad, double tope) const;
+    Imagenes* Baraja(int cual, double densidad);
 
     QString paginas_;
     QStringList barajas_;
-    std::map<std::pair<int, double>, std::unique_ptr<Imagenes>> listas_; // by deck and its ratio
+    std::map<std::pair<int, double>, std::unique_ptr<Imagenes>> listas_; // by deck and how dense
 };

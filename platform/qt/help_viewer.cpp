@@ -10,15 +10,17 @@
 #include <QScreen>
 #include <QSettings>
 #include <QSplitter>
-#include <QStandardPaths>
 #include <QTextDocument>
+#include <QTimer>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 #include <algorithm>
 
 #include "platform/qt/canvas_qt.h"
 #include "platform/qt/help_page.h"
-#include "platform/qt/suite_paint.h"
+#include "platform/qt/pointers.h"
+#include "platform/qt/scale.h"
+#include "platform/qt/window_place.h"
 
 using ayuda::Clave;
 using ayuda::Plano;
@@ -26,22 +28,24 @@ using ayuda::TextoPlano;
 
 namespace {
 
+// In pixels of the table.
 constexpr QSize kTamano(980, 680);
-constexpr QSize kMarco(16, 40); // what a desktop's frame takes, so that the page ends on the screen
+constexpr QSize
+    kMenor(720, 520); // with a frame and a panel, still on a screen that holds the smallest table
 constexpr int kAnchoMinimo = 640; // narrower beside the table, the page is no pleasure to read
-constexpr int kAnchoArbol = 310;
+constexpr int kAnchoArbol = 300;
+constexpr int kLetra = 14, kSangria = 14, kAire = 9, kEntre = 6, kAireDeNada = 4;
+
+// What a desktop's frame takes, as long as it is not known.
+constexpr QSize kMarcoSupuesto(16, 40);
 
 constexpr int kTemaEnRama = Qt::UserRole;
 constexpr int kTemaGlosario = 3900;
 
+// The window's place as Qt keeps it, the same with its frame to be looked at first, and its size in pixels of the table.
 const QString kSitio = QStringLiteral("ayuda/sitio");
-
-// The place of the window stands with that of the table's window, with the desktop's settings.
-QSettings Ajustes() {
-    return QSettings(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) +
-                         QStringLiteral("/ventana.ini"),
-                     QSettings::IniFormat);
-}
+const QString kConMarco = QStringLiteral("ayuda/marco");
+const QString kEnMesa = QStringLiteral("ayuda/en_mesa");
 
 QString LeeTexto(const QString& fichero) {
     QFile pagina(fichero);
@@ -75,30 +79,23 @@ QList<PaginaAyuda> LeeContenido(const QString& carpeta) {
     return paginas;
 }
 
-std::optional<QRect> JuntoA(const QRect& otra, const QSize& tamano, const QRect& pantalla) {
-    const int derecha = pantalla.right() - otra.right();
-    const int izquierda = otra.left() - pantalla.left();
-    const int hueco = std::max(derecha, izquierda);
-    const int necesario = std::min(tamano.width(), kAnchoMinimo);
-    if (otra.isNull() || hueco < necesario)
-        return std::nullopt;
-    const QSize cabe(std::min(tamano.width(), hueco), std::min(tamano.height(), pantalla.height()));
-    const int x = hueco == derecha ? otra.right() + 1 : otra.left() - cabe.width();
-    const int y = std::clamp(otra.top(), pantalla.top(), pantalla.bottom() + 1 - cabe.height());
-    return QRect(QPoint(x, y), cabe);
-}
-
 VistaAyuda::VistaAyuda(const QString& carpeta, const QStringList& barajas)
     : carpeta_(carpeta),
       hoja_(new HojaAyuda(carpeta, barajas)),
       arbol_(new QTreeWidget),
       busca_(new QLineEdit),
-      nada_(new QLabel(QStringLiteral("Ninguna página tiene esas palabras."))) {
+      nada_(new QLabel(QStringLiteral("Ninguna página tiene esas palabras."))),
+      partes_(new QSplitter),
+      ancho_arbol_(kAnchoArbol),
+      aumento_(AumentoPosible()) {
     setObjectName(QStringLiteral("ayuda"));
     setWindowTitle(QStringLiteral("Ayuda de Zovin"));
     setPalette(estilo::Paleta());
-    resize(kTamano.boundedTo(screen()->availableSize() - kMarco));
+    PonTamano(kTamano, QRect());
     Compon();
+    PonLetras();
+    hoja_->PonAumento(aumento_);
+    VigilaPantallas(this, [this] { CabeEnPantalla(); });
     LlenaArbol(LeeContenido(carpeta_));
     vocabulario_ = ayuda::Vocabulario(LeeTexto(FicheroDe(kTemaGlosario)));
     connect(busca_, &QLineEdit::textChanged, this, &VistaAyuda::Busca);
@@ -117,6 +114,12 @@ VistaAyuda::~VistaAyuda() {
     GuardaSitio();
 }
 
+double VistaAyuda::AumentoPosible() const {
+    const QSizeF cabe = QSizeF(screen()->availableSize()) / FactorDeMesa();
+    const double falta = std::min(cabe.width() / kMenor.width(), cabe.height() / kMenor.height());
+    return std::max(FactorDeMesa() * std::min(1.0, falta), std::min(1.0, FactorDeMesa()));
+}
+
 void VistaAyuda::Compon() {
     busca_->setPlaceholderText(QStringLiteral("Buscar en la ayuda"));
     busca_->setClearButtonEnabled(true);
@@ -125,10 +128,7 @@ void VistaAyuda::Compon() {
     arbol_->setAccessibleName(QStringLiteral("Contenido de la ayuda"));
     hoja_->setAccessibleName(QStringLiteral("Página de la ayuda"));
     nada_->setWordWrap(true);
-    nada_->setContentsMargins(4, 4, 4, 4);
     nada_->hide();
-    for (QWidget* lista : std::initializer_list<QWidget*>{busca_, nada_, arbol_})
-        lista->setFont(LetraDe({.alto = 14}));
 
     auto* lado = new QWidget;
     auto* indice = new QVBoxLayout(lado);
@@ -136,15 +136,40 @@ void VistaAyuda::Compon() {
     indice->addWidget(busca_);
     indice->addWidget(nada_);
     indice->addWidget(arbol_, 1);
-    auto* partes = new QSplitter;
-    partes->addWidget(lado);
-    partes->addWidget(hoja_);
-    partes->setStretchFactor(1, 1);
-    const int arbol = std::min(kAnchoArbol, width() / 3);
-    partes->setSizes({arbol, width() - arbol});
+    partes_->addWidget(lado);
+    partes_->addWidget(hoja_);
+    partes_->setStretchFactor(1, 1);
+    connect(partes_, &QSplitter::splitterMoved, this,
+            [this](int ancho) { ancho_arbol_ = ancho / aumento_; });
+    PonArbol();
     auto* todo = new QVBoxLayout(this);
     todo->addLayout(HazMandos());
-    todo->addWidget(partes, 1);
+    todo->addWidget(partes_, 1);
+}
+
+// Only the player makes it wider than a third of the window.
+void VistaAyuda::PonArbol() {
+    const int tope = width() / (ancho_arbol_ > kAnchoArbol ? 2 : 3);
+    const int arbol = std::min(qRound(ancho_arbol_ * aumento_), tope);
+    partes_->setSizes({arbol, width() - arbol});
+}
+
+void VistaAyuda::PonLetras() {
+    const auto crecido = [this](int pixeles) { return qRound(pixeles * aumento_); };
+    for (QWidget* lista : std::initializer_list<QWidget*>{busca_, nada_, arbol_})
+        lista->setFont(LetraDe({.alto = crecido(kLetra)}));
+    const int aire = crecido(kAire), de_nada = crecido(kAireDeNada);
+    nada_->setContentsMargins(de_nada, de_nada, de_nada, de_nada);
+    arbol_->setIndentation(crecido(kSangria));
+    layout()->setContentsMargins(aire, aire, aire, aire);
+    for (QLayout* parte :
+         {layout(), layout()->itemAt(0)->layout(), busca_->parentWidget()->layout()})
+        parte->setSpacing(crecido(kEntre));
+    for (BotonSuite* boton : findChildren<BotonSuite*>()) {
+        boton->setCursor(CursorDe(Puntero::ManoIndice));
+        boton->updateGeometry();
+    }
+    layout()->activate();
 }
 
 QHBoxLayout* VistaAyuda::HazMandos() {
@@ -203,19 +228,85 @@ void VistaAyuda::MuestraTema(int tema, const QRect& mesa) {
 void VistaAyuda::Situa(const QRect& mesa) {
     if (std::exchange(situada_, true))
         return;
-    const QByteArray sitio = Ajustes().value(kSitio).toByteArray();
-    const bool recordado = !sitio.isEmpty() && restoreGeometry(sitio);
-    if (recordado && !frameGeometry().intersects(mesa))
+    // When it is known what the desktop's frame takes.
+    QTimer::singleShot(0, this, &VistaAyuda::CabeEnPantalla);
+    if (VuelveADondeEstaba() && !frameGeometry().intersects(mesa))
         return;
-    if (const auto junto = JuntoA(mesa, size() + kMarco, screen()->availableGeometry())) {
-        resize(junto->size() - kMarco);
+    const QSize marco = Marco();
+    const int minimo = qRound(kAnchoMinimo * aumento_);
+    if (const auto junto = JuntoA(mesa, size() + marco, minimo, screen()->availableGeometry())) {
+        resize(junto->size() - marco);
         move(junto->topLeft());
+        puesto_ = size();
     }
 }
 
+// Not where no screen shows the place any more. With another factor of the table it is as much larger or smaller.
+bool VistaAyuda::VuelveADondeEstaba() {
+    const QSettings ajustes = AjustesDeVentanas();
+    if (!EstaEnPantalla(ajustes.value(kConMarco).toRect()) ||
+        !restoreGeometry(ajustes.value(kSitio).toByteArray()))
+        return false;
+    const QSizeF suyo = ajustes.value(kEnMesa).toSizeF();
+    if (!suyo.isEmpty() && size() != (suyo * aumento_).toSize())
+        PonTamano(suyo, QRect());
+    return true;
+}
+
 void VistaAyuda::GuardaSitio() const {
-    if (situada_)
-        Ajustes().setValue(kSitio, saveGeometry());
+    if (!situada_)
+        return;
+    QSettings ajustes = AjustesDeVentanas();
+    ajustes.setValue(kSitio, saveGeometry());
+    ajustes.setValue(kConMarco, frameGeometry());
+    ajustes.setValue(kEnMesa, QSizeF(normalGeometry().size()) / aumento_);
+}
+
+QSize VistaAyuda::Marco() const {
+    return isVisible() ? frameGeometry().size() - size() : kMarcoSupuesto;
+}
+
+// As far as there is room for it. A window that fills the screen goes on doing so.
+void VistaAyuda::PonTamano(const QSizeF& en_mesa, const QRect& mesa) {
+    pedido_ = en_mesa;
+    if (isMaximized() || isFullScreen())
+        return;
+    const QSize marco = Marco();
+    const QRect pantalla = screen()->availableGeometry();
+    const QSizeF cabe =
+        (pedido_ * aumento_).boundedTo(pantalla.size()).expandedTo(minimumSizeHint());
+    const QRect sitio =
+        ConTamano(QRect(pos(), size() + marco), cabe.toSize() + marco, mesa, pantalla);
+    resize(sitio.size() - marco);
+    if (situada_ && sitio.topLeft() != pos())
+        move(sitio.topLeft());
+    puesto_ = size();
+}
+
+// What the player made of the size counts, what the screen did to it does not.
+QSizeF VistaAyuda::Pedido() const {
+    const QSize suyo = normalGeometry().size();
+    return suyo == puesto_ ? pedido_ : QSizeF(suyo) / aumento_;
+}
+
+void VistaAyuda::CreceConLaMesa(const QRect& mesa) {
+    const QSizeF pedido = Pedido();
+    const double aumento = AumentoPosible();
+    if (aumento == aumento_)
+        return;
+    aumento_ = aumento;
+    PonLetras();
+    PonTamano(pedido, mesa);
+    PonArbol();
+    hoja_->PonAumento(aumento_);
+}
+
+void VistaAyuda::CabeEnPantalla() {
+    const QRect sitio = DentroDe(screen()->availableGeometry(), frameGeometry());
+    if (!isVisible() || isMaximized() || isFullScreen() || sitio == frameGeometry())
+        return;
+    resize(sitio.size() - Marco());
+    move(sitio.topLeft());
 }
 
 void VistaAyuda::closeEvent(QCloseEvent* evento) {

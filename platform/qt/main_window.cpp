@@ -5,28 +5,19 @@
 #include <QKeyEvent>
 #include <QScreen>
 #include <QScrollBar>
-#include <QSettings>
 #include <QShortcut>
-#include <QStandardPaths>
 #include <QTimer>
 #include <QWindow>
-#include <algorithm>
 #include <optional>
 
 #include "platform/qt/scale.h"
 #include "platform/qt/suite_paint.h"
+#include "platform/qt/window_place.h"
 
 namespace {
 
 const QString kSitio = QStringLiteral("ventana/sitio");
 const QString kFactor = QStringLiteral("ventana/factor");
-
-// The window's place is the desktop's affair and stands with its settings, apart from the game's files.
-QSettings Ajustes() {
-    return QSettings(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) +
-                         QStringLiteral("/ventana.ini"),
-                     QSettings::IniFormat);
-}
 
 // The whole table. Only a screen that is smaller has a smaller window, in which the table scrolls.
 constexpr QSize kMinimo(800, 600);
@@ -59,14 +50,6 @@ std::optional<int> SentidoDe(const QKeyEvent& tecla) {
     }
 }
 
-// Moved into the place as far as it must be, and cut where it is too large.
-QRect DentroDe(const QRect& sitio, const QRect& ventana) {
-    QRect dentro(ventana.topLeft(), ventana.size().boundedTo(sitio.size()));
-    dentro.moveLeft(std::clamp(dentro.left(), sitio.left(), sitio.right() + 1 - dentro.width()));
-    dentro.moveTop(std::clamp(dentro.top(), sitio.top(), sitio.bottom() + 1 - dentro.height()));
-    return dentro;
-}
-
 } // namespace
 
 VentanaPrincipal::VentanaPrincipal(QWidget* mesa) {
@@ -86,13 +69,13 @@ VentanaPrincipal::VentanaPrincipal(QWidget* mesa) {
     const QSize pantalla = QApplication::primaryScreen()->availableSize();
     resize((pantalla * kParteDePantalla).expandedTo(minimumSize()));
     RecuerdaSitio();
-    VigilaPantallas();
+    VigilaPantallas(this, [this] { CabeEnPantalla(); });
     // The game lays its table out before the window is seen.
     mesa->resize((recordado_ ? size() : pantalla).expandedTo(mesa->minimumSize()));
 }
 
 void VentanaPrincipal::RecuerdaSitio() {
-    const QByteArray sitio = Ajustes().value(kSitio).toByteArray();
+    const QByteArray sitio = AjustesDeVentanas().value(kSitio).toByteArray();
     recordado_ = !sitio.isEmpty() && restoreGeometry(sitio);
     // As large as on a larger screen, or where there is none any more.
     if (recordado_ && !isMaximized())
@@ -100,24 +83,12 @@ void VentanaPrincipal::RecuerdaSitio() {
 }
 
 double VentanaPrincipal::FactorGuardado() {
-    const double factor = Ajustes().value(kFactor).toDouble();
+    const double factor = AjustesDeVentanas().value(kFactor).toDouble();
     return EsPasoDeFactor(factor) ? factor : 0;
 }
 
 void VentanaPrincipal::GuardaFactor(double factor) {
-    Ajustes().setValue(kFactor, factor);
-}
-
-// A screen goes, or shows less than before.
-void VentanaPrincipal::VigilaPantallas() {
-    const auto cambia = [this] { QTimer::singleShot(0, this, &VentanaPrincipal::CabeEnPantalla); };
-    const auto vigila = [this, cambia](QScreen* pantalla) {
-        connect(pantalla, &QScreen::availableGeometryChanged, this, cambia);
-    };
-    for (QScreen* pantalla : QGuiApplication::screens())
-        vigila(pantalla);
-    connect(qApp, &QGuiApplication::screenAdded, this, vigila);
-    connect(qApp, &QGuiApplication::screenRemoved, this, cambia);
+    AjustesDeVentanas().setValue(kFactor, factor);
 }
 
 void VentanaPrincipal::LlenaPantalla() {
@@ -173,7 +144,7 @@ void VentanaPrincipal::MuestraDentro() {
 
 void VentanaPrincipal::GuardaSitio() {
     if (isVisible() && !isFullScreen())
-        Ajustes().setValue(kSitio, saveGeometry());
+        AjustesDeVentanas().setValue(kSitio, saveGeometry());
 }
 
 void VentanaPrincipal::closeEvent(QCloseEvent* evento) {

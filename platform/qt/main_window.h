@@ -32,7 +32,6 @@ protected:
 
 private:
     void RecuerdaSitio();
-    void VigilaPantallas();
     void CabeEnPantalla();
     void MuestraDentro();
     void LlenaPantalla();

@@ -15,7 +15,7 @@ namespace {
 // The width at which the messages' hand-made lines fit and their next words do not.
 constexpr int kAnchoTexto = 444;
 constexpr int kMargen = 28;
-constexpr int kAltoLinea = 17;
+constexpr int kAltoLinea = 16;
 constexpr int kAltoBase = 136, kAltoPorLinea = 16;
 // What stands above and below the text: frame, band, air, buttons.
 constexpr int kAire = 18, kAltoBoton = 34;
@@ -60,8 +60,11 @@ void PintaLlena(QPainter& p, const QString& linea, const QPointF& base, int anch
     }
 }
 
+// Texts made of rows end with a line break, after which nothing stands.
 QString Parrafos(QString texto) {
     texto.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    while (texto.endsWith(u'\n'))
+        texto.chop(1);
     return texto.replace(u'\n', QChar(QChar::LineSeparator));
 }
 

@@ -68,6 +68,7 @@ PlataformaQt::PlataformaQt(const QString& carpeta)
     };
     ventana_->al_pedir_factor = [this](int sentido) { PideFactor(sentido); };
     deseo_ = VentanaPrincipal::FactorGuardado();
+    PonLetrasSueltas();
     AjustaFactor();
     InstalaAccesoControles();
 }
@@ -344,8 +345,22 @@ void PlataformaQt::AjustaFactor() {
     if (factor == FactorDeMesa())
         return;
     PonFactorDeMesa(factor);
-    QToolTip::setFont(LetraDe({.alto = qRound(kAltoConsejo * factor)}));
+    PonLetrasSueltas();
     RehazImagenes();
+    if (ayuda_)
+        ayuda_->CreceConLaMesa(MarcoDeVentana());
+}
+
+// Of what the toolkit brings up by itself.
+void PlataformaQt::PonLetrasSueltas() {
+    const QFont letra = LetraDe({.alto = qRound(kAltoConsejo * FactorDeMesa())});
+    QToolTip::setFont(letra);
+    QApplication::setFont(letra, "QMenu");
+}
+
+// Where the table is to be seen on the desktop; null as long as it is not.
+QRect PlataformaQt::MarcoDeVentana() const {
+    return ventana_->isVisible() ? ventana_->frameGeometry() : QRect();
 }
 
 // From the factor that shows, which is not the chosen one where that does not fit.
@@ -446,7 +461,7 @@ void PlataformaQt::Ayuda(int tema) {
     if (!ayuda_)
         ayuda_ = std::make_unique<VistaAyuda>(CarpetaAyuda(carpeta_),
                                               QStringList{carpeta_barajas_, carpeta_});
-    ayuda_->MuestraTema(tema, ventana_->isVisible() ? ventana_->frameGeometry() : QRect());
+    ayuda_->MuestraTema(tema, MarcoDeVentana());
 }
 
 void PlataformaQt::Minimiza() {

@@ -97,6 +97,8 @@ private:
     void AvisaTamano();
     // Takes the factor that the table's size and the player's wish ask for.
     void AjustaFactor();
+    void PonLetrasSueltas();
+    QRect MarcoDeVentana() const;
     void UsaBaraja(const QString& ruta, int columnas);
     QString BarajaQueViene(const QString& propia) const;
     void CuentaMalaBaraja(const QString& propia, const std::string& motivo);

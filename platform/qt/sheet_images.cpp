@@ -11,7 +11,7 @@
 namespace {
 
 // What is kept of painted pieces: a whole sheet at a high ratio. A window that is drawn larger and larger starts anew.
-constexpr qsizetype kTope = 12 * 1024 * 1024;
+constexpr qsizetype kTope = qsizetype{12} * 1024 * 1024;
 
 std::ptrdiff_t NumeroDe(const lamina::Recorte& recorte) {
     const auto pieza = std::ranges::find(lamina::kPiezas, recorte, &lamina::Pieza::sitio);

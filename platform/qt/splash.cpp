@@ -65,7 +65,7 @@ void Careta::paintEvent(QPaintEvent*) {
 
     if (con_emblema_) {
         constexpr lamina::Recorte kPieza = lamina::kEmblemaPortada;
-        estilo::PintaPieza(p, QPointF((kTamano.width() - kPieza.ancho) / 2, kAltoEmblema), kPieza);
+        estilo::PintaPieza(p, QPoint((kTamano.width() - kPieza.ancho) / 2, kAltoEmblema), kPieza);
     }
     const auto renglon = [&](int y, int alto, const QString& texto, const QColor& color) {
         p.setPen(color);

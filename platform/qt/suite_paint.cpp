@@ -108,8 +108,8 @@ QPalette Paleta() {
 }
 
 double AumentoDe(const QWidget& widget) {
-    const auto* dialogo = qobject_cast<const DialogoSuite*>(widget.window());
-    return dialogo == nullptr ? 1 : dialogo->Aumento();
+    const auto* ventana = dynamic_cast<const VentanaCrecida*>(widget.window());
+    return ventana == nullptr ? 1 : ventana->Aumento();
 }
 
 QRect CajaDe(const QWidget& widget) {
@@ -193,7 +193,7 @@ BotonSuite::BotonSuite(const QString& texto, QWidget* padre) : QPushButton(texto
 
 QSize BotonSuite::sizeHint() const {
     const int ancho = fontMetrics().horizontalAdvance(text()) + 36;
-    return {std::max(ancho, 104), 34};
+    return QSize(std::max(ancho, 104), 34) * estilo::AumentoDe(*this);
 }
 
 void BotonSuite::paintEvent(QPaintEvent*) {

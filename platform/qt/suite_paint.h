@@ -18,7 +18,15 @@ inline constexpr int kReborde = 5;         // the panel's rim
 
 // Colours of the dialogs for the standard widgets in them, the same on a dark desktop as on a light one.
 QPalette Paleta();
-// How many times as large as it was laid out the dialog is shown that a widget stands in; 1 anywhere else.
+// A window whose widgets are shown so many times as large as they were laid out.
+class VentanaCrecida {
+public:
+    virtual double Aumento() const = 0;
+
+protected:
+    ~VentanaCrecida() = default;
+};
+// How many times as large as it was laid out a widget is shown; 1 in a window that does not grow.
 double AumentoDe(const QWidget& widget);
 // The widget in pixels of its layout, and a point of it.
 QRect CajaDe(const QWidget& widget);
@@ -57,14 +65,14 @@ void DejaElTecladoALaCaja(const QWidget& ventana, const QEvent& evento);
 
 // A dialog without the desktop's frame; its title band moves it. Where the screen is too small for it, the
 // control that Tab comes to is brought into sight.
-class DialogoSuite : public QDialog {
+class DialogoSuite : public QDialog, public estilo::VentanaCrecida {
     Q_OBJECT
 public:
     DialogoSuite(const QString& titulo, QWidget* padre);
     // As much larger as the table is drawn, where the screen has room for it: everything in it grows, and keeps its
     // place from then on. Called once, when all of it is laid out.
     void CreceConLaMesa();
-    double Aumento() const { return aumento_; }
+    double Aumento() const override { return aumento_; }
     // Centred in a place of the screen, never with its upper edge or left edge outside it.
     void CentraEn(const QRect& donde);
 

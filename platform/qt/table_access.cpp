@@ -49,7 +49,7 @@ bool EsDePulsar(const Objetivo& objetivo) {
 }
 
 QString NombreCompleto(const Objetivo& objetivo) {
-    const QString nombre = QString::fromStdString(objetivo.nombre);
+    QString nombre = QString::fromStdString(objetivo.nombre);
     if (objetivo.estado.empty())
         return nombre;
     return nombre + QStringLiteral(", ") + QString::fromStdString(objetivo.estado);

@@ -5,6 +5,7 @@
 #include <QImage>
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 
 namespace prueba {
 
@@ -21,6 +22,17 @@ inline double Contraste(const QColor& a, const QColor& b) {
     const double mas = std::max(Luz(a), Luz(b));
     const double menos = std::min(Luz(a), Luz(b));
     return (mas + 0.05) / (menos + 0.05);
+}
+
+inline int Distancia(const QColor& a, const QColor& b) {
+    return std::abs(a.red() - b.red()) + std::abs(a.green() - b.green()) +
+           std::abs(a.blue() - b.blue());
+}
+
+// A point that shows colour is more letter than ground: what a letter's edge only touches does not decide whether it is
+// read.
+inline bool EsLetra(const QColor& fondo, const QColor& color, const QColor& letra) {
+    return Distancia(color, letra) < Distancia(color, fondo);
 }
 
 } // namespace prueba

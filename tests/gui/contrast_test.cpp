@@ -2,7 +2,6 @@
 // each text is measured where it falls, against the picture that lay there before it.
 
 #include <QTest>
-#include <cstdlib>
 #include <cstring>
 #include <functional>
 #include <map>
@@ -106,15 +105,6 @@ private:
         return QColor::fromRgbF(static_cast<float>(mezcla(propio.redF(), debajo.redF())),
                                 static_cast<float>(mezcla(propio.greenF(), debajo.greenF())),
                                 static_cast<float>(mezcla(propio.blueF(), debajo.blueF())));
-    }
-
-    // The point is more letter than ground: what a letter's edge only touches does not decide whether it is read.
-    static bool EsLetra(const QColor& antes, const QColor& despues, const QColor& letra) {
-        const auto lejos = [](const QColor& a, const QColor& b) {
-            return std::abs(a.red() - b.red()) + std::abs(a.green() - b.green()) +
-                   std::abs(a.blue() - b.blue());
-        };
-        return lejos(despues, letra) < lejos(despues, antes);
     }
 
     // Over every point that a letter covers.

@@ -32,6 +32,7 @@
 #include "table/whole_table.h"
 #include "tests/gui/deck_images.h"
 #include "tests/gui/open_form.h"
+#include "tests/gui/written_words.h"
 
 using namespace prueba;
 
@@ -76,9 +77,10 @@ class PruebaEstadis : public QObject {
 
     QTemporaryDir carpeta_;
     std::unique_ptr<Escritorio> mesa_;
-    QString texto_;   // what a screen reader was told of the page
-    int tinta_ = 0;   // of the page as painted
-    int esperas_ = 0; // waits of the match
+    QString texto_;       // what a screen reader was told of the page
+    int tinta_ = 0;       // of the page as painted
+    int esperas_ = 0;     // waits of the match
+    bool se_lee_ = false; // every word of the form
     bool cerrada_ = false;
 
     VistaControl* Vista(Control control, int indice) {
@@ -104,7 +106,7 @@ class PruebaEstadis : public QObject {
         mesa_->MuestraMesa();
         CambiaTamano();
         esperas_ = 0;
-        cerrada_ = false;
+        se_lee_ = cerrada_ = false;
     }
 
     // While the form stands open: it is looked at and left by its exit button.
@@ -121,6 +123,7 @@ class PruebaEstadis : public QObject {
         imagen.fill(Qt::white);
         hoja.render(&imagen);
         tinta_ = PixelesConTinta(imagen);
+        se_lee_ = TodoSeLee(*dialogo);
         Retrata(*dialogo, QString::number(estado.JuegoActivo));
         forma.Sal();
         cerrada_ = !estadis::Abierta();
@@ -184,6 +187,7 @@ private Q_SLOTS:
         QVERIFY(cerrada_);
         QVERIFY2(texto_.contains(dice), qPrintable(texto_));
         QVERIFY(tinta_ > 1000);
+        QVERIFY(se_lee_);
         QVERIFY(estado.PartidaEnCurso); // it was left to go on another day
     }
 };

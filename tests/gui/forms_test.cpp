@@ -61,6 +61,26 @@ bool EstaDentro(const QWidget& control, const QWidget& ventana) {
 class PruebaFormas : public QObject, protected MesaDeFormas {
     Q_OBJECT
 
+    // Personal over a real desktop, of which it asks something; what is done while the question stands. Then the
+    // desktop ends.
+    static void ConUnaPregunta(const std::function<void(Abierta& forma, QWidget& caja)>& hace) {
+        QTemporaryDir carpeta;
+        PlataformaQt escritorio(carpeta.path());
+        UsaPlataforma(escritorio);
+        escritorio.PonForma(Forma::Personal, AbreVistaPersonal);
+        estado.SonidoActivo = false;
+        QTimer::singleShot(0, &escritorio, [&] {
+            Abierta forma(*qobject_cast<QDialog*>(QApplication::activeModalWidget()));
+            QTimer::singleShot(100, &escritorio, [&] {
+                hace(forma, *QApplication::activeModalWidget());
+                escritorio.PideTermina();
+            });
+            forma.Pulsa(kSelEstado + 1);
+            forma.Pulsa(kSelCartas + 4);
+        });
+        escritorio.Abre(Forma::Personal);
+    }
+
 private Q_SLOTS:
     void init() { Empieza(kTute); }
 
@@ -295,46 +315,20 @@ private Q_SLOTS:
     }
 
     void AQuestionKeepsTheKeyboardWhenTheFormBehindItIsClicked() {
-        QTemporaryDir carpeta;
-        PlataformaQt escritorio(carpeta.path());
-        UsaPlataforma(escritorio);
-        escritorio.PonForma(Forma::Personal, AbreVistaPersonal);
-        estado.SonidoActivo = false;
         bool la_tiene = false;
-        QTimer::singleShot(0, &escritorio, [&] {
-            Abierta forma(*qobject_cast<QDialog*>(QApplication::activeModalWidget()));
-            QTimer::singleShot(100, &escritorio, [&] {
-                QWidget* caja = QApplication::activeModalWidget();
-                QVERIFY(caja != &forma.dialogo);
-                QTRY_COMPARE(QApplication::activeWindow(), caja);
-                forma.dialogo.activateWindow();
-                la_tiene = QTest::qWaitFor([&] { return QApplication::activeWindow() == caja; });
-                escritorio.PideTermina();
-            });
-            forma.Pulsa(kSelEstado + 1);
-            forma.Pulsa(kSelCartas + 4);
+        ConUnaPregunta([&](Abierta& forma, QWidget& caja) {
+            QVERIFY(&caja != &forma.dialogo);
+            QTRY_COMPARE(QApplication::activeWindow(), &caja);
+            forma.dialogo.activateWindow();
+            la_tiene = QTest::qWaitFor([&] { return QApplication::activeWindow() == &caja; });
         });
-        escritorio.Abre(Forma::Personal);
         QVERIFY(la_tiene);
     }
 
     void TheEndOfTheDesktopTakesAFormAndItsQuestionAway() {
-        QTemporaryDir carpeta;
-        PlataformaQt escritorio(carpeta.path());
-        UsaPlataforma(escritorio);
-        escritorio.PonForma(Forma::Personal, AbreVistaPersonal);
-        estado.SonidoActivo = false;
         bool preguntaba = false;
-        QTimer::singleShot(0, &escritorio, [&] {
-            Abierta forma(*qobject_cast<QDialog*>(QApplication::activeModalWidget()));
-            QTimer::singleShot(100, &escritorio, [&] {
-                preguntaba = QApplication::activeModalWidget()->objectName() == "mensajes";
-                escritorio.PideTermina();
-            });
-            forma.Pulsa(kSelEstado + 1);
-            forma.Pulsa(kSelCartas + 4);
-        });
-        escritorio.Abre(Forma::Personal);
+        ConUnaPregunta(
+            [&](Abierta&, QWidget& caja) { preguntaba = caja.objectName() == "mensajes"; });
         QVERIFY(preguntaba);
         QVERIFY(!personal::Abierta());
         QCOMPARE(estado.EstadoJugador(1), kActivado);

@@ -18,6 +18,7 @@
 #include "forms/form.h"
 #include "platform/qt/help_pictures.h"
 #include "platform/qt/help_viewer.h"
+#include "platform/qt/window_place.h"
 #include "reports/estadis.h"
 #include "reports/historic.h"
 #include "reports/marcador.h"
@@ -53,6 +54,15 @@ QStringList Visibles(VistaAyuda& ayuda) {
             titulos << (*rama)->text(0);
     }
     return titulos;
+}
+
+// The page, in a window of the size in which it first comes.
+const QTextBrowser* HojaALoAncho(VistaAyuda& ayuda) {
+    ayuda.MuestraTema(0);
+    QCoreApplication::processEvents(); // it has come to its place; what is asked of it now stays
+    ayuda.resize(980, 680);
+    QCoreApplication::processEvents();
+    return ayuda.findChild<QTextBrowser*>();
 }
 
 } // namespace
@@ -276,9 +286,25 @@ private Q_SLOTS:
         QVERIFY(una != dibujos.Dibujo(QUrl("carta:copas/sota"), 1));
         QVERIFY(dibujos.Dibujo(QUrl("esquina:picas/dama"), 1).width() == 22);
         QCOMPARE(dibujos.Dibujo(QUrl("foto:mesa.png/600"), 2).width(), 1200);
-        QCOMPARE(dibujos.Dibujo(QUrl("foto:mesa.png/600"), 2, 400).width(), 800);
+        QCOMPARE(dibujos.Dibujo(QUrl("foto:mesa.png/600"), 2, 1, 400).width(), 800);
         QCOMPARE(dibujos.Dibujo(QUrl("puntero:mano_verde"), 1.5).width(), 48);
         QCOMPARE(dibujos.Dibujo(QUrl("pieza:boton5_apagado"), 1).size(), QSize(50, 50));
+    }
+
+    void UnaCartaSeDibujaParaElTamanoDeLaMesa() {
+        DibujosAyuda dibujos(PaginasDelProyecto(), BarajasDelProyecto());
+        const QImage doble = dibujos.Dibujo(QUrl("carta:oros/sota"), 1, 2);
+        QCOMPARE(doble.deviceIndependentSize().toSize(), QSize(88, 122));
+        QCOMPARE(doble, dibujos.Dibujo(QUrl("carta:oros/sota/88"), 1));
+        QCOMPARE(dibujos.Dibujo(QUrl("carta:oros/sota"), 2, 1.5).width(), 132);
+        QCOMPARE(dibujos.Dibujo(QUrl("carta:dorso"), 1, 1.5).width(), 66);
+        QCOMPARE(dibujos.Dibujo(QUrl("esquina:picas/dama"), 1, 2.5).width(), 55);
+        QCOMPARE(dibujos.Dibujo(QUrl("pieza:boton5_apagado"), 2, 1.5).width(), 150);
+        QCOMPARE(dibujos.Dibujo(QUrl("puntero:mano_verde"), 1, 3).width(), 96);
+        // A whole number of the window's pixels, or the text would stretch it.
+        QCOMPARE(dibujos.Dibujo(QUrl("carta:oros/sota"), 2, 1.25).size(), QSize(110, 154));
+        dibujos.Olvida();
+        QCOMPARE(dibujos.Dibujo(QUrl("carta:oros/sota"), 1, 2), doble);
     }
 
     void LoQueNoSeSabeDibujarSeDeja() {
@@ -297,10 +323,7 @@ private Q_SLOTS:
 
     void LasHojasDeMesaCabenEnUnaPantalla() {
         VistaAyuda ayuda(PaginasDelProyecto(), BarajasDelProyecto());
-        ayuda.MuestraTema(0);
-        ayuda.resize(980, 680);
-        QCoreApplication::processEvents();
-        auto* hoja = ayuda.findChild<QTextBrowser*>();
+        const QTextBrowser* hoja = HojaALoAncho(ayuda);
         for (const int tema : {3119, 3129, 3139, 3149, 3159, 3169}) {
             ayuda.MuestraTema(tema);
             QVERIFY(hoja->toPlainText().size() > 500);
@@ -387,10 +410,7 @@ private Q_SLOTS:
 
     void NingunaPaginaSeSaleDeLaVentana() {
         VistaAyuda ayuda(PaginasDelProyecto(), BarajasDelProyecto());
-        ayuda.MuestraTema(0);
-        ayuda.resize(980, 680);
-        QCoreApplication::processEvents();
-        auto* hoja = ayuda.findChild<QTextBrowser*>();
+        const QTextBrowser* hoja = HojaALoAncho(ayuda);
         for (const PaginaAyuda& pagina : LeeContenido(PaginasDelProyecto())) {
             ayuda.MuestraTema(pagina.tema);
             QVERIFY2(hoja->horizontalScrollBar()->maximum() == 0, qPrintable(pagina.titulo));
@@ -400,14 +420,45 @@ private Q_SLOTS:
     void LaAyudaNoTapaLaMesaSiHaySitio() {
         const QRect pantalla(0, 0, 1920, 1080);
         const QSize ayuda(900, 700);
-        QCOMPARE(JuntoA({0, 40, 1000, 800}, ayuda, pantalla), QRect(1000, 40, 900, 700));
-        QCOMPARE(JuntoA({920, 400, 1000, 680}, ayuda, pantalla), QRect(20, 380, 900, 700));
-        QCOMPARE(JuntoA({0, 0, 1200, 1080}, ayuda, pantalla), QRect(1200, 0, 720, 700));
-        QVERIFY(!JuntoA(pantalla, ayuda, pantalla));
-        QVERIFY(!JuntoA({300, 0, 1320, 1080}, ayuda, pantalla));
-        QVERIFY(!JuntoA(QRect(), ayuda, pantalla));
-        const QRect baja = JuntoA({0, 0, 800, 600}, ayuda, {0, 0, 1600, 600}).value_or(QRect());
+        const auto junto = [&](const QRect& mesa) { return JuntoA(mesa, ayuda, 640, pantalla); };
+        QCOMPARE(junto({0, 40, 1000, 800}), QRect(1000, 40, 900, 700));
+        QCOMPARE(junto({920, 400, 1000, 680}), QRect(20, 380, 900, 700));
+        QCOMPARE(junto({0, 0, 1200, 1080}), QRect(1200, 0, 720, 700));
+        QCOMPARE(JuntoA({0, 0, 1200, 1080}, ayuda, 720, pantalla), QRect(1200, 0, 720, 700));
+        QVERIFY(!JuntoA({0, 0, 1200, 1080}, ayuda, 721, pantalla));
+        QVERIFY(!junto(pantalla));
+        QVERIFY(!junto({300, 0, 1320, 1080}));
+        QVERIFY(!junto(QRect()));
+        const QRect baja =
+            JuntoA({0, 0, 800, 600}, ayuda, 640, {0, 0, 1600, 600}).value_or(QRect());
         QCOMPARE(baja, QRect(800, 0, 800, 600));
+    }
+
+    void AlCrecerNoEmpiezaATaparLaMesa() {
+        const QRect pantalla(0, 0, 2560, 1440);
+        const QSize doble(1400, 1200);
+        const auto crece = [&](const QRect& ayuda, const QRect& mesa) {
+            return ConTamano(ayuda, doble, mesa, pantalla);
+        };
+        const QRect mesa(0, 0, 1600, 900);
+        QCOMPARE(crece({1600, 0, 700, 600}, mesa), QRect(1600, 0, 960, 1200)); // right of it
+        QCOMPARE(crece({0, 300, 700, 600}, mesa.translated(960, 0)), QRect(0, 240, 960, 1200));
+        QCOMPARE(crece({100, 900, 1000, 400}, mesa), QRect(100, 900, 1400, 540)); // below
+        QCOMPARE(crece({100, 0, 700, 400}, mesa.translated(0, 540)), QRect(100, 0, 1400, 540));
+        // Over the table already, and where there is none.
+        QCOMPARE(crece({1500, 0, 700, 600}, mesa), QRect(1160, 0, 1400, 1200));
+        QCOMPARE(crece({1600, 0, 700, 600}, QRect()), QRect(1160, 0, 1400, 1200));
+        // Half off the screen, where the free side would be less than it has.
+        QCOMPARE(crece({2400, 0, 700, 600}, mesa), QRect(1600, 0, 960, 1200));
+        QCOMPARE(crece({1600, 0, 1000, 600}, mesa), QRect(1160, 0, 1400, 1200));
+    }
+
+    void UnaVentanaSeMeteEnLaPantalla() {
+        const QRect pantalla(100, 0, 800, 600);
+        QCOMPARE(DentroDe(pantalla, {0, -20, 300, 200}), QRect(100, 0, 300, 200));
+        QCOMPARE(DentroDe(pantalla, {700, 500, 300, 200}), QRect(600, 400, 300, 200));
+        QCOMPARE(DentroDe(pantalla, {200, 50, 300, 200}), QRect(200, 50, 300, 200));
+        QCOMPARE(DentroDe(pantalla, {-9, -9, 3000, 2000}), pantalla);
     }
 
     void LaAyudaVuelveADondeEstaba() {
@@ -427,6 +478,8 @@ private Q_SLOTS:
     }
 
     void UnSitioQueYaNoExisteNoSeUsa() {
+        VistaAyuda primera(carpeta_.path());
+        const QSize de_siempre = primera.size();
         {
             VistaAyuda ayuda(carpeta_.path());
             ayuda.MuestraTema(0);
@@ -436,6 +489,22 @@ private Q_SLOTS:
         VistaAyuda otra(carpeta_.path());
         otra.MuestraTema(0);
         QVERIFY(QApplication::primaryScreen()->availableGeometry().intersects(otra.geometry()));
+        QCOMPARE(otra.size(), de_siempre); // nor is its size
+    }
+
+    void UnSitioQueSeVeAMediasSeMeteEnLaPantalla() {
+        const QRect pantalla = QApplication::primaryScreen()->availableGeometry();
+        {
+            VistaAyuda ayuda(carpeta_.path());
+            ayuda.MuestraTema(0);
+            ayuda.setGeometry(pantalla.right() - 100, 50, 500, 400);
+            ayuda.close();
+        }
+        VistaAyuda otra(carpeta_.path());
+        otra.MuestraTema(0);
+        QCoreApplication::processEvents();
+        QVERIFY(pantalla.contains(otra.frameGeometry()));
+        QCOMPARE(otra.size(), QSize(500, 400));
     }
 
     void ElIndiceTieneLasPaginasEnElOrdenDelArbol() {

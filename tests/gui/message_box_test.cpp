@@ -146,6 +146,17 @@ private Q_SLOTS:
             QCOMPARE(CajaQt(Caja(1, lineas), nullptr).height(), 16 * lineas + 136);
     }
 
+    // The rows of a result each end with a line break, the last one too.
+    void LasFilasDeUnResultadoNoLaAlargan() {
+        for (const int lineas : {2, 6, 16}) {
+            CajaMensaje resultado = Caja(1, lineas);
+            resultado.texto.clear();
+            for (int i = 0; i < lineas; ++i)
+                resultado.texto += "Ana: 21 puntos, gana 10\r\n";
+            QCOMPARE(CajaQt(resultado, nullptr).height(), 16 * lineas + 136);
+        }
+    }
+
     void CreceSiElTextoNoCabe() {
         CajaMensaje larga = Caja(1, 1);
         for (int i = 0; i < 12; ++i)

@@ -11,6 +11,7 @@
 
 #include "core/default_settings.h"
 #include "core/game_state.h"
+#include "core/random.h"
 #include "core/session_state.h"
 #include "forms/controls_view.h"
 #include "platform/headless/headless_platform.h"
@@ -80,6 +81,19 @@ protected:
         CalcularMesa();
         IniciarTablas();
         mesa_.sonidos.clear();
+    }
+    // Four seats of the computer; every question at the end is answered with a yes.
+    void JuegaUnaPartida() {
+        estado.CarpetaTrabajo = estado.CarpetaPrograma = ".";
+        estado.VelocidadJuego = 100;
+        estado.PausaEntreJugadas = false;
+        estado.LimitePartida = 2;
+        estado.RestoInicial = 50;
+        for (int asiento = 1; asiento <= 4; ++asiento)
+            estado.ControlJugador(asiento) = kAutomatico;
+        mesa_.siempre_continua = true;
+        FijaSemilla(7);
+        NuevaPartida();
     }
     std::vector<int> Sonidos() {
         std::vector<int> ids;

@@ -7,14 +7,12 @@
 #include <QWheelEvent>
 #include <QWindow>
 
-#include "core/random.h"
 #include "platform/qt/platform_qt.h"
 #include "reports/historic.h"
 #include "reports/historic_view.h"
 #include "reports/marcador.h"
 #include "reports/marcador_view.h"
 #include "reports/sheet_view.h"
-#include "session/match_driver.h"
 #include "storage/history.h"
 #include "tests/gui/open_form.h"
 
@@ -81,20 +79,6 @@ bool TieneTinta(const QImage& foto, Tinta tinta) {
 
 class PruebaInformes : public QObject, protected MesaDeFormas {
     Q_OBJECT
-
-    // Four seats of the computer; every question at the end is answered with a yes.
-    void JuegaUnaPartida() {
-        estado.CarpetaTrabajo = estado.CarpetaPrograma = ".";
-        estado.VelocidadJuego = 100;
-        estado.PausaEntreJugadas = false;
-        estado.LimitePartida = 2;
-        estado.RestoInicial = 50;
-        for (int asiento = 1; asiento <= 4; ++asiento)
-            estado.ControlJugador(asiento) = kAutomatico;
-        mesa_.siempre_continua = true;
-        FijaSemilla(7);
-        NuevaPartida();
-    }
 
 private Q_SLOTS:
     void init() {

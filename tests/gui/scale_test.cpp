@@ -9,12 +9,14 @@
 #include <QStandardPaths>
 #include <QTest>
 #include <QToolTip>
+#include <algorithm>
 #include <array>
 
 #include "core/numeric.h"
 #include "forms/controls_view.h"
 #include "forms/normas_view.h"
 #include "forms/personal_view.h"
+#include "platform/qt/help_viewer.h"
 #include "platform/qt/message_box.h"
 #include "platform/qt/open_screen.h"
 #include "platform/qt/picture_platform.h"
@@ -240,11 +242,31 @@ private Q_SLOTS:
         QCOMPARE(viva_.Vista(Control::Pic_Botonera)->height(),
                  900); // the game has not laid it out yet
         QCOMPARE(QToolTip::font().pixelSize(), 18);
+        QCOMPARE(QApplication::font("QMenu").pixelSize(), 18);
         viva_.Mesa().PonPuntero(Control::Mesa, 0, Puntero::Cambiar);
         QCOMPARE(viva_.Tapete()->cursor().pixmap().width(), 48);
         QCOMPARE(viva_.Tapete()->cursor().hotSpot(), QPoint(23, 24));
         Mide(800, 600);
         QCOMPARE(viva_.Tapete()->cursor().pixmap().width(), 32);
+        QCOMPARE(QToolTip::font().pixelSize(), 12);
+    }
+
+    void LaAyudaAbiertaCreceConLaMesa() {
+        Mide(1280, 800);
+        viva_.Mesa().Ayuda(0);
+        const auto ventanas = QApplication::topLevelWidgets();
+        const auto ayuda = std::ranges::find(ventanas, "ayuda", &QWidget::objectName);
+        QVERIFY(ayuda != ventanas.end());
+        const auto* vista = qobject_cast<const VistaAyuda*>(*ayuda);
+        QCOMPARE(vista->Aumento(), 1.0);
+        Mide(1920, 1080);
+        QVERIFY(vista->Aumento() > 1); // as far as this screen has room
+        for (int veces = 0; veces < 2; ++veces) {
+            Pulsa(Qt::Key_Minus);
+            Toma();
+        }
+        QCOMPARE(FactorDeMesa(), 1.0);
+        QCOMPARE(vista->Aumento(), 1.0);
     }
 
     // ---- what the player makes of it

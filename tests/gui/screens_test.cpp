@@ -2,8 +2,6 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QFile>
-#include <QProcess>
 #include <QScreen>
 #include <QScrollBar>
 #include <QSettings>
@@ -12,26 +10,25 @@
 #include <QTest>
 
 #include "platform/qt/message_box.h"
-#include "platform/qt/open_screen.h"
 #include "platform/qt/platform_qt.h"
 #include "platform/qt/scale.h"
+#include "tests/gui/test_screens.h"
 
 namespace {
 
-struct Clase {
-    const char* nombre;
-    int ancho, alto; // the screen's own pixels
-    const char* escala;
+// The last two are really below the smallest table: it is scrolled there.
+constexpr prueba::Pantalla kPantallas[] = {
+    {"una corriente", 1280, 800, "1"},
+    {"la menor", 800, 600, "1"},
+    {"una de 4K", 3840, 2160, "1"},
+    {"una de 4K a doble escala", 3840, 2160, "2"},
+    {"una a media escala", 1280, 800, "0.5"},
+    {"una a cinco escalas", 1920, 1080, "5"},
+    {"una pequeña a doble", 1280, 800, "2"},
+    {"una de escala quebrada", 1920, 1080, "1.4"},
+    {"una enana", 640, 480, "1"},
+    {"una baja", 1024, 500, "1"},
 };
-
-constexpr Clase kClases[] = {
-    {"una corriente", 1280, 800, "1"},        {"la menor", 800, 600, "1"},
-    {"una de 4K", 3840, 2160, "1"},           {"una de 4K a doble escala", 3840, 2160, "2"},
-    {"una a media escala", 1280, 800, "0.5"}, {"una a cinco escalas", 1920, 1080, "5"},
-    {"una pequeña a doble", 1280, 800, "2"},  {"una de escala quebrada", 1920, 1080, "1.4"},
-};
-// Real ones below the smallest table: it is scrolled there.
-constexpr Clase kEnanas[] = {{"una enana", 640, 480, "1"}, {"una baja", 1024, 500, "1"}};
 
 bool EsEnana() {
     const QScreen& pantalla = *QGuiApplication::primaryScreen();
@@ -146,42 +143,8 @@ private Q_SLOTS:
     }
 };
 
-// A screen is settled before the application stands: each has a run of its own.
 int main(int argc, char** argv) {
-    if (qEnvironmentVariableIsSet("ZOVIN_TEST_SCREEN")) {
-        const auto programa = AbrePantalla(argc, argv);
-        PruebaPantallas prueba;
-        return QTest::qExec(&prueba, argc, argv);
-    }
-    QTemporaryDir carpeta;
-    const auto corre = [&](const Clase& clase) {
-        const QString fichero = carpeta.filePath("pantalla.json");
-        QFile json(fichero);
-        if (!json.open(QIODevice::WriteOnly | QIODevice::Truncate))
-            return false;
-        json.write(QStringLiteral(R"({"screens": [{"name": "una", "x": 0, "y": 0, "width": %1,
-                   "height": %2, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})")
-                       .arg(clase.ancho)
-                       .arg(clase.alto)
-                       .toUtf8());
-        json.close();
-        qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + QFile::encodeName(fichero));
-        qputenv("QT_SCALE_FACTOR", clase.escala);
-        qputenv("ZOVIN_TEST_SCREEN", clase.nombre);
-        std::printf("%s: %d x %d, escala %s\n", clase.nombre, clase.ancho, clase.alto,
-                    clase.escala);
-        std::fflush(stdout);
-        QStringList palabras;
-        for (int i = 1; i < argc; ++i)
-            palabras << QString::fromLocal8Bit(argv[i]);
-        return QProcess::execute(QString::fromLocal8Bit(argv[0]), palabras) == 0;
-    };
-    int fallos = 0;
-    for (const Clase& clase : kClases)
-        fallos += corre(clase) ? 0 : 1;
-    for (const Clase& clase : kEnanas)
-        fallos += corre(clase) ? 0 : 1;
-    return fallos;
+    return prueba::CorreEnPantallas<PruebaPantallas>(kPantallas, argc, argv);
 }
 
 #include "screens_test.moc"

@@ -6,6 +6,7 @@
 
 #include "platform/qt/scale.h"
 #include "table/card_names.h"
+#include "table/deck.h"
 #include "table/layout.h"
 #include "table/seat_drawing.h"
 #include "table/targets.h"
@@ -34,16 +35,11 @@ class PruebaAccesoMesa : public QObject {
 
     VentanaViva ventana_;
 
-    static void PonMano(Integer asiento, std::initializer_list<Carta> cartas) {
-        int lugar = 0;
-        for (const Carta& carta : cartas) {
-            ++lugar;
-            estado.Mano(asiento, 1, lugar, kPalo) = carta.palo;
-            estado.Mano(asiento, 1, lugar, kValor) = carta.valor;
-            estado.Mano(asiento, 1, lugar, kCara) = estado.CartasJugador(asiento);
-            estado.Mano(asiento, 1, lugar, kAltura) = kEnLinea;
-        }
-        estado.NumCartas(asiento, 1) = static_cast<Integer>(lugar);
+    static void DaMano(Integer asiento, std::initializer_list<Carta> cartas) {
+        estado.NumCartas(asiento, 1) = 0;
+        for (const Carta& carta : cartas)
+            PonCarta(asiento, 1, ++estado.NumCartas(asiento, 1), carta,
+                     estado.CartasJugador(asiento));
     }
     // Seat 4's turn in a hand of Tute, three cards each; those of seat 2 are covered.
     void EmpiezaTurno() {
@@ -53,8 +49,8 @@ class PruebaAccesoMesa : public QObject {
         estado.CartasJugador(4) = kVisibles;
         estado.CartasJugador(2) = kOcultas;
         estado.EligeCarta = estado.EsperandoJugada = true;
-        PonMano(4, {{kOros, 1}, {kCopas, 10}, {kBastos, 12}});
-        PonMano(2, {{kEspadas, 1}, {kEspadas, 3}, {kEspadas, 12}});
+        DaMano(4, {{kOros, 1}, {kCopas, 10}, {kBastos, 12}});
+        DaMano(2, {{kEspadas, 1}, {kEspadas, 3}, {kEspadas, 12}});
         RedibujarMesa();
         Mira();
     }
@@ -188,7 +184,7 @@ private Q_SLOTS:
 
     void LaMismaCosaConservaSuSitioEnElRegistro() {
         const QAccessible::Id antes = QAccessible::uniqueId(Mesa()->child(0));
-        PonMano(4, {{kOros, 5}, {kBastos, 12}});
+        DaMano(4, {{kOros, 5}, {kBastos, 12}});
         RedibujarAsiento(4);
         Mira();
         QCOMPARE(QAccessible::uniqueId(Mesa()->child(0)), antes);
@@ -198,7 +194,7 @@ private Q_SLOTS:
 
     void LoQueSeVaDejaElRegistro() {
         const QAccessible::Id tercera = QAccessible::uniqueId(Mesa()->child(2));
-        PonMano(4, {{kOros, 5}, {kBastos, 12}});
+        DaMano(4, {{kOros, 5}, {kBastos, 12}});
         Mira();
         QVERIFY(QAccessible::accessibleInterface(tercera) == nullptr);
     }
@@ -218,7 +214,7 @@ private Q_SLOTS:
     }
 
     void UnaCartaMenosSeAvisaEnLaMesa() {
-        PonMano(4, {{kOros, 1}, {kCopas, 10}});
+        DaMano(4, {{kOros, 1}, {kCopas, 10}});
         Mira();
         QCOMPARE(Cuantos(QAccessible::ObjectReorder), 1);
         QCOMPARE(Cuantos(QAccessible::ObjectDestroyed), 1);
@@ -235,7 +231,7 @@ private Q_SLOTS:
     // A table that nobody listens to is not read.
     void SinNadieQueEscucheNoSeLeeLaMesa() {
         QAccessible::setActive(false);
-        PonMano(4, {{kOros, 5}});
+        DaMano(4, {{kOros, 5}});
         Mira();
         QVERIFY(avisos.empty());
         QVERIFY(Nombre(Mesa()->child(0)).startsWith("As de Oros"));

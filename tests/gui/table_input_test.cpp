@@ -2,11 +2,13 @@
 
 #include <QDialog>
 #include <QTest>
+#include <QTimer>
 
 #include "games/common/trick_state.h"
 #include "table/button_column.h"
 #include "table/deck.h"
 #include "table/layout.h"
+#include "table/messages.h"
 #include "table/seat_drawing.h"
 #include "tests/gui/live_window.h"
 #include "tests/gui/random_hand.h"
@@ -230,7 +232,15 @@ private Q_SLOTS:
 
     void UnClicEnLaPausaValeDondeSeDio() {
         PonCinquillo();
-        QTest::mouseClick(Tapete(), Qt::LeftButton, {}, EnLaCarta(4, 1));
+        estado.VelocidadJuego = 50;
+        const QPoint carta = EnLaCarta(4, 1);
+        bool dado = false;
+        QTimer::singleShot(20, Tapete(), [&] {
+            QTest::mouseClick(Tapete(), Qt::LeftButton, {}, carta);
+            dado = true;
+        });
+        Pausa(120);
+        QVERIFY(dado);
         QVERIFY(estado.EsperandoJugada); // nobody has taken it yet
         Mueve({355, 300});
         QVERIFY(estado.JugadaHecha);

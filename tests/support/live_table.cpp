@@ -25,6 +25,16 @@ std::vector<Carta> CartasDeLaBaraja() {
     return cartas;
 }
 
+// The calls of an operation among others.
+std::vector<std::string> LasDe(const std::string& operacion,
+                               const std::vector<std::string>& llamadas) {
+    std::vector<std::string> suyas;
+    std::ranges::copy_if(llamadas, std::back_inserter(suyas), [&](const std::string& llamada) {
+        return llamada.starts_with(operacion + "(");
+    });
+    return suyas;
+}
+
 } // namespace
 
 std::vector<double> AzarParaBaraja(const std::vector<Carta>& orden) {
@@ -118,11 +128,11 @@ void MesaViva::EmpiezaTraza() {
 }
 
 std::vector<std::string> MesaViva::TrazaDe(const std::string& operacion) const {
-    std::vector<std::string> suyas;
-    std::ranges::copy_if(traza, std::back_inserter(suyas), [&](const std::string& linea) {
-        return linea.starts_with(operacion + "(");
-    });
-    return suyas;
+    return LasDe(operacion, traza);
+}
+
+std::vector<std::string> MesaViva::Pintado(Control control, const std::string& operacion) {
+    return LasDe(operacion, p.Dibujado(control).Llamadas());
 }
 
 std::vector<std::string> MesaViva::Titulos() const {

@@ -68,6 +68,8 @@ protected:
     void EmpiezaTraza();
     std::vector<std::string> TrazaDe(const std::string& operacion) const;
     std::vector<std::string> Titulos() const;
+    // What was drawn on a recorded canvas with that operation, in its order.
+    std::vector<std::string> Pintado(Control control, const std::string& operacion);
     // The cards of a seat's first serie.
     static std::vector<Carta> ManoDe(Integer asiento);
     static Puntero PunteroEnMesa() { return plataforma().PunteroDe(Control::Mesa, 0); }

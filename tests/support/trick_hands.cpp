@@ -1,6 +1,7 @@
 #include "tests/support/trick_hands.h"
 
 #include "games/common/trick_state.h"
+#include "table/deck.h"
 
 #include <string>
 
@@ -79,13 +80,8 @@ void MesaDeBazas(Integer juego, Integer jugadores) {
 void PonMano(Integer asiento, const std::vector<Carta>& cartas) {
     VaciaMano(asiento);
     int lugar = 0;
-    for (const Carta& carta : cartas) {
-        ++lugar;
-        estado.Mano(asiento, 1, lugar, kPalo) = carta.palo;
-        estado.Mano(asiento, 1, lugar, kValor) = carta.valor;
-        estado.Mano(asiento, 1, lugar, kCara) = estado.CartasJugador(asiento);
-        estado.Mano(asiento, 1, lugar, kAltura) = kEnLinea;
-    }
+    for (const Carta& carta : cartas)
+        PonCarta(asiento, 1, ++lugar, carta, estado.CartasJugador(asiento));
     estado.NumCartas(asiento, 1) = static_cast<Integer>(lugar);
 }
 

@@ -211,6 +211,7 @@ const std::array kLlamadas{Llamada{1, {488, 16}},  Llamada{2, {352, 356}}, Llama
                            Llamada{4, {582, 592}}, Llamada{5, {238, 640}}, Llamada{6, {862, 240}},
                            Llamada{7, {856, 646}}, Llamada{8, {164, 58}}};
 constexpr QSize kMesaDeMuestra(960, 680);
+constexpr int kPixelesDeMuestra = 2; // of the picture for each of the table
 constexpr int kRadioLlamada = 16;
 constexpr QColor kLlamadaFondo(255, 226, 122), kLlamadaTinta(20, 20, 20);
 
@@ -249,11 +250,12 @@ void AlisaFieltro(QImage& mesa) {
 void HazMesa(const Carpetas& carpetas) {
     const QString toma = carpetas.salida + "/mesa.png";
     QImage mesa = QImage(toma).convertToFormat(QImage::Format_RGB32);
-    if (mesa.size() != kMesaDeMuestra)
+    if (mesa.size() != kMesaDeMuestra * kPixelesDeMuestra)
         Falla(toma, "not a picture of the table that the numbers are for");
     AlisaFieltro(mesa);
     QPainter pintor(&mesa);
     pintor.setRenderHint(QPainter::Antialiasing);
+    pintor.scale(kPixelesDeMuestra, kPixelesDeMuestra);
     QFont letra = pintor.font();
     letra.setPixelSize(19);
     letra.setBold(true);

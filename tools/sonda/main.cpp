@@ -20,10 +20,7 @@ int main(int argc, char** argv) { // NOLINT(bugprone-exception-escape)
     InstalaFicherosDelPrograma(mesa, CarpetaDeDatos());
     if (!carpeta.empty())
         mesa.UsaCarpeta(carpeta);
-    Consola consola(mesa, std::cout,
-                    [&mesa](const std::string& fichero, std::optional<Forma> abierta) {
-                        PintaPantalla(mesa, abierta, fichero);
-                    });
+    Consola consola(mesa, std::cout, PintorDe(mesa));
     for (std::string linea; std::getline(std::cin, linea);)
         consola.Linea(linea);
     return consola.HuboErrores() ? 1 : 0;

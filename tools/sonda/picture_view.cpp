@@ -60,8 +60,9 @@ QImage FotoDe(Forma forma) {
     return {};
 }
 
-// In the middle of the table, as the window shows it.
-void PonEncima(QImage& cuadro, const QImage& forma) {
+// In the middle of the table, as the window shows it; both in device pixels.
+void PonEncima(QImage& cuadro, QImage forma) {
+    forma.setDevicePixelRatio(1);
     QPainter(&cuadro).drawImage((cuadro.width() - forma.width()) / 2,
                                 (cuadro.height() - forma.height()) / 2, forma);
 }
@@ -71,13 +72,11 @@ std::string RutaDeBaraja() {
     return CarpetaDeDatos() + "/" + nombre;
 }
 
-} // namespace
-
 void PintaPantalla(const PlataformaSinPantalla& mesa, std::optional<Forma> abierta,
                    const std::string& fichero) {
     ArrancaLetras();
     const QImage forma = abierta ? FotoDe(*abierta) : QImage();
-    PlataformaCuadro cuadro;
+    PlataformaCuadro cuadro(qApp->devicePixelRatio());
     cuadro.Mide(estado.AnchoPantalla, estado.AltoPantalla);
     cuadro.CargaBaraja(RutaDeBaraja(), estado.ColumnasBaraja);
     mesa.Tablero().CopiaEn(cuadro);
@@ -92,4 +91,12 @@ void PintaPantalla(const PlataformaSinPantalla& mesa, std::optional<Forma> abier
     PonEncima(pantalla, forma);
     if (!pantalla.save(QString::fromStdString(fichero)))
         throw ErrorConsola("no se puede escribir " + fichero);
+}
+
+} // namespace
+
+Consola::Pintor PintorDe(const PlataformaSinPantalla& mesa) {
+    return [&mesa](const std::string& fichero, std::optional<Forma> abierta) {
+        PintaPantalla(mesa, abierta, fichero);
+    };
 }

@@ -62,11 +62,18 @@ class Record:
 
     def __init__(self, line):
         self.total = int(line[9:14])
+        self.winner = None  # the seat whose mark stands alone
         self.first, self.second = {}, {}
         for seat, name in NAMES.items():
             at = 37 * (seat - 1)
+            if line[at + 14] == "1":
+                self.winner = name
             self.first[name] = line[at + 18:at + 35].strip()
             self.second[name] = line[at + 35:at + 50].strip()
+
+
+def is_winner(name, of, words):
+    return (f"{name}, has ganado {of}." if name == ME else f"Ha ganado {of} {name}") in words
 
 
 class Match:
@@ -170,10 +177,37 @@ class Match:
     def said(self, words):
         return [told for told in self.heard if words in told]
 
+    def hands(self):
+        """What was said in each hand."""
+        hands = []
+        for words in self.heard:
+            if words.startswith("Mano "):
+                hands.append([])
+            elif hands:
+                hands[-1].append(words)
+        return hands
+
+    def boxes_of(self, title):
+        return [words for name, words in self.boxes if name == title]
+
     def last_box(self, title):
-        told = [words for name, words in self.boxes if name == title]
+        told = self.boxes_of(title)
         expect(told, f"the box «{title}»")
         return told[-1]
+
+    def expect_winners(self, winners, needed):
+        """The hands have been won by these, each hand as it was told and written; the last of them has won the match."""
+        records, told = self.folder.records(), self.boxes_of("Final de la mano")
+        expect(len(winners) == len(told) == len(records),
+               f"{len(winners)} hands heard, {len(told)} in boxes, {len(records)} written")
+        for winner, words, record in zip(winners, told, records):
+            expect(is_winner(winner, "la mano", words), f"{winner} heard, in the box: {words}")
+            expect(record.winner == winner, f"{winner} heard, {record.winner} written")
+        winner = winners[-1]
+        won = {name: winners.count(name) for name in NAMES.values()}
+        expect(won.pop(winner) == needed and max(won.values()) < needed, f"{needed} hands win: {winners}")
+        expect(is_winner(winner, "la partida", self.last_box("Final de Partida")), "the box tells the same winner")
+        expect(self.folder.winner() == winner, f"{winner} heard, {self.folder.winner()} in the history")
 
 
 def run(test):

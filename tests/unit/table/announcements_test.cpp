@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "table/button_column.h"
+#include "table/side_buttons.h"
 #include "tests/support/live_table.h"
 
 using namespace prueba;
@@ -67,6 +68,7 @@ TEST_F(Anuncios, LosPuntosDeLaPlacaVanConElTurno) {
     PonVista(4, 1, {kOros, kReyFrances}, kDescubierta);
     PonVista(4, 2, {kCopas, 7}, kDescubierta);
     estado.NumCartas(4, 1) = 2;
+    MostrarPuntos(4);
     DiAQuienSeEspera();
     EXPECT_THAT(p.anuncios, ElementsAre("Le toca a Eva, con 17"));
 }

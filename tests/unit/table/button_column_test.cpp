@@ -16,13 +16,17 @@ struct Columna : MesaViva {
     // The lines of the green button: height and words.
     std::vector<std::string> Renglones() {
         std::vector<std::string> renglones;
-        for (const std::string& llamada : p.Dibujado(Control::Pic_BotContinuar).Llamadas()) {
-            if (llamada.starts_with("Texto("))
-                renglones.push_back(llamada.substr(0, llamada.find(';')));
-        }
+        for (const std::string& texto : Pintado(Control::Pic_BotContinuar, "Texto"))
+            renglones.push_back(texto.substr(0, texto.find(';')));
         return renglones;
     }
     Rectangulo Boton(int indice) { return p.Tablero().LugarDe({Control::Pic_Boton, indice}); }
+    // The seat's turn, for which the green button is offered.
+    void OfreceElTurnoDe(Integer asiento, const std::string& nombre) {
+        ManoEmpezada(asiento);
+        estado.NombreJugador(asiento) = nombre;
+        PedirContinuar(1);
+    }
 };
 
 } // namespace
@@ -63,17 +67,13 @@ TEST_F(Columna, EntreManosElBotonVerdeDiceContinuar) {
 }
 
 TEST_F(Columna, EnElTurnoDeUnaPersonaOfreceJugarPorElla) {
-    ManoEmpezada(4);
-    estado.NombreJugador(4) = "Ana";
-    PedirContinuar(1);
+    OfreceElTurnoDe(4, "Ana");
     EXPECT_EQ(Renglones(),
               (std::vector<std::string>{"Texto(43, 3, \"Ana\"", "Texto(43, 18, \"automático\""}));
 }
 
 TEST_F(Columna, EnElTurnoAutomaticoDiceQuienJuega) {
-    ManoEmpezada(2);
-    estado.NombreJugador(2) = "Luis";
-    PedirContinuar(1);
+    OfreceElTurnoDe(2, "Luis");
     EXPECT_EQ(RotuloVerde(), "Juega Luis");
 }
 
@@ -107,9 +107,7 @@ TEST_F(Columna, ElBotonQueEstaCorridoSePintaEnLaLineaDeLosDemas) {
 }
 
 TEST_F(Columna, ElBotonQueJugariaPorLaPersonaLoDice) {
-    ManoEmpezada(4);
-    estado.NombreJugador(4) = "Ana";
-    PedirContinuar(1);
+    OfreceElTurnoDe(4, "Ana");
     EXPECT_EQ(RotuloVerde(), "Ana automático: el programa juega por este jugador");
 }
 

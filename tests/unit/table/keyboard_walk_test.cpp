@@ -49,6 +49,13 @@ struct Teclado : MesaViva {
         estado.EligeCarta = true;
         estado.EsperandoJugada = true;
     }
+    // What would move the framed card leaves the hand as it is.
+    void NoSeOrdenaCon(Mando mueve) {
+        const Cartas antes = ManoDe(4);
+        Pulsa(Mando::Derecha);
+        Pulsa(mueve);
+        EXPECT_EQ(ManoDe(4), antes);
+    }
     void Extiende() {
         Juega(kBrisca);
         estado.SistemaReparto = kRepartoManual;
@@ -223,10 +230,7 @@ TEST_F(Teclado, TrasOrdenarSeSigueSabiendoQueSePuedeJugar) {
 TEST_F(Teclado, UnaManoTapadaNoSeOrdena) {
     Elige();
     estado.CartasJugador(4) = kOcultas;
-    const Cartas antes = ManoDe(4);
-    Pulsa(Mando::Derecha);
-    Pulsa(Mando::MayusIzquierda);
-    EXPECT_EQ(ManoDe(4), antes);
+    NoSeOrdenaCon(Mando::MayusIzquierda);
 }
 
 TEST_F(Teclado, EnBlackJackNoSeOrdena) {
@@ -234,10 +238,7 @@ TEST_F(Teclado, EnBlackJackNoSeOrdena) {
     PonMano(4, {{kOros, 1}, {kOros, 2}});
     ManoEmpezada(4);
     estado.EsperandoJugada = true;
-    const Cartas antes = ManoDe(4);
-    Pulsa(Mando::Derecha);
-    Pulsa(Mando::MayusDerecha);
-    EXPECT_EQ(ManoDe(4), antes);
+    NoSeOrdenaCon(Mando::MayusDerecha);
 }
 
 TEST_F(Teclado, LasFichasSePonenConArriba) {

@@ -230,6 +230,15 @@ TEST_F(RepartoAMano, LaCartaColgadaPuedePasarDeUnAsientoLlenoAOtro) {
     EXPECT_EQ(ManoDe(1), (std::vector<Carta>{{kOros, 4}}));
 }
 
+TEST_F(RepartoAMano, LaCartaQueSeTomaDejaElPunteroSinForma) {
+    Extendido();
+    Toma({kOros, 1});
+    Mueve(kZona[4].x, kZona[4].y);
+    EXPECT_EQ(estado.NumCartas(4, 1), 1);
+    EXPECT_EQ(estado.CursorTabla, 0);
+    EXPECT_EQ(Sobre(SobreCarta(4, 1)), Puntero::ManoVerde);
+}
+
 TEST_F(RepartoAMano, QuienNoJuegaNoTomaCartas) {
     Desactiva({1});
     Extendido();

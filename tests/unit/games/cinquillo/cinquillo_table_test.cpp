@@ -102,32 +102,24 @@ struct TendidoPintado : Tendido {
         vista.nombres = true;
         estado.CartasEnMazo = 0;
     }
-    std::vector<std::string> Pintado(const std::string& que) {
-        std::vector<std::string> suyas;
-        for (const std::string& llamada : p.Dibujado(Control::Mesa).Llamadas()) {
-            if (llamada.starts_with(que + "("))
-                suyas.push_back(llamada);
-        }
-        return suyas;
-    }
 };
 
 } // namespace
 
 TEST_F(TendidoPintado, LosSitiosDeLosCincosSeVenVeladosMientrasEstanVacios) {
     PintaTendido();
-    EXPECT_EQ(Pintado("Velo").size(), 4U);
+    EXPECT_EQ(Pintado(Control::Mesa, "Velo").size(), 4U);
     bazas.CartaJugada(kCopas, 5) = 2;
     p.Dibujado(Control::Mesa).Olvida();
     PintaTendido();
-    EXPECT_EQ(Pintado("Velo").size(), 3U);
-    EXPECT_EQ(Pintado("Carta").size(), 4U);
+    EXPECT_EQ(Pintado(Control::Mesa, "Velo").size(), 3U);
+    EXPECT_EQ(Pintado(Control::Mesa, "Carta").size(), 4U);
 }
 
 TEST_F(TendidoPintado, MientrasSeReparteNoSeVen) {
     estado.CartasEnMazo = 12;
     PintaTendido();
-    EXPECT_TRUE(Pintado("Velo").empty());
+    EXPECT_TRUE(Pintado(Control::Mesa, "Velo").empty());
 }
 
 // At 800 by 600 a strip of 12 pixels is to be seen of a card: its number is written into that.
@@ -135,9 +127,9 @@ TEST_F(TendidoPintado, ElNumeroDeUnaCartaCubiertaSeLeeEntero) {
     for (const Integer valor : {Integer{5}, Integer{6}, Integer{7}, Integer{10}})
         bazas.CartaJugada(kOros, valor) = 1;
     PintaTendido();
-    EXPECT_EQ(Pintado("Texto").size(), 3U); // the 5 is whole
+    EXPECT_EQ(Pintado(Control::Mesa, "Texto").size(), 3U); // the 5 is whole
     Mide(1280, 800);
     p.Dibujado(Control::Mesa).Olvida();
     PintaTendido();
-    EXPECT_TRUE(Pintado("Texto").empty());
+    EXPECT_TRUE(Pintado(Control::Mesa, "Texto").empty());
 }

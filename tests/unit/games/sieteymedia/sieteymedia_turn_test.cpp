@@ -407,7 +407,7 @@ TEST_F(TurnoDePersona, ElConsejoDeLaTapada) {
     EXPECT_TRUE(p.EstaVisible(Control::Pic_Sugerencia, 0));
 }
 
-TEST_F(TurnoDePersona, ElConsejoDeLaTapadaSeVaAlVolverla) {
+TEST_F(TurnoDePersona, ElConsejoDeLaTapadaSigueALaVistaTrasVolverla) {
     estado.VentanaInfo = 1;
     Saldra({{kOros, 5}}, {0.5, 0.75});
     Verde();
@@ -415,7 +415,7 @@ TEST_F(TurnoDePersona, ElConsejoDeLaTapadaSeVaAlVolverla) {
     Juega();
     EXPECT_EQ(TrazaDe("MostrarSugerencia").back(), "MostrarSugerencia(34)");
     EXPECT_EQ(estado.Mano(4, 1, 1, kTapada), 0);
-    EXPECT_FALSE(p.EstaVisible(Control::Pic_Sugerencia, 0));
+    EXPECT_TRUE(p.EstaVisible(Control::Pic_Sugerencia, 0));
 }
 
 TEST_F(TurnoDePersona, ElConsejoDeLasMedias) {
@@ -434,7 +434,7 @@ TEST_F(TurnoDePersona, ElConsejoDeCantar) {
     EXPECT_THAT(TrazaDe("MostrarSugerencia"), Contains("MostrarSugerencia(36)"));
 }
 
-TEST_F(TurnoDePersona, ElConsejoDeCantarSeVaAlCantar) {
+TEST_F(TurnoDePersona, ElConsejoDeCantarSigueALaVistaAlCantar) {
     estado.VentanaInfo = 1;
     Saldra({{kOros, 7}, {kOros, 6}, {kOros, 5}, {kCopas, 6}, {kCopas, kRey}}, Azares(10, 0.75));
     bool cantada = false;
@@ -443,7 +443,7 @@ TEST_F(TurnoDePersona, ElConsejoDeCantarSeVaAlCantar) {
             return;
         cantada = true;
         EXPECT_EQ(estado.TipActual, 36);
-        EXPECT_FALSE(p.EstaVisible(Control::Pic_Sugerencia, 0));
+        EXPECT_TRUE(p.EstaVisible(Control::Pic_Sugerencia, 0));
     };
     Verde();
     Pide();

@@ -160,7 +160,7 @@ struct CambioConRaton : MesaViva {
 
 } // namespace
 
-TEST_F(CambioConRaton, AlCambiarElPunteroYElConsejoDejanDeOfrecerlo) {
+TEST_F(CambioConRaton, AlCambiarElPunteroDejaDeOfrecerloYElConsejoSigue) {
     estado.VentanaInfo = 1;
     MostrarSugerencia(42);
     Mueve(estado.MazoX + 50, estado.MazoY + 50);
@@ -168,7 +168,7 @@ TEST_F(CambioConRaton, AlCambiarElPunteroYElConsejoDejanDeOfrecerlo) {
     Clic(estado.MazoX + 50, estado.MazoY + 50);
     EXPECT_EQ(estado.ValorTriunfo, 7);
     EXPECT_NE(PunteroEnMesa(), Puntero::Cambiar);
-    EXPECT_FALSE(p.EstaVisible(Control::Pic_Sugerencia, 0));
+    EXPECT_TRUE(p.EstaVisible(Control::Pic_Sugerencia, 0));
 }
 
 TEST_F(CambioConRaton, UnConsejoDeOtraCosaSeQueda) {
