@@ -126,10 +126,11 @@ void PonApuestaDeSalida() {
     Integer asiento = estado.JugadorMano;
     for (int turno = 1; turno <= 4; ++turno) {
         EmpiezaTurnoDeApuesta(asiento);
+        const Integer antes = ApuestaTotal(asiento, kSeriePoker); // what a void hand has left
         if (const Integer cantidad = LoQuePoneDeSalida(asiento); cantidad > 0)
             ColocaApuesta(asiento, cantidad);
-        if (ApuestaTotal(asiento, kSeriePoker) > 0)
-            DiDe(asiento, "pone " + Numero(ApuestaTotal(asiento, kSeriePoker)) + " de salida");
+        if (const int puesto = ApuestaTotal(asiento, kSeriePoker) - antes; puesto > 0)
+            DiDe(asiento, "pone " + Numero(puesto) + " de salida");
         SiguienteAsiento(asiento);
     }
 }

@@ -63,8 +63,7 @@ class Ledger:
         if rest.startswith(("Descarto ", "No quiero cartas")):
             self._new_round()
         elif name in self.funds and rest.startswith("pone "):
-            # All that the seat has in the pot by then, with what a void hand has left there.
-            self._put_in(name, int(rest.split(" ")[1]) - self.in_pot[name])
+            self._put_in(name, int(rest.split(" ")[1]))
         elif name in self.funds and rest.startswith("cobra "):
             amount = int(rest.split(" ")[1])
             self.funds[name] += amount

@@ -30,7 +30,6 @@ namespace {
 
 constexpr prueba::Pantalla kPantallas[] = {
     {"la menor", 800, 600, "1"},
-    {"una corriente", 1280, 800, "1"},
     {"una grande", 2560, 1440, "1"},
     {"una fina a doble escala", 3200, 2000, "2"},
 };
