@@ -33,7 +33,9 @@ function(zovin_gtest name label)
     GTest::gtest GTest::gmock GTest::gtest_main)
   zovin_plain_numbers(${name})
   # A line of a failed test is all that is looked up in them: the rest would be a third of their time in the compiler.
-  target_compile_options(${name} PRIVATE $<$<CONFIG:Debug>:-g1>)
+  if(NOT DEFINED ENV{CI})
+    target_compile_options(${name} PRIVATE $<$<CONFIG:Debug>:-g1>)
+  endif()
   precompiled(${name} <gmock/gmock.h> <gtest/gtest.h> <fmt/format.h>)
   gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
     TEST_PREFIX "${label}." WORKING_DIRECTORY "${test_scratch}"
