@@ -67,6 +67,13 @@ int Cabeza(VistaAyuda& ayuda) {
     return Hoja(ayuda).cursorForPosition({30, 0}).blockNumber();
 }
 
+void AbreA(VistaAyuda& ayuda, const QSize& tamano) {
+    ayuda.MuestraTema(0);
+    QCoreApplication::processEvents(); // it has come to its place; what is asked of it now stays
+    ayuda.resize(tamano);
+    QCoreApplication::processEvents();
+}
+
 QStringList Marcadas(const QTextBrowser& hoja) {
     QStringList marcadas;
     for (const auto& marca : hoja.extraSelections())
@@ -204,11 +211,7 @@ private Q_SLOTS:
         for (const double factor : Extremos()) {
             PonFactorDeMesa(factor);
             VistaAyuda ayuda(Paginas(), Barajas());
-            ayuda.MuestraTema(0);
-            QCoreApplication::
-                processEvents(); // it has come to its place; what is asked of it now stays
-            ayuda.resize(kPrimera * factor);
-            QCoreApplication::processEvents();
+            AbreA(ayuda, kPrimera * factor);
             const QTextBrowser& hoja = Hoja(ayuda);
             for (const int tema : {3119, 3129, 3139, 3149, 3159, 3169}) {
                 ayuda.MuestraTema(tema);
@@ -225,11 +228,7 @@ private Q_SLOTS:
         for (const double factor : Extremos()) {
             PonFactorDeMesa(factor);
             VistaAyuda ayuda(Paginas(), Barajas());
-            ayuda.MuestraTema(0);
-            QCoreApplication::
-                processEvents(); // it has come to its place; what is asked of it now stays
-            ayuda.resize(kPrimera * factor);
-            QCoreApplication::processEvents();
+            AbreA(ayuda, kPrimera * factor);
             for (const int tema : {1010, 2100, 3130, 3131, 3140, 3160}) { // the broad ones
                 ayuda.MuestraTema(tema);
                 QVERIFY2(Hoja(ayuda).horizontalScrollBar()->maximum() == 0,
